@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace platform
+{
+
+enum class DeviceClass { Media, Camera, AudioEndpoint };
+
+struct DeviceRecord {
+    QString instanceId;   ///< for example USB\\VID_1234&PID_5678\\SERIAL
+    QString friendlyName; ///< empty when the device has none
+
+    bool operator==(const DeviceRecord&) const = default;
+};
+
+/// Appends one record for each present device of the class, in a steady order. False when the class
+/// cannot be listed; `errorCode` is then GetLastError() or errno. Any thread.
+bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32& errorCode);
+
+} // namespace platform

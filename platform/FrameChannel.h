@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace platform
+{
+
+/// Reading end of a named shared memory that another process fills and announces through a named
+/// event. It never creates either object and never writes to the memory.
+///
+/// One thread reads: every operation but interrupt() belongs to it. The writer is not trusted: it
+/// may die, come back with new objects, or cut the memory short while it is being read.
+class FrameChannel
+{
+public:
+    enum class OpenStep { Mapping, View, Event, Done };
+
+    struct OpenResult {
+        OpenStep failedAt = OpenStep::Done; ///< Done: the channel is open
+        quint32 error = 0;                  ///< GetLastError() or errno of the failed step
+    };
+
+    enum class WaitOutcome {
+        Signalled, ///< announced at least once since the last wait
+        TimedOut,
+        Interrupted, ///< by interrupt(), now or since the last wait
+        Failed,
+    };
+
+    struct WaitResult {
+        WaitOutcome outcome = WaitOutcome::Failed;
+        quint32 error = 0; ///< GetLastError() or errno when it failed
+    };
+
+    virtual ~FrameChannel() = default;
+    FrameChannel(const FrameChannel&) = delete;
+    FrameChannel& operator=(const FrameChannel&) = delete;
+
+    /// Opens mapping, view and event in this order; closes what an earlier attempt left first.
+    virtual OpenResult open() = 0;
+    virtual bool isOpen() const = 0;
+    virtual void close() = 0;
+
+    /// Waits until the writer announces a frame. Announcements made while nobody waited count as
+    /// one. A wait that timed out closes the channel when the writer has made new objects under the
+    /// old names: ask isOpen() afterwards.
+    virtual WaitResult wait(std::chrono::milliseconds patience) = 0;
+
+    /// Bytes in the view while it is open.
+    virtual std::size_t size() const = 0;
+
+    /// Copies out of the shared memory, in one pass. False when the channel is closed, the range is
+    /// outside the view, or the writer has taken the memory away; `target` is then partly filled.
+    virtual bool copyOut(std::size_t offset, void* target, std::size_t length) = 0;
+
+    /// Ends the current wait, or else the next one. Any thread, as long as the object lives.
+    virtual void interrupt() = 0;
+
+protected:
+    FrameChannel() = default;
+};
+
+/// @param mappingName, eventName  names without a leading slash
+/// @param viewSize                bytes of the view; a smaller object cannot be opened
+[[nodiscard]] std::unique_ptr<FrameChannel>
+makeFrameChannel(std::string mappingName, std::string eventName, std::size_t viewSize);
+
+} // namespace platform
