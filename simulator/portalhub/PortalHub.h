@@ -17,10 +17,10 @@ namespace PortalHubApi
 /// What a call came to. Callers may ignore it: nothing that failed is tried again.
 enum class ErrorCode : int {
     Success = 0,
-    NotConnected = 1,    ///< there is no connection; the message was dropped
-    BufferFull = 2,      ///< the peer does not read; the message was dropped
-    MessageTooLong = 3,  ///< longer than the channel carries; the message was dropped
-    NotAvailable = 4,    ///< the program is ending; nothing was registered
+    NotConnected = 1,   ///< there is no connection; the message was dropped
+    BufferFull = 2,     ///< the peer does not read; the message was dropped
+    MessageTooLong = 3, ///< longer than the channel carries; the message was dropped
+    NotAvailable = 4,   ///< the program is ending; nothing was registered
 };
 
 } // namespace PortalHubApi

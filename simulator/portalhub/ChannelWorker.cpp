@@ -1,0 +1,130 @@
+#include "simulator/portalhub/ChannelWorker.h"
+
+#include "simulator/portalhub/MessageLine.h"
+
+#include <QDebug>
+#include <QLocalSocket>
+#include <QThread>
+#include <QTimer>
+
+#include <utility>
+
+using namespace channel;
+
+namespace
+{
+
+// Bounds what a peer that sends faster than the callback takes can make us hold.
+constexpr qint64 kReadBufferSize = 256 * 1024;
+
+bool endRequested()
+{
+    return QThread::currentThread()->isInterruptionRequested();
+}
+
+} // namespace
+
+ChannelWorker::ChannelWorker(QString serverName, std::chrono::milliseconds reconnectInterval,
+                             OutgoingQueue& outgoing, Deliver deliver)
+    : m_serverName(std::move(serverName))
+    , m_reconnectInterval(reconnectInterval)
+    , m_outgoing(outgoing)
+    , m_deliver(std::move(deliver))
+    , m_reader(kMaxLineLength)
+{
+    connect(this, &ChannelWorker::outgoingWaiting, this, &ChannelWorker::sendWaiting,
+            Qt::QueuedConnection);
+}
+
+ChannelWorker::~ChannelWorker()
+{
+    if (m_socket) {
+        m_socket->disconnect(this);
+        sendWaiting(); // what was pushed just before the end
+    }
+    m_outgoing.close();
+}
+
+void ChannelWorker::start()
+{
+    m_socket = new QLocalSocket(this);
+    m_socket->setReadBufferSize(kReadBufferSize);
+    connect(m_socket, &QLocalSocket::connected, this, &ChannelWorker::onConnected);
+    connect(m_socket, &QLocalSocket::disconnected, this, &ChannelWorker::onDisconnected);
+    connect(m_socket, &QLocalSocket::readyRead, this, &ChannelWorker::readLines);
+    connect(m_socket, &QLocalSocket::bytesWritten, this,
+            [this] { m_outgoing.setUnwritten(m_socket->bytesToWrite()); });
+
+    m_reconnectTimer = new QTimer(this);
+    m_reconnectTimer->setInterval(m_reconnectInterval);
+    connect(m_reconnectTimer, &QTimer::timeout, this, &ChannelWorker::tryConnect);
+    m_reconnectTimer->start();
+    tryConnect();
+}
+
+void ChannelWorker::tryConnect()
+{
+    if (m_socket->state() == QLocalSocket::UnconnectedState)
+        m_socket->connectToServer(m_serverName);
+}
+
+void ChannelWorker::onConnected()
+{
+    m_reconnectTimer->stop();
+    m_reader.reset();
+    m_malformed = 0;
+    m_outgoing.open();
+}
+
+void ChannelWorker::onDisconnected()
+{
+    m_outgoing.close();
+    readLines();
+    reportSkipped();
+    m_reconnectTimer->start();
+}
+
+void ChannelWorker::readLines()
+{
+    while (m_socket->bytesAvailable() > 0) {
+        m_reader.append(m_socket->readAll());
+        while (const auto line = m_reader.next()) {
+            if (endRequested())
+                return;
+            handleLine(*line);
+        }
+    }
+}
+
+void ChannelWorker::handleLine(const QByteArray& line)
+{
+    const auto message = parseLine(line);
+    if (!message) {
+        ++m_malformed;
+        return;
+    }
+    m_deliver(message->id, message->text.toStdString());
+    // The answer goes out now rather than after the rest of the lines.
+    sendWaiting();
+}
+
+void ChannelWorker::sendWaiting()
+{
+    if (m_socket->state() != QLocalSocket::ConnectedState)
+        return;
+    const QByteArray bytes = m_outgoing.take();
+    if (bytes.isEmpty())
+        return;
+    m_socket->write(bytes);
+    m_socket->flush();
+    m_outgoing.setUnwritten(m_socket->bytesToWrite());
+}
+
+// Once a connection: a peer that sends rubbish must not fill the log.
+void ChannelWorker::reportSkipped()
+{
+    if (m_malformed > 0 || m_reader.skipped() > 0) {
+        qWarning() << "PortalHub: skipped" << m_malformed << "malformed and" << m_reader.skipped()
+                   << "overlong lines";
+    }
+}

@@ -1,0 +1,46 @@
+#include "simulator/portalhub/OutgoingQueue.h"
+
+#include <utility>
+
+using namespace channel;
+
+OutgoingQueue::Result OutgoingQueue::push(const QByteArray& line)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_open)
+        return Result::Closed;
+    if (line.size() > m_capacity - m_waiting.size() - m_unwritten)
+        return Result::Full;
+    const bool first = m_waiting.isEmpty();
+    m_waiting.append(line);
+    return first ? Result::FirstWaiting : Result::Accepted;
+}
+
+void OutgoingQueue::open()
+{
+    const std::lock_guard lock(m_mutex);
+    m_open = true;
+    m_waiting.clear();
+    m_unwritten = 0;
+}
+
+void OutgoingQueue::close()
+{
+    const std::lock_guard lock(m_mutex);
+    m_open = false;
+    m_waiting.clear();
+}
+
+QByteArray OutgoingQueue::take()
+{
+    const std::lock_guard lock(m_mutex);
+    // Until the worker says how much of it the socket kept, all of it counts as unwritten.
+    m_unwritten += m_waiting.size();
+    return std::exchange(m_waiting, {});
+}
+
+void OutgoingQueue::setUnwritten(qsizetype bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_unwritten = bytes;
+}

@@ -1,0 +1,16 @@
+#include "simulator/portalhub/SocketName.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+
+QString channel::socketName()
+{
+    QByteArray name = qgetenv("VORN_PORTALHUB_SOCKET");
+    if (name.isEmpty()) {
+        const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
+        name = (folder.isEmpty() ? QByteArrayLiteral("/tmp") : folder) + "/vorn-portalhub";
+    }
+    // Qt looks for a relative name in the folder for temporary files.
+    return QDir::current().absoluteFilePath(QFile::decodeName(name));
+}

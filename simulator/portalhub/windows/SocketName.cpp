@@ -1,0 +1,9 @@
+#include "simulator/portalhub/SocketName.h"
+
+using namespace Qt::StringLiterals;
+
+QString channel::socketName()
+{
+    const QString name = qEnvironmentVariable("VORN_PORTALHUB_SOCKET");
+    return name.isEmpty() ? u"vorn-portalhub"_s : name;
+}
