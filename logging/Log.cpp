@@ -1,0 +1,124 @@
+#include "logging/Log.h"
+
+#include <glog/logging.h>
+
+#include <charconv>
+#include <cstdio>
+
+namespace
+{
+
+// A plain pointer, because records are still written after this thread's objects are destroyed.
+constinit thread_local const char* t_function = nullptr;
+
+google::LogSeverity glogSeverity(Log::Severity severity)
+{
+    switch (severity) {
+    case Log::Severity::Warning:
+        return google::GLOG_WARNING;
+    case Log::Severity::Error:
+        return google::GLOG_ERROR;
+    case Log::Severity::Info:
+        break;
+    }
+    return google::GLOG_INFO;
+}
+
+template <typename Number>
+void appendNumber(std::string& text, Number number)
+{
+    char digits[32];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number);
+    text.append(digits, end.ptr);
+}
+
+} // namespace
+
+namespace Log
+{
+
+std::string_view currentFunction() noexcept
+{
+    return t_function ? std::string_view(t_function) : std::string_view();
+}
+
+void write(Severity severity, const char* function, std::string_view text,
+           const std::source_location& where) noexcept
+{
+    if (t_function) {
+        // A crash handler interrupted this thread inside glog, whose lock it still holds.
+        std::fwrite(text.data(), 1, text.size(), stderr);
+        return;
+    }
+    // glog asks for the prefix while it constructs its message, hence the name is set around it.
+    t_function = function;
+    try {
+        google::LogMessage record(where.file_name(), static_cast<int>(where.line()),
+                                  glogSeverity(severity));
+        record.stream().clear(); // see the prefix callback in LogBackend.cpp
+        record.stream().write(text.data(), static_cast<std::streamsize>(text.size()));
+    } catch (...) {
+        // A lost record is no reason to end the program.
+    }
+    t_function = nullptr;
+}
+
+Message::Message(Severity severity, const char* function,
+                 const std::source_location& where) noexcept
+    : m_severity(severity)
+    , m_function(function)
+    , m_where(where)
+{
+}
+
+Message::~Message()
+{
+    write(m_severity, m_function, m_text, m_where);
+}
+
+Message& Message::operator<<(std::string_view text)
+{
+    m_text.append(text);
+    return *this;
+}
+
+Message& Message::operator<<(const QByteArray& text)
+{
+    m_text.append(text.constData(), static_cast<std::size_t>(text.size()));
+    return *this;
+}
+
+Message& Message::operator<<(QStringView text)
+{
+    return *this << text.toUtf8();
+}
+
+Message& Message::operator<<(const void* pointer)
+{
+    m_text.append("0x");
+    char digits[2 * sizeof(pointer)];
+    const auto value = reinterpret_cast<std::uintptr_t>(pointer);
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), value, 16);
+    m_text.append(digits, end.ptr);
+    return *this;
+}
+
+Message& Message::operator<<(double number)
+{
+    appendNumber(m_text, number);
+    return *this;
+}
+
+Message& Message::appendSigned(std::int64_t number)
+{
+    appendNumber(m_text, number);
+    return *this;
+}
+
+Message& Message::appendUnsigned(std::uint64_t number)
+{
+    appendNumber(m_text, number);
+    return *this;
+}
+
+} // namespace Log

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringView>
+
+#include <cstdint>
+#include <source_location>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+/// Writing to the program's log, from any thread.
+///
+///     Log::info("UdpClient::bind") << "bound to port:" << port;
+///
+/// The message is written as one record when the temporary ends, so records of several threads
+/// never mix. The qualified function name is given at the call site because compilers spell it
+/// differently.
+namespace Log
+{
+
+enum class Severity { Info, Warning, Error };
+
+/// One log record under construction. Numbers print in decimal, booleans as 0 or 1, strings as
+/// UTF-8.
+class Message
+{
+public:
+    /// @param function  qualified name as `Class::method`; has to outlive the message (a literal).
+    Message(Severity severity, const char* function, const std::source_location& where) noexcept;
+    ~Message();
+    Message(const Message&) = delete;
+    Message& operator=(const Message&) = delete;
+
+    Message& operator<<(std::string_view text);
+    Message& operator<<(const char* text)
+    {
+        return *this << std::string_view(text ? text : "(null)");
+    }
+    Message& operator<<(const std::string& text) { return *this << std::string_view(text); }
+    Message& operator<<(const QByteArray& text);
+    Message& operator<<(QStringView text);
+    Message& operator<<(const QString& text) { return *this << QStringView(text); }
+    Message& operator<<(char character) { return *this << std::string_view(&character, 1); }
+    Message& operator<<(bool flag) { return *this << (flag ? '1' : '0'); }
+    Message& operator<<(const void* pointer);
+    Message& operator<<(double number);
+
+    template <typename Integer>
+    requires(std::is_integral_v<Integer> && !std::is_same_v<Integer, bool> &&
+             !std::is_same_v<Integer, char>) Message&
+    operator<<(Integer number)
+    {
+        if constexpr (std::is_signed_v<Integer>)
+            return appendSigned(number);
+        else
+            return appendUnsigned(number);
+    }
+
+private:
+    Message& appendSigned(std::int64_t number);
+    Message& appendUnsigned(std::uint64_t number);
+
+    Severity m_severity;
+    const char* m_function;
+    std::source_location m_where;
+    std::string m_text;
+};
+
+[[nodiscard]] inline Message
+info(const char* function, const std::source_location& where = std::source_location::current())
+{
+    return {Severity::Info, function, where};
+}
+
+[[nodiscard]] inline Message
+warning(const char* function, const std::source_location& where = std::source_location::current())
+{
+    return {Severity::Warning, function, where};
+}
+
+[[nodiscard]] inline Message
+error(const char* function, const std::source_location& where = std::source_location::current())
+{
+    return {Severity::Error, function, where};
+}
+
+/// Writes one record at once, for text that is already whole. Takes no memory from the heap, so
+/// that a crash handler may use it; when the crash came from inside the log, the text goes to
+/// standard error only.
+/// @param function  as for Message.
+void write(Severity severity, const char* function, std::string_view text,
+           const std::source_location& where = std::source_location::current()) noexcept;
+
+/// Qualified function name of the record that glog is writing on this thread; empty for records
+/// that did not come through this header. The line prefix reads it.
+[[nodiscard]] std::string_view currentFunction() noexcept;
+
+} // namespace Log
