@@ -1,0 +1,27 @@
+#include "app/LoadCustomFont.h"
+
+#include "logging/Log.h"
+
+#include <QFontDatabase>
+#include <QQmlContext>
+
+bool LoadCustomFont(QQmlContext* context, const QString& path, const QString& name)
+{
+    constexpr auto Function = "LoadCustomFont";
+    Log::info(Function) << "fontpath:" << path << ", fontname:" << name;
+    const int id = QFontDatabase::addApplicationFont(path);
+    if (id == -1) {
+        Log::error(Function) << "Failed to load font!";
+        return false;
+    }
+    const QStringList families = QFontDatabase::applicationFontFamilies(id);
+    if (families.isEmpty()) {
+        Log::error(Function) << "Font family not found!";
+        return false;
+    }
+    for (const QString& family : families)
+        Log::info(Function) << "Font family:" << family;
+    Log::info(Function) << "Loaded font family:" << families.first() << " as " << name;
+    context->setContextProperty(name, families.first());
+    return true;
+}

@@ -1,0 +1,102 @@
+#include "app/LoadCustomFont.h"
+#include "app/LogInit.h"
+#include "app/Program.h"
+#include "app/SingleInstance.h"
+#include "logging/Log.h"
+#include "platform/CrashHandler.h"
+#include "platform/Folders.h"
+#include "platform/TerminationSignals.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QQmlApplicationEngine>
+#include <QtQml>
+
+using namespace Qt::StringLiterals;
+
+// Generated with the QML module; without a reference the linker would leave it in its library.
+void qml_register_types_VORNApp();
+
+namespace
+{
+
+constexpr int KeptLogFiles = 5;
+constexpr int LoadFailure = -1;
+
+void reportCrashLine(const char* text)
+{
+    Log::error("GenerateDump") << text;
+}
+
+/// Warns that a running instance does not answer. No application object exists at this point, and a
+/// message box needs one.
+void warnUnreachable(int& argc, char** argv)
+{
+    const QApplication app(argc, argv);
+    QMessageBox::warning(nullptr, u"Error"_s, u"Existing VORNApp cannot be connected"_s);
+}
+
+void logProgram(const QString& appPath, const QString& fileName)
+{
+    Log::info("main") << "filepath:" << appPath;
+    Log::info("main") << "filename:" << fileName;
+    Log::info("main") << "logpath:" << platform::programDataFolder();
+    Log::info("main") << "file version:" << readFileVersion(fileName);
+    Log::info("main") << "product version:" << readProductVersion(fileName);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
+    switch (instance.start()) {
+    case SingleInstance::Outcome::First:
+        break;
+    case SingleInstance::Outcome::HandedOver:
+        return 0;
+    case SingleInstance::Outcome::Unreachable:
+        warnUnreachable(argc, argv);
+        return 0;
+    }
+
+    const QFileInfo executable(QString::fromLocal8Bit(argv[0]));
+    const QString appPath = executable.absolutePath();
+    const QString fileName = executable.fileName();
+    InitLog(platform::programDataFolder(), platform::logBackupFolder(), fileName, KeptLogFiles);
+    platform::installCrashHandler(reportCrashLine);
+
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
+    const QApplication app(argc, argv);
+    // Hiding to the tray closes the last window without ending the program.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    logProgram(appPath, fileName);
+
+    qml_register_types_VORNApp();
+    auto engine = std::make_unique<QQmlApplicationEngine>();
+    LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
+    Program program(QCoreApplication::applicationFilePath());
+    program.publish(engine->rootContext());
+    const platform::TerminationSignals signalsToQuit([] { QCoreApplication::quit(); });
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, [&] {
+        Log::info("main") << "VORNApp quit!!!";
+        // The server first: closing it later would delete the socket file of the next instance.
+        program.windowManager().closeServer();
+        instance.release();
+    });
+
+    engine->load(QUrl(u"qrc:/Main.qml"_s));
+    if (engine->rootObjects().isEmpty()) {
+        Log::error("main") << "QQmlApplicationEngine load error";
+        QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);
+        return LoadFailure;
+    }
+    program.openChannel();
+    const int exitCode = QApplication::exec();
+
+    program.closeChannel();
+    engine.reset();
+    return exitCode;
+}

@@ -1,0 +1,144 @@
+#include "app/WindowManager.h"
+
+#include "logging/Log.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QIcon>
+#include <QLocalSocket>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int AnswerTimeout = 500;
+
+WindowManager* s_instance = nullptr;
+
+} // namespace
+
+const QString& WindowManager::serverName()
+{
+    static const QString s_name = u"VORNAppLocalServer"_s;
+    return s_name;
+}
+
+WindowManager& WindowManager::instance()
+{
+    Q_ASSERT(s_instance);
+    return *s_instance;
+}
+
+WindowManager::WindowManager(std::chrono::milliseconds peerWait)
+    : m_peerWait(peerWait)
+    , m_localServer(new QLocalServer(this))
+{
+    if (!s_instance)
+        s_instance = this;
+    Log::info("WindowManager::WindowManager") << "WindowManager";
+    if (!listen()) {
+        Log::error("WindowManager::WindowManager") << "Cannot start VORNAppLocalServer!";
+        return;
+    }
+    connect(m_localServer, &QLocalServer::newConnection, this, &WindowManager::onNewConnection);
+    createTrayIcon();
+}
+
+WindowManager::~WindowManager()
+{
+    Log::info("WindowManager::~WindowManager") << "~WindowManager";
+    if (s_instance == this)
+        s_instance = nullptr;
+}
+
+bool WindowManager::listen()
+{
+    m_localServer->setSocketOptions(QLocalServer::UserAccessOption);
+    if (m_localServer->listen(serverName()))
+        return true;
+    // A crashed instance leaves its socket file behind; one that answers belongs to somebody alive.
+    if (m_localServer->serverError() != QAbstractSocket::AddressInUseError || isServerAnswering())
+        return false;
+    QLocalServer::removeServer(serverName());
+    return m_localServer->listen(serverName());
+}
+
+bool WindowManager::isServerAnswering() const
+{
+    QLocalSocket probe;
+    probe.connectToServer(serverName());
+    return probe.waitForConnected(AnswerTimeout);
+}
+
+void WindowManager::createTrayIcon()
+{
+    m_trayIcon = new QSystemTrayIcon(QIcon(u":/images/VORNApp.ico"_s), this);
+    m_trayMenu = std::make_unique<QMenu>();
+    auto* const quit = new QAction(tr("Quit"), this);
+    m_trayMenu->addAction(quit);
+    m_trayIcon->setContextMenu(m_trayMenu.get());
+    connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit);
+    connect(m_trayIcon, &QSystemTrayIcon::activated, this, &WindowManager::onTrayIconActivated);
+    m_trayIcon->setVisible(true);
+}
+
+void WindowManager::closeServer()
+{
+    m_localServer->close();
+}
+
+/// The peer has sent its bytes once they can be read, or once it has gone; until then it may still
+/// be the one in front. The event loop goes on meanwhile.
+void WindowManager::onNewConnection()
+{
+    while (QLocalSocket* const socket = m_localServer->nextPendingConnection())
+        reopenAfter(socket);
+}
+
+void WindowManager::reopenAfter(QLocalSocket* socket)
+{
+    const auto reopen = [this, socket] {
+        socket->disconnect(this);
+        socket->deleteLater();
+        Log::info("WindowManager::onNewConnection") << "VORNApp reopen!";
+        emit requestShow(true);
+    };
+    if (socket->bytesAvailable() > 0 || socket->state() != QLocalSocket::ConnectedState) {
+        reopen();
+        return;
+    }
+    auto* const patience = new QTimer(socket);
+    patience->setSingleShot(true);
+    connect(socket, &QLocalSocket::readyRead, this, reopen);
+    connect(socket, &QLocalSocket::disconnected, this, reopen);
+    connect(patience, &QTimer::timeout, socket, &QLocalSocket::disconnectFromServer);
+    patience->start(m_peerWait);
+}
+
+void WindowManager::onTrayIconActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason != QSystemTrayIcon::DoubleClick)
+        return;
+    Log::info("WindowManager::onTrayIconActivated") << "tray double click";
+    emit requestShow(true);
+}
+
+void WindowManager::hideToTray()
+{
+    Log::info("WindowManager::hideToTray") << "hide to tray";
+    if (m_trayIcon)
+        m_trayIcon->setVisible(true);
+    emit requestShow(false);
+}
+
+void WindowManager::askToShow(bool show)
+{
+    QMetaObject::invokeMethod(this, [this, show] { emit requestShow(show); });
+}
+
+void WindowManager::askToShowCheckRemote(bool show)
+{
+    QMetaObject::invokeMethod(this, [this, show] { emit requestShowCheckRemote(show); });
+}

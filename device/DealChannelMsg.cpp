@@ -1,0 +1,192 @@
+#include "device/DealChannelMsg.h"
+
+#include "device/CameraReports.h"
+#include "device/DisplayReports.h"
+#include "logging/Log.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <atomic>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+std::string compact(const QJsonObject& object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+}
+
+std::string buildMessage(ChannelCommand cmd, ChannelMessageType type, QJsonObject payload = {})
+{
+    static std::atomic<int> s_seq{0};
+    payload["cmd"_L1] = static_cast<int>(cmd);
+    payload["seq"_L1] = ++s_seq;
+    payload["type"_L1] = static_cast<int>(type);
+    return compact(payload);
+}
+
+std::string buildCommandWith(ChannelCommand cmd, const QJsonObject& payload)
+{
+    return buildMessage(cmd, ChannelMessageType::Command, payload);
+}
+
+/// A source report as the display means it: a selected source excludes the other one, and without a
+/// selection the values count only while the display shows its source picker.
+struct SourceState {
+    int byod = 0;
+    int zoom = 0;
+};
+
+SourceState readSourceState(const QJsonObject& message)
+{
+    constexpr int Selected = 2;
+    const int byod = message["byod_status"_L1].toInt();
+    const int zoom = message["zoom_status"_L1].toInt();
+    if (byod == Selected)
+        return {Selected, 0};
+    if (zoom == Selected)
+        return {0, Selected};
+    if (message["is_byodui_show"_L1].toInt() == 1)
+        return {byod, zoom};
+    return {};
+}
+
+} // namespace
+
+DealChannelMsg::DealChannelMsg(DisplayReports& display, CameraReports& camera)
+    : m_display(display)
+    , m_camera(camera)
+{
+}
+
+bool DealChannelMsg::PraseJson(const std::string& msg, std::string& reply, bool& needReply) const
+{
+    const auto document = QJsonDocument::fromJson(
+        QByteArray::fromRawData(msg.data(), static_cast<qsizetype>(msg.size())));
+    if (document.isNull()) {
+        Log::error("DealChannelMsg::PraseJson")
+            << "Failed to parse JSON: JSON document is null or invalid format.";
+        return false;
+    }
+    if (!document.isObject()) {
+        Log::error("DealChannelMsg::PraseJson")
+            << "Failed to parse JSON: Root element is not an object.";
+        return false;
+    }
+
+    const QJsonObject message = document.object();
+    const auto type = static_cast<ChannelMessageType>(message["type"_L1].toInt());
+    if (type == ChannelMessageType::Acknowledgement)
+        return true;
+
+    dispatch(message);
+
+    if (type != ChannelMessageType::Query && type != ChannelMessageType::Command)
+        return true;
+    QJsonObject answer = message;
+    answer["type"_L1] =
+        static_cast<int>(type == ChannelMessageType::Query ? ChannelMessageType::Answer
+                                                           : ChannelMessageType::Acknowledgement);
+    reply = compact(answer);
+    needReply = true;
+    return true;
+}
+
+void DealChannelMsg::dispatch(const QJsonObject& message) const
+{
+    constexpr int FromDisplay = 1;
+    switch (static_cast<ChannelCommand>(message["cmd"_L1].toInt())) {
+    case ChannelCommand::ConnectMode:
+        m_display.setConnectMode(message["isReady"_L1].toInt());
+        break;
+    case ChannelCommand::Volume:
+        m_display.setVolumeReady(1);
+        m_display.setVolume(std::clamp(message["volume"_L1].toInt(), 0, 100), FromDisplay);
+        break;
+    case ChannelCommand::SourceState: {
+        m_display.setShareStatusReady(1);
+        const SourceState source = readSourceState(message);
+        m_display.setByodSwitch(source.byod, FromDisplay);
+        m_display.setZoomSwitch(source.zoom, FromDisplay);
+        break;
+    }
+    case ChannelCommand::FirmwareVersion:
+        m_display.setRemoteVerReady(1);
+        m_display.setRemoteVer(message["ota_ver"_L1].toString());
+        break;
+    case ChannelCommand::AutoFraming:
+        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, FromDisplay);
+        break;
+    case ChannelCommand::SmartFraming:
+        m_camera.setSmartFraming(message["smartframestatus"_L1].toInt() != 0, FromDisplay);
+        break;
+    case ChannelCommand::CameraSwitch:
+        m_camera.setCameraSwitch(message["camerastatus"_L1].toInt());
+        break;
+    default:
+        // Ids that need no action here are answered all the same.
+        break;
+    }
+}
+
+std::string DealChannelMsg::buildCommand(ChannelCommand cmd)
+{
+    return buildMessage(cmd, ChannelMessageType::Command);
+}
+
+std::string DealChannelMsg::buildQuery(ChannelCommand cmd)
+{
+    return buildMessage(cmd, ChannelMessageType::Query);
+}
+
+std::string DealChannelMsg::buildVolume(int volume)
+{
+    return buildCommandWith(ChannelCommand::Volume, {{u"volume"_s, volume}});
+}
+
+std::string DealChannelMsg::buildByodStatus(int byodStatus)
+{
+    return buildCommandWith(ChannelCommand::SelectByod, {{u"byod_status"_s, byodStatus}});
+}
+
+std::string DealChannelMsg::buildZoomStatus(int zoomStatus)
+{
+    return buildCommandWith(ChannelCommand::SelectZoom, {{u"zoom_status"_s, zoomStatus}});
+}
+
+std::string DealChannelMsg::buildAutoFraming(bool on)
+{
+    return buildCommandWith(ChannelCommand::AutoFraming, {{u"autoframestatus"_s, on ? 1 : 0}});
+}
+
+std::string DealChannelMsg::buildSmartFraming(bool on)
+{
+    return buildCommandWith(ChannelCommand::SmartFraming, {{u"smartframestatus"_s, on ? 1 : 0}});
+}
+
+std::string DealChannelMsg::buildCameraScale(int scaleType, int scaleStatus)
+{
+    return buildCommandWith(ChannelCommand::CameraScale, {{u"cmdtype"_s, u"CameraControl"_s},
+                                                          {u"control"_s, u"scale"_s},
+                                                          {u"scaletype"_s, scaleType},
+                                                          {u"scalestatus"_s, scaleStatus}});
+}
+
+std::string DealChannelMsg::buildCameraPreset(int presetIndex, int presetStatus)
+{
+    return buildCommandWith(ChannelCommand::CameraPreset, {{u"cmdtype"_s, u"CameraControl"_s},
+                                                           {u"control"_s, u"preset"_s},
+                                                           {u"presetindex"_s, presetIndex},
+                                                           {u"presetstatus"_s, presetStatus}});
+}
+
+void DealChannelMsg::send(MessageChannel& channel, const char* function, ChannelCommand cmd,
+                          const std::string& text)
+{
+    Log::info(function) << "send to channel:" << text;
+    channel.push(static_cast<int>(cmd), text);
+}

@@ -1,0 +1,144 @@
+#include "device/DeviceControl.h"
+
+#include "device/VideoReceiver.h"
+#include "launch/ProgramControl.h"
+#include "logging/Log.h"
+#include "persistence/FileInfo.h"
+#include "persistence/UserSettings.h"
+
+#include <QHostAddress>
+#include <QNetworkDatagram>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr quint16 ReceivePort = 49175;
+constexpr auto ReceiveWait = std::chrono::seconds(1);
+
+DeviceControl* s_instance = nullptr;
+
+} // namespace
+
+DeviceControl& DeviceControl::instance()
+{
+    Q_ASSERT(s_instance);
+    return *s_instance;
+}
+
+DeviceControl::DeviceControl(Services services)
+    : DeviceControl(std::move(services), Timing{})
+{
+}
+
+DeviceControl::DeviceControl(Services services, Timing timing)
+    : m_services(std::move(services))
+    , m_timing(timing)
+    , m_k4vLowestVer(u"3.9.6"_s)
+    , m_upgrade(m_services.programs, m_services.executablePath, timing.pauseAfterUpdaterKill)
+    , m_taskQueue(m_services.tasks)
+    , m_userImage(u"qrc:/images/user_84x84.png"_s)
+    , m_videoReceiver(std::make_unique<VideoReceiver>(
+          [this](const QVideoFrame& frame) { m_videoSource.pushFrame(frame); },
+          [this] { setFrameIndex(frameIndex() + 1); }))
+{
+    m_applyTimer.setSingleShot(true);
+    connect(
+        &m_applyTimer, &QTimer::timeout, &m_applyTimer, [this] { applyUseRemoteDevice(false); },
+        Qt::DirectConnection);
+
+    m_taskThread.setObjectName(u"tasks"_s);
+    m_taskQueue.moveToThread(&m_taskThread);
+    connect(this, &DeviceControl::addTask, &m_taskQueue, &TaskQueue::addTask);
+    m_taskThread.start(QThread::InheritPriority);
+
+    readConfig();
+    m_services.localDevices->ReadJsonConfig(m_services.rulesPath);
+    restoreAccount();
+    m_udpClient.bind(ReceivePort);
+    startWorkers();
+
+    if (!s_instance)
+        s_instance = this;
+}
+
+DeviceControl::~DeviceControl()
+{
+    Log::info("DeviceControl::~DeviceControl") << "~DeviceControl";
+    if (s_instance == this)
+        s_instance = nullptr;
+    m_services.programs.killProcess(u"BridgeAgent.exe"_s);
+    m_udpWorker->requestStop();
+    m_udpClient.stop();
+    m_statusWorker->requestStop();
+    m_videoWorker->requestStop();
+    m_videoReceiver->interrupt();
+    m_applyTimer.stop();
+    m_taskThread.quit();
+    m_taskThread.wait();
+}
+
+void DeviceControl::readConfig()
+{
+    const FileInfo& config = m_services.config;
+    setK4vLowestVer(config.k4vLowestVer());
+    setUseRemoteDevice(config.useRemoteDevice(), 0);
+    setSupportLaunchZoom(config.supportLaunchZoom());
+    setSupportLaunchTeams(config.supportLaunchTeams());
+    setSupportLaunchGoogle(config.supportLaunchGoogle());
+}
+
+void DeviceControl::startWorkers()
+{
+    m_statusWorker = std::make_unique<Worker>(
+        "status", [this](const StopRequest& stop) { DetectProgramStatusProc(stop); });
+    m_videoWorker = std::make_unique<Worker>(
+        "video", [this](const StopRequest& stop) { RecvSharedMemoryProc(stop); });
+    m_udpWorker = std::make_unique<Worker>(
+        "udp receive", [this](const StopRequest& stop) { RecvUdpDatagram(stop); });
+}
+
+int DeviceControl::DealChannelMsg(int id, const std::string& msg)
+{
+    return instance().handleChannelMessage(id, msg);
+}
+
+int DeviceControl::handleChannelMessage(int id, const std::string& msg)
+{
+    constexpr auto Function = "DeviceControl::DealChannelMsg";
+    Log::info(Function) << "recv :" << msg;
+    std::string reply;
+    bool needReply = false;
+    ::DealChannelMsg(*this, m_services.camera()).PraseJson(msg, reply, needReply);
+    if (needReply) {
+        Log::info(Function) << "reply:" << reply;
+        m_services.channel.push(id, reply);
+    }
+    return 0;
+}
+
+void DeviceControl::send(const char* function, ChannelCommand cmd, const std::string& text)
+{
+    ::DealChannelMsg::send(m_services.channel, function, cmd, text);
+}
+
+void DeviceControl::RecvSharedMemoryProc(const StopRequest& stop)
+{
+    m_videoReceiver->run(stop);
+}
+
+void DeviceControl::RecvUdpDatagram(const StopRequest& stop)
+{
+    constexpr auto Function = "DeviceControl::RecvUdpDatagram";
+    Log::info(Function) << "thread start";
+    while (!stop.isMade()) {
+        QNetworkDatagram datagram;
+        if (!m_udpClient.waitForDatagram(datagram, ReceiveWait))
+            continue;
+        Log::info(Function) << "recv from " << datagram.senderAddress().toString() << ":"
+                            << datagram.senderPort() << " [" << UdpClient::hexDump(datagram.data())
+                            << "]";
+    }
+    Log::info(Function) << "thread end";
+}

@@ -1,0 +1,153 @@
+#include "device/DeviceControlChange.h"
+
+#include "persistence/FileInfo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int Selected = 2;
+constexpr int QueriesPerLogLine = 20;
+
+} // namespace
+
+void DeviceControl::DetectProgramStatusProc(const StopRequest& stop)
+{
+    constexpr auto Function = "DeviceControl::DetectProgramStatusProc";
+    Log::info(Function) << "thread start";
+    while (!stop.isMade()) {
+        m_upgrade.watchdogPass();
+        loadVersion();
+        loadNewVersion();
+        reportVersions();
+        m_services.localDevices->checkDevices(*this);
+        queryFirmwareVersion();
+        stop.waitFor(m_timing.statusPass);
+    }
+    Log::info(Function) << "thread end";
+}
+
+void DeviceControl::loadVersion()
+{
+    const QString value = m_services.versionValue(u"version"_s);
+    if (value == version() || value.isEmpty())
+        return;
+    Log::info("DeviceControl::loadVersion") << registryPath() << ", version:" << value;
+    setVersion(value);
+}
+
+void DeviceControl::loadNewVersion()
+{
+    const QString value = m_services.versionValue(u"newver"_s);
+    if (value == newVersion() || value.isEmpty())
+        return;
+    Log::info("DeviceControl::loadNewVersion") << registryPath() << ", newver:" << value;
+    setNewVersion(value);
+}
+
+void DeviceControl::reportVersions()
+{
+    const QString installed = version();
+    const QString newest = newVersion();
+    if (installed.isEmpty() || newest.isEmpty())
+        return;
+    if (installed != newest) {
+        if (!m_upgrade.isUpdating())
+            emit hasNewVersion(true);
+        return;
+    }
+    emit hasNewVersion(false);
+    if (!m_upgrade.isUpdating())
+        return;
+    Log::info("DeviceControl::checkUpdate") << "emit updateCompleted()";
+    emit updateCompleted();
+}
+
+bool DeviceControl::checkUpdate(int)
+{
+    loadVersion();
+    loadNewVersion();
+    reportVersions();
+    const QString installed = version();
+    const QString newest = newVersion();
+    return !installed.isEmpty() && !newest.isEmpty() && installed != newest;
+}
+
+void DeviceControl::startUpdate()
+{
+    Log::info("DeviceControl::startUpdate")
+        << "m_version:" << version() << ", m_new_version:" << newVersion();
+    m_upgrade.start();
+}
+
+void DeviceControl::updateTimeout()
+{
+    m_upgrade.timeOut();
+}
+
+/// The display answers with its firmware version; asked every second pass while it is connected.
+void DeviceControl::queryFirmwareVersion()
+{
+    const int mode = connectMode();
+    if (mode != 1 && mode != 2)
+        return;
+    const int tick = m_versionQueryTick++;
+    if (tick % 2 != 0)
+        return;
+    const std::string text = ::DealChannelMsg::buildQuery(ChannelCommand::FirmwareVersion);
+    if (tick / 2 % QueriesPerLogLine == 0) {
+        send("DeviceControl::DetectProgramStatusProc", ChannelCommand::FirmwareVersion, text);
+        return;
+    }
+    m_services.channel.push(static_cast<int>(ChannelCommand::FirmwareVersion), text);
+}
+
+bool DeviceControl::useRemoteDevice() const
+{
+    return stored(m_useRemoteDevice);
+}
+
+void DeviceControl::setUseRemoteDevice(bool checked, int direction)
+{
+    constexpr auto Function = "DeviceControl::setUseRemoteDevice";
+    if (!change(m_useRemoteDevice, checked, direction,
+                {Function, "m_useRemoteDevice:", ", checked:"}))
+        return;
+    emit useRemoteDeviceChecked();
+    if (direction != 0)
+        return;
+    saveConfigValue(u"VORNApp/use_remote_device"_s, checked);
+    if (m_applyTimer.isActive()) {
+        Log::info(Function) << "execute applyUseRemoteDevice after time:"
+                            << m_applyTimer.remainingTime();
+        return;
+    }
+    applyUseRemoteDevice(true);
+}
+
+void DeviceControl::applyUseRemoteDevice(bool force)
+{
+    {
+        const std::scoped_lock lock(m_stateMutex);
+        Log::info("DeviceControl::applyUseRemoteDevice")
+            << "force:" << force << ", m_useRemoteDeviceLast:" << m_useRemoteDeviceLast
+            << ", m_useRemoteDevice:" << m_useRemoteDevice;
+        if (!force && m_useRemoteDeviceLast == m_useRemoteDevice)
+            return;
+        m_useRemoteDeviceLast = m_useRemoteDevice;
+    }
+    saveDisableLocalDevices();
+    m_applyTimer.start(m_services.config.useRemoteDeviceInterval());
+}
+
+void DeviceControl::saveDisableLocalDevices()
+{
+    const std::scoped_lock order(m_saveOrderMutex);
+    bool disable = false;
+    {
+        const std::scoped_lock lock(m_stateMutex);
+        disable = m_useRemoteDevice && m_byodSwitch == Selected;
+    }
+    emit addTask(u"saveRegistry"_s, {registryPath(), u"disable_local_dev"_s, disable});
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "device/ChannelGate.h"
+#include "device/MessageChannel.h"
+
+#include <memory>
+
+/// The display's channel through the maker's library.
+class PortalHubChannel : public MessageChannel
+{
+public:
+    PortalHubChannel() = default;
+    /// Closes the channel; the library itself stays, as it belongs to the process.
+    ~PortalHubChannel() override;
+
+    /// Registers the receiver of messages, which the library calls on a thread of its own. Once.
+    void open(ChannelGate::Callback callback);
+    /// No message is delivered after this returns.
+    void close();
+
+    void push(int id, const std::string& text) override;
+
+private:
+    // Shared with the callback that the library keeps until the process ends.
+    std::shared_ptr<ChannelGate> m_gate;
+};

@@ -1,0 +1,105 @@
+#include "device/UdpClient.h"
+
+#include "logging/Log.h"
+
+namespace
+{
+
+/// Datagrams are only logged, so a flood may lose its oldest ones rather than fill the memory.
+constexpr std::size_t MaximumQueued = 4096;
+
+} // namespace
+
+UdpClient::UdpClient(QObject* parent)
+    : QObject(parent)
+    , m_socket(new QUdpSocket(this))
+{
+    Log::info("UdpClient::UdpClient") << "UdpClient";
+    connect(m_socket, &QUdpSocket::readyRead, this, &UdpClient::readPendingDatagrams);
+}
+
+UdpClient::~UdpClient()
+{
+    Log::info("UdpClient::~UdpClient") << "~UdpClient";
+    stop();
+    if (m_socket->state() == QAbstractSocket::BoundState)
+        m_socket->close();
+}
+
+bool UdpClient::bind(quint16 port)
+{
+    Log::info("UdpClient::bind") << "bound to port:" << port;
+    if (m_socket->state() == QAbstractSocket::BoundState) {
+        Log::info("UdpClient::bind") << "Socket is already bound";
+        return true;
+    }
+    if (!m_socket->bind(QHostAddress::LocalHost, port)) {
+        Log::error("UdpClient::bind")
+            << "Failed to bind to port:" << port << ", error:" << m_socket->errorString();
+        return false;
+    }
+    return true;
+}
+
+void UdpClient::send(const char* data, int len, quint16 port, const QHostAddress& address)
+{
+    if (m_socket->state() != QAbstractSocket::BoundState) {
+        Log::error("UdpClient::send") << "Cannot send data: socket not bound";
+        return;
+    }
+    const qint64 sent = m_socket->writeDatagram(data, len, address, port);
+    if (sent == -1) {
+        Log::error("UdpClient::send") << "send data failed:" << m_socket->errorString();
+        return;
+    }
+    if (sent != len) {
+        Log::error("UdpClient::send") << "need send byte:" << len << " real send byte:" << sent;
+        return;
+    }
+    Log::info("UdpClient::send") << "send to " << address.toString() << ":" << port << " ["
+                                 << hexDump({data, len}) << "]";
+}
+
+bool UdpClient::waitForDatagram(QNetworkDatagram& out, std::chrono::milliseconds timeout)
+{
+    std::unique_lock lock(m_mutex);
+    m_cond.wait_for(lock, timeout, [this] { return m_stop || !m_queue.empty(); });
+    if (m_stop || m_queue.empty())
+        return false;
+    out = std::move(m_queue.front());
+    m_queue.pop_front();
+    return true;
+}
+
+void UdpClient::stop()
+{
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_stop = true;
+    }
+    m_cond.notify_all();
+}
+
+void UdpClient::readPendingDatagrams()
+{
+    while (m_socket->hasPendingDatagrams()) {
+        QNetworkDatagram datagram = m_socket->receiveDatagram();
+        if (!datagram.isValid())
+            continue;
+        {
+            const std::scoped_lock lock(m_mutex);
+            if (m_queue.size() == MaximumQueued)
+                m_queue.pop_front();
+            m_queue.push_back(std::move(datagram));
+        }
+        m_cond.notify_one();
+    }
+}
+
+QByteArray UdpClient::hexDump(QByteArrayView bytes)
+{
+    QByteArray text = QByteArray(bytes.data(), bytes.size()).toHex(' ').toUpper();
+    if (!text.isEmpty())
+        text.append(' ');
+    return text;
+}

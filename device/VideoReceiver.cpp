@@ -1,0 +1,174 @@
+#include "device/VideoReceiver.h"
+
+#include "device/FrameHeader.h"
+#include "logging/Log.h"
+
+#include <QVideoFrameFormat>
+
+namespace
+{
+
+constexpr auto MappingName = "vorn_vframe_header_2025_05_19";
+constexpr auto EventName = "vorn_vframe_event_2025_05_19";
+constexpr auto Function = "DeviceControl::RecvSharedMemoryProc";
+constexpr quint64 FramesPerLogLine = 1000;
+
+/// The frames carry no colour description; the writer's is BT.601, and Qt's own guess goes by size.
+constexpr auto FrameColorSpace = QVideoFrameFormat::ColorSpace_BT601;
+
+QVideoFrameFormat frameFormat(const FrameHeader& header)
+{
+    QVideoFrameFormat format(QSize(header.w, header.h), QVideoFrameFormat::Format_NV12);
+    format.setColorSpace(FrameColorSpace);
+    format.setColorRange(QVideoFrameFormat::ColorRange_Video);
+    return format;
+}
+
+void appendHeader(Log::Message& message, const FrameHeader& header)
+{
+    message << "index:" << header.index << ", w:" << header.w << ", h:" << header.h
+            << ", len:" << header.len << ", frame_idx:" << header.frame_idx;
+}
+
+} // namespace
+
+VideoReceiver::VideoReceiver(FrameSink sink, Delivered delivered)
+    : VideoReceiver(std::move(sink), std::move(delivered),
+                    platform::makeFrameChannel(MappingName, EventName, FrameHeader::ViewSize),
+                    Timing{})
+{
+}
+
+VideoReceiver::VideoReceiver(FrameSink sink, Delivered delivered,
+                             std::unique_ptr<platform::FrameChannel> channel, Timing timing)
+    : m_sink(std::move(sink))
+    , m_delivered(std::move(delivered))
+    , m_channel(std::move(channel))
+    , m_timing(timing)
+{
+}
+
+VideoReceiver::~VideoReceiver() = default;
+
+void VideoReceiver::interrupt()
+{
+    m_channel->interrupt();
+}
+
+void VideoReceiver::run(const StopRequest& stop)
+{
+    Log::info(Function) << "thread start";
+    while (!stop.isMade()) {
+        const bool isReady = m_playing && (m_channel->isOpen() || connectChannel());
+        if (isReady)
+            waitForFrame();
+        else
+            stop.waitFor(m_timing.pause);
+    }
+    m_channel->close();
+    Log::info(Function) << "thread end";
+}
+
+bool VideoReceiver::connectChannel()
+{
+    using Step = platform::FrameChannel::OpenStep;
+    const auto result = m_channel->open();
+    switch (result.failedAt) {
+    case Step::Mapping:
+        Log::error(Function) << "OpenFileMappingA [" << MappingName << "] failed: " << result.error;
+        return false;
+    case Step::View:
+        Log::error(Function) << "MapViewOfFile failed: " << result.error;
+        return false;
+    case Step::Event:
+        Log::error(Function) << "OpenEventA [" << EventName << "] failed: " << result.error;
+        return false;
+    case Step::Done:
+        break;
+    }
+    Log::info(Function) << "connect:" << MappingName;
+    return true;
+}
+
+void VideoReceiver::waitForFrame()
+{
+    using Outcome = platform::FrameChannel::WaitOutcome;
+    const auto result = m_channel->wait(m_timing.frameWait);
+    switch (result.outcome) {
+    case Outcome::Signalled:
+        processFrame();
+        break;
+    case Outcome::TimedOut:
+        Log::error(Function) << "wait [" << EventName << "] WAIT_TIMEOUT";
+        break;
+    case Outcome::Failed:
+        Log::error(Function) << "wait [" << EventName << "] failed:" << result.error;
+        break;
+    case Outcome::Interrupted:
+        break;
+    }
+}
+
+/// Reads the header once into a copy, since the writer may change it at any time.
+bool VideoReceiver::readHeader(FrameHeader& header)
+{
+    if (!m_channel->copyOut(0, &header.index, sizeof header.index))
+        return false;
+    if (!FrameHeader::isInView(header.index))
+        return true;
+    std::array<uchar, FrameHeader::HeaderSize> bytes;
+    if (!m_channel->copyOut(FrameHeader::slotOffset(header.index), bytes.data(), bytes.size()))
+        return false;
+    header.parse(bytes);
+    return true;
+}
+
+void VideoReceiver::processFrame()
+{
+    FrameHeader header;
+    if (!readHeader(header))
+        return;
+    if (!header.isValid()) {
+        auto message = Log::error(Function);
+        message << "error!!! ";
+        appendHeader(message, header);
+        return;
+    }
+    if (m_validFrames++ % FramesPerLogLine == 0) {
+        auto message = Log::info(Function);
+        appendHeader(message, header);
+    }
+
+    QVideoFrame frame(frameFormat(header));
+    if (!frame.map(QVideoFrame::WriteOnly))
+        return;
+    const std::size_t luma = FrameHeader::slotOffset(header.index) + FrameHeader::HeaderSize;
+    const bool isCopied = copyPlane(frame, 0, luma, header.w, header.h) &&
+                          copyPlane(frame, 1, luma + header.lumaSize(), header.chromaBytesPerRow(),
+                                    header.chromaRows());
+    frame.unmap();
+    if (!isCopied)
+        return;
+    m_sink(frame);
+    m_delivered();
+}
+
+/// The frame's rows may be padded while the shared memory's are not; without padding one block
+/// does.
+bool VideoReceiver::copyPlane(QVideoFrame& frame, int plane, std::size_t offset, int bytesPerRow,
+                              int rows)
+{
+    const int stride = frame.bytesPerLine(plane);
+    const std::size_t size = std::size_t(bytesPerRow) * rows;
+    if (stride < bytesPerRow || frame.mappedBytes(plane) < stride * (rows - 1) + bytesPerRow)
+        return false;
+    uchar* target = frame.bits(plane);
+    if (stride == bytesPerRow)
+        return m_channel->copyOut(offset, target, size);
+    for (int row = 0; row < rows; ++row) {
+        if (!m_channel->copyOut(offset + std::size_t(row) * bytesPerRow, target, bytesPerRow))
+            return false;
+        target += stride;
+    }
+    return true;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/FrameChannel.h"
+#include "platform/Worker.h"
+
+#include <QVideoFrame>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+struct FrameHeader;
+
+/// Receives the display's screen: NV12 frames that another process writes into shared memory and
+/// announces through an event.
+///
+/// The writer is not trusted: a header that does not describe a frame within the view is reported
+/// and skipped, whatever it says.
+class VideoReceiver
+{
+public:
+    /// Gets each frame on the video worker.
+    using FrameSink = std::function<void(const QVideoFrame& frame)>;
+    /// Called on the video worker after each delivered frame.
+    using Delivered = std::function<void()>;
+    struct Timing {
+        /// Pause while nothing is wanted, and between attempts to connect.
+        std::chrono::milliseconds pause = std::chrono::seconds(1);
+        std::chrono::milliseconds frameWait = std::chrono::seconds(1);
+    };
+
+    VideoReceiver(FrameSink sink, Delivered delivered);
+    VideoReceiver(FrameSink sink, Delivered delivered,
+                  std::unique_ptr<platform::FrameChannel> channel, Timing timing);
+    ~VideoReceiver();
+
+    /// The worker's body: connects, waits for frames and delivers them until asked to stop.
+    void run(const StopRequest& stop);
+    /// Whether frames are wanted. While they are not, nothing is opened or read. Any thread.
+    void setPlaying(bool playing) { m_playing = playing; }
+    /// Ends a wait for the next frame at once. Any thread.
+    void interrupt();
+
+private:
+    bool connectChannel();
+    void waitForFrame();
+    void processFrame();
+    bool readHeader(FrameHeader& header);
+    bool copyPlane(QVideoFrame& frame, int plane, std::size_t offset, int bytesPerRow, int rows);
+
+    const FrameSink m_sink;
+    const Delivered m_delivered;
+    const std::unique_ptr<platform::FrameChannel> m_channel;
+    const Timing m_timing;
+    std::atomic_bool m_playing = false;
+    // Video worker only.
+    quint64 m_validFrames = 0;
+};

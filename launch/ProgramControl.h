@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The programs beside ours, as the status loop and the upgrade deal with them.
+/// Operations block their caller and may be called from any thread.
+class ProgramControl
+{
+public:
+    virtual ~ProgramControl() = default;
+
+    /// Ends every process of this image name; false when there was none or it could not be ended.
+    virtual bool killProcess(const QString& name) = 0;
+    /// Starts the program of this name beside the application unless it is running.
+    virtual void keepProcessAlive(const QString& name) = 0;
+    /// Starts the program of this name beside the application, detached; give at least two
+    /// arguments.
+    virtual bool startProcess(const QString& name, const QStringList& arguments) = 0;
+};

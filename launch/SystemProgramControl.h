@@ -1,0 +1,12 @@
+#pragma once
+
+#include "launch/ProgramControl.h"
+
+/// The programs of this PC.
+class SystemProgramControl final : public ProgramControl
+{
+public:
+    bool killProcess(const QString& name) override;
+    void keepProcessAlive(const QString& name) override;
+    bool startProcess(const QString& name, const QStringList& arguments) override;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/Worker.h"
+
+#include <QString>
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+
+class ProgramControl;
+
+/// Deals with the updater program: keeps it running in the background, and for an upgrade stops it
+/// and starts it again with the path of the application to replace.
+///
+/// start() and timeOut() return at once; their steps run in order on a worker thread. The watchdog
+/// never restarts the background updater between the kill and the start of an upgrade.
+class UpgradeControl
+{
+public:
+    /// @param pauseAfterKill  time the killed updater is given before it is started again
+    UpgradeControl(ProgramControl& programs, QString executablePath,
+                   std::chrono::milliseconds pauseAfterKill = std::chrono::seconds(3));
+    /// Ends a step under way without waiting for its pause.
+    ~UpgradeControl();
+
+    void start();
+    void timeOut();
+    /// One pass of the once-a-second loop: looks after the updater on the first pass and every
+    /// fifth one after it, unless an upgrade step is running.
+    void watchdogPass();
+    /// True from the start of an upgrade until its time-out. Any thread.
+    [[nodiscard]] bool isUpdating() const { return m_updateStarted; }
+
+private:
+    enum class Step { Upgrade, TimeOut };
+
+    void post(Step step);
+    void run(const StopRequest& stop);
+    void upgrade(const StopRequest& stop);
+    void giveUp();
+
+    ProgramControl& m_programs;
+    const QString m_executablePath;
+    const std::chrono::milliseconds m_pauseAfterKill;
+    std::atomic_bool m_keepUpdaterAlive = true;
+    std::atomic_bool m_updateStarted = false;
+    int m_keepAliveTick = 0;
+    std::mutex m_updateMutex;
+
+    std::mutex m_stepsMutex;
+    std::condition_variable m_stepPosted;
+    std::deque<Step> m_steps;
+    bool m_stopping = false;
+    // Last, so that it has ended before anything it uses goes.
+    std::unique_ptr<Worker> m_worker;
+};

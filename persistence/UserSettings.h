@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// The signed-in user's data, kept across restarts as key and value.
+///
+/// Reading and clearing happen on the main thread, writing on the task thread. Writes are posted long
+/// before they run, so each carries the number of the sign-in it belongs to: clearUserData() ends that
+/// sign-in, and whatever was posted before cannot bring the account back.
+class UserSettings
+{
+public:
+    virtual ~UserSettings() = default;
+
+    /// The stored value, or `defaultValue` when there is none or the store cannot be read.
+    virtual QVariant getUserData(const QString& key, const QVariant& defaultValue) = 0;
+    /// Stores one value; a write of an ended sign-in is dropped and counts as done.
+    virtual bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
+    /// Removes every value and ends the current sign-in.
+    virtual bool clearUserData() = 0;
+    /// Number of the current sign-in, to be handed to saveUserData(). Any thread.
+    virtual quint64 currentSignIn() const = 0;
+};

@@ -1,0 +1,38 @@
+#include "platform/Worker.h"
+
+#include "platform/ThreadName.h"
+
+bool StopRequest::isMade() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_made;
+}
+
+bool StopRequest::waitFor(std::chrono::milliseconds time) const
+{
+    std::unique_lock lock(m_mutex);
+    return m_changed.wait_for(lock, time, [this] { return m_made; });
+}
+
+void StopRequest::make()
+{
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_made = true;
+    }
+    m_changed.notify_all();
+}
+
+Worker::Worker(const char* name, Body body)
+    : m_thread([this, name, body = std::move(body)] {
+        platform::nameCurrentThread(name);
+        body(m_stop);
+    })
+{
+}
+
+Worker::~Worker()
+{
+    requestStop();
+    m_thread.join();
+}

@@ -1,0 +1,110 @@
+import QtQuick
+
+// The program's one top-level window: frameless, with title buttons of its own. Closing hides it.
+Window {
+    id: mainWindow
+
+    // The monitor window while one exists.
+    property Window monitorWindow: null
+
+    function showAndRaise(): void {
+        if (monitorWindow !== null && monitorWindow.visibility !== Window.Minimized) {
+            monitorWindow.raise();
+            monitorWindow.requestActivate();
+            return;
+        }
+        mainWindow.visibility = Window.Windowed;
+        mainWindow.visible = true;
+        // Staying on top for one turn of the event loop brings the window before those of other
+        // programs.
+        mainWindow.flags |= Qt.WindowStaysOnTopHint;
+        mainWindow.raise();
+        mainWindow.requestActivate();
+        Qt.callLater(dropStayOnTop);
+    }
+
+    function dropStayOnTop(): void {
+        mainWindow.flags &= ~Qt.WindowStaysOnTopHint;
+    }
+
+    width: 968
+    height: 666
+    visibility: Window.Windowed
+    color: "transparent"
+    flags: Qt.Window | Qt.FramelessWindowHint
+    title: "VORNApp"
+
+    Component.onCompleted: showAndRaise()
+    onClosing: close => {
+        close.accepted = false;
+        windowManager.hideToTray(); // qmllint disable unqualified
+    }
+
+    Connections {
+        target: windowManager // qmllint disable unqualified
+
+        function onRequestShow(show: bool): void {
+            if (show)
+                mainWindow.showAndRaise();
+            else
+                mainWindow.hide();
+        }
+    }
+
+    // A frame without a shadow and with a small radius: minimising would bring back a title bar
+    // otherwise.
+    Rectangle {
+        anchors.fill: parent
+        color: "#282828"
+        radius: 10
+
+        MouseArea {
+            property point pressPoint
+
+            anchors.fill: parent
+            onPressed: mouse => {
+                pressPoint = Qt.point(mouse.x, mouse.y);
+            }
+            onPositionChanged: mouse => {
+                mainWindow.x += mouse.x - pressPoint.x;
+                mainWindow.y += mouse.y - pressPoint.y;
+            }
+        }
+
+        StatePanel {
+            anchors.fill: parent
+        }
+
+        Row {
+            anchors.top: parent.top
+            anchors.topMargin: 6
+            anchors.right: parent.right
+            anchors.rightMargin: 10
+            spacing: 8
+
+            ControlButton {
+                width: 30
+                height: 30
+                accessibleName: qsTr("Minimise")
+                onClicked: mainWindow.showMinimized()
+
+                Image {
+                    source: "qrc:/images/minimize_30x120.png"
+                    sourceClipRect: Qt.rect(0, 0, 30, 30)
+                }
+            }
+
+            ControlButton {
+                width: 30
+                height: 30
+                accessibleName: qsTr("Close")
+                onClicked: windowManager.hideToTray() // qmllint disable unqualified
+
+                Image {
+                    source: "qrc:/images/close_30x120.png"
+                    sourceClipRect: Qt.rect(0, 0, 30, 30)
+                }
+            }
+        }
+    }
+}
