@@ -1,0 +1,195 @@
+#include "platform/CrashHandler.h"
+
+#include "platform/linux/AlternateStack.h"
+#include "platform/linux/CrashReport.h"
+#include "platform/linux/MemoryGuard.h"
+#include "platform/linux/SignalChain.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
+#include <ctime>
+#include <exception>
+#include <thread>
+
+#include <cxxabi.h>
+#include <execinfo.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <semaphore.h>
+#include <unistd.h>
+
+namespace
+{
+
+using platform::Crash;
+using platform::FixedText;
+
+constexpr std::array kFatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
+constexpr int kPollMs = 5;
+constexpr int kLogPatienceMs = 1'000;
+constexpr int kOtherCrashPatienceMs = 5'000;
+
+std::array<struct sigaction, kFatalSignals.size()> g_previous;
+std::terminate_handler g_previousTerminate = nullptr;
+
+// Found out before anything crashes, since a handler may not.
+FixedText g_program;
+long g_utcOffset = 0;
+
+std::atomic<pid_t> g_reporter{0}; // the thread that crashed first
+std::atomic<bool> g_reported{false};
+
+/// Writes the log lines. The crashed thread may hold the logger's lock or the heap's, so it takes
+/// neither: a thread that has waited for this moment writes, and is not waited for long.
+struct LogWriter {
+    platform::CrashLine writeLine = nullptr;
+    sem_t wake{};
+    FixedText outcome;
+    std::atomic<bool> done{false};
+
+    void run()
+    {
+        while (::sem_wait(&wake) != 0) {
+        }
+        writeLine("Creating dump file...");
+        writeLine(outcome.c_str());
+        done = true;
+    }
+};
+LogWriter g_log;
+
+void waitUntil(const std::atomic<bool>& flag, int patienceMs)
+{
+    for (int waited = 0; !flag && waited < patienceMs; waited += kPollMs)
+        ::poll(nullptr, 0, kPollMs);
+}
+
+void writeFile(const Crash& crash)
+{
+    const FixedText name = platform::crashFileName(crash);
+    FixedText& outcome = g_log.outcome;
+    const int fd = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (fd < 0) {
+        outcome << "Failed to create dump file:" << name.view();
+        return;
+    }
+    const int error = platform::writeCrashReport(fd, crash);
+    ::close(fd);
+    if (error != 0)
+        outcome << "Failed to write dump file:" << error;
+    else
+        outcome << "Dump file created successfully at:" << name.view();
+}
+
+// One report a process, of the first crash: what another thread does meanwhile is its consequence.
+void report(Crash crash)
+{
+    crash.thread = ::gettid();
+    pid_t nobody = 0;
+    if (!g_reporter.compare_exchange_strong(nobody, crash.thread)) {
+        if (nobody !=
+            crash.thread) // otherwise the report itself has crashed, or is followed by abort()
+            waitUntil(g_reported, kOtherCrashPatienceMs);
+        return;
+    }
+    crash.program = g_program.view();
+    crash.process = ::getpid();
+    crash.time = platform::localTime(std::time(nullptr), g_utcOffset);
+    writeFile(crash);
+    ::sem_post(&g_log.wake);
+    waitUntil(g_log.done, kLogPatienceMs);
+    g_reported = true;
+}
+
+void onFatalSignal(int signal, siginfo_t* info, void* context)
+{
+    if (signal == SIGBUS)
+        platform::leaveGuardedAccess();
+    const int savedError = errno;
+    Crash crash;
+    crash.signal = signal;
+    crash.info = info;
+    crash.context = context;
+    report(crash);
+    for (std::size_t i = 0; i < kFatalSignals.size(); ++i) {
+        if (kFatalSignals[i] == signal)
+            platform::passOn(signal, *info, g_previous[i]);
+    }
+    errno = savedError;
+}
+
+// Type and text of the exception in flight.
+FixedText describeException()
+{
+    FixedText text;
+    const std::type_info* const type = abi::__cxa_current_exception_type();
+    if (!type) {
+        text << "none; the program was told to terminate";
+        return text;
+    }
+    int status = 0;
+    char* const name = abi::__cxa_demangle(type->name(), nullptr, nullptr, &status);
+    text << (name ? name : type->name());
+    std::free(name);
+    try {
+        throw;
+    } catch (const std::exception& exception) {
+        text << ": " << exception.what();
+    } catch (...) { // the type's name has to do
+    }
+    return text;
+}
+
+[[noreturn]] void onTerminate()
+{
+    const FixedText description = describeException();
+    Crash crash;
+    crash.exception = description.view();
+    report(crash);
+    if (g_previousTerminate)
+        g_previousTerminate();
+    std::abort();
+}
+
+void prepare(platform::CrashLine writeLine)
+{
+    g_program << program_invocation_short_name;
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    if (::localtime_r(&now, &local))
+        g_utcOffset = local.tm_gmtoff;
+
+    // The first backtrace loads the unwinder's library, which allocates.
+    void* frame = nullptr;
+    ::backtrace(&frame, 1);
+
+    g_log.writeLine = writeLine;
+    ::sem_init(&g_log.wake, 0, 0);
+    // It sleeps until a crash and touches nothing that is ever destroyed, hence it can be left
+    // behind.
+    std::thread([] { g_log.run(); }).detach();
+}
+
+} // namespace
+
+namespace platform
+{
+
+void installCrashHandler(CrashLine writeLine)
+{
+    prepare(writeLine);
+    ensureAlternateStack();
+    struct sigaction action = {};
+    action.sa_sigaction = onFatalSignal;
+    // Not deferred, so that a handler that crashes itself comes here again, and so that the jump
+    // out of a guarded access leaves no signal blocked.
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
+    sigemptyset(&action.sa_mask);
+    for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
+        sigaction(kFatalSignals[i], &action, &g_previous[i]);
+    g_previousTerminate = std::set_terminate(onTerminate);
+}
+
+} // namespace platform

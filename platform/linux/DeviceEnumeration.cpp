@@ -1,0 +1,187 @@
+#include "platform/DeviceEnumeration.h"
+
+#include <QCollator>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+
+#include <dirent.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qint64 kAttributeLimit = 4096;
+constexpr int kMaxLinks = 4; // card, interface, device; more is a tree that leads in circles
+
+struct ClassFolder {
+    QLatin1StringView path;
+    QLatin1StringView prefix;
+    QLatin1StringView suffixes; // one of these characters has to be the last one; empty: a digit
+};
+
+ClassFolder classFolder(platform::DeviceClass deviceClass)
+{
+    switch (deviceClass) {
+    case platform::DeviceClass::Camera:
+        return {"class/video4linux"_L1, "video"_L1, {}};
+    case platform::DeviceClass::AudioEndpoint:
+        return {"class/sound"_L1, "pcmC"_L1, "cp"_L1};
+    case platform::DeviceClass::Media:
+        break;
+    }
+    return {"class/sound"_L1, "card"_L1, {}};
+}
+
+bool belongsTo(const ClassFolder& folder, const QString& name)
+{
+    if (!name.startsWith(folder.prefix) || name.size() == folder.prefix.size())
+        return false;
+    const QChar last = name.back();
+    return folder.suffixes.isEmpty() ? last.isDigit() : folder.suffixes.contains(last);
+}
+
+/// One tree of device attributes.
+class DeviceTree
+{
+public:
+    explicit DeviceTree(const QString& root)
+        : m_root(QFileInfo(root).canonicalFilePath())
+    {
+    }
+
+    [[nodiscard]] const QString& root() const { return m_root; }
+
+    [[nodiscard]] platform::DeviceRecord describe(const QString& entry) const
+    {
+        // From the entry towards the hardware: its own place, then where `device` leads.
+        QStringList places{QFileInfo(entry).canonicalFilePath()};
+        if (const QString card = cardOf(entry); !card.isEmpty())
+            places << card;
+        for (int i = 0; i < places.size() && places.size() < kMaxLinks; ++i) {
+            const QString next = QFileInfo(places[i] + "/device"_L1).canonicalFilePath();
+            if (!next.isEmpty() && !places.contains(next))
+                places << next;
+        }
+        const QString usbDevice = findUsbDevice(places);
+        return {instanceId(places.first(), usbDevice), friendlyName(places, usbDevice)};
+    }
+
+private:
+    // A stream of a sound card (pcmC1D0c) is named after the card (card1).
+    [[nodiscard]] static QString cardOf(const QString& entry)
+    {
+        const QFileInfo info(entry);
+        const QString name = info.fileName();
+        if (!name.startsWith("pcmC"_L1))
+            return {};
+        const QString number = name.sliced(4, qMax<qsizetype>(name.indexOf(u'D') - 4, 0));
+        return QFileInfo(info.path() + "/card"_L1 + number).canonicalFilePath();
+    }
+
+    [[nodiscard]] QString findUsbDevice(const QStringList& places) const
+    {
+        for (QString folder : places) {
+            while (folder.size() > m_root.size() && folder.startsWith(m_root)) {
+                if (QFileInfo::exists(folder + "/idVendor"_L1) &&
+                    QFileInfo::exists(folder + "/idProduct"_L1))
+                    return folder;
+                folder = QFileInfo(folder).path();
+            }
+        }
+        return {};
+    }
+
+    [[nodiscard]] static QString instanceId(const QString& place, const QString& usbDevice)
+    {
+        if (usbDevice.isEmpty())
+            return place;
+        QString serial = attribute(usbDevice, "serial"_L1);
+        if (serial.isEmpty())
+            serial = QFileInfo(usbDevice).fileName();
+        return (u"USB\\VID_"_s + attribute(usbDevice, "idVendor"_L1) + u"&PID_"_s +
+                attribute(usbDevice, "idProduct"_L1) + u'\\' + serial)
+            .toUpper();
+    }
+
+    [[nodiscard]] static QString friendlyName(const QStringList& places, const QString& usbDevice)
+    {
+        for (const auto name : {"id"_L1, "name"_L1}) {
+            for (const QString& place : places) {
+                if (const QString value = attribute(place, name); !value.isEmpty())
+                    return value;
+            }
+        }
+        return usbDevice.isEmpty() ? QString() : attribute(usbDevice, "product"_L1);
+    }
+
+    // Empty when there is none: devices vanish while they are listed.
+    [[nodiscard]] static QString attribute(const QString& folder, QLatin1StringView name)
+    {
+        const QString path = folder + u'/' + name;
+        if (!QFileInfo(path).isFile()) // `id` of a bus is a folder
+            return {};
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        return QString::fromUtf8(file.read(kAttributeLimit)).trimmed();
+    }
+
+    QString m_root;
+};
+
+// QDir cannot tell an empty folder from one that may not be read.
+int listFolder(const QString& path, QStringList& names)
+{
+    DIR* const folder = ::opendir(QFile::encodeName(path).constData());
+    if (!folder)
+        return errno;
+    // One thread reads this stream, which is all that readdir() asks for.
+    while (const dirent* entry = ::readdir(folder)) // NOLINT(concurrency-mt-unsafe)
+        names << QFile::decodeName(entry->d_name);
+    ::closedir(folder);
+    return 0;
+}
+
+void sortByNumber(QStringList& names)
+{
+    QCollator collator(QLocale::c());
+    collator.setNumericMode(true);
+    std::sort(names.begin(), names.end(), collator);
+}
+
+} // namespace
+
+namespace platform
+{
+
+bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32& errorCode)
+{
+    const QString configured = qEnvironmentVariable("VORN_SYSFS_ROOT");
+    const DeviceTree tree(configured.isEmpty() ? u"/sys"_s : configured);
+    errorCode = ENOENT;
+    if (tree.root().isEmpty())
+        return false;
+
+    const ClassFolder folder = classFolder(deviceClass);
+    const QString path = tree.root() + u'/' + folder.path;
+    QStringList names;
+    // The folder of a class appears with its first device.
+    const int error = listFolder(path, names);
+    if (error != 0 && error != ENOENT) {
+        errorCode = static_cast<quint32>(error);
+        return false;
+    }
+    names.removeIf([&](const QString& name) { return !belongsTo(folder, name); });
+    sortByNumber(names);
+    for (const QString& name : names)
+        records << tree.describe(path + u'/' + name);
+    errorCode = 0;
+    return true;
+}
+
+} // namespace platform

@@ -1,0 +1,97 @@
+#include "platform/Folders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+// QStandardPaths knows the state folder only from Qt 6.7 on.
+QString stateFolder()
+{
+    const QString configured = qEnvironmentVariable("XDG_STATE_HOME");
+    if (QDir::isAbsolutePath(configured))
+        return QDir::cleanPath(configured);
+    return QDir::homePath() + "/.local/state"_L1;
+}
+
+bool canWrite(const QString& folder)
+{
+    // Asked of the system rather than of the permission bits: a read-only mount has those as well.
+    return ::access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
+}
+
+void copyOnce(const QString& source, const QString& target)
+{
+    if (QFileInfo::exists(target) || !QFile::copy(source, target))
+        return;
+    // The installed original is usually read-only, and so would be its copy.
+    QFile::setPermissions(target,
+                          QFile::permissions(target) | QFile::ReadOwner | QFile::WriteOwner);
+}
+
+} // namespace
+
+namespace platform
+{
+
+QString programDataFolder()
+{
+    const QString folder = stateFolder() + "/VORNApp"_L1;
+    QDir().mkpath(folder);
+    return folder;
+}
+
+QString logBackupFolder()
+{
+    return stateFolder() + "/vorn_temp/log/"_L1;
+}
+
+QString settingsFolder()
+{
+    const QString besideExecutable = QCoreApplication::applicationDirPath();
+    if (canWrite(besideExecutable))
+        return besideExecutable;
+
+    const QString folder = localDataFolder() + "/VORNApp"_L1;
+    QDir().mkpath(folder);
+    for (const auto name : {"/config.ini"_L1, "/config.json"_L1})
+        copyOnce(besideExecutable + name, folder + name);
+    return folder;
+}
+
+QString startMenuFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::ApplicationsLocation);
+}
+
+QString desktopFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+}
+
+QString localDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+QString executableFileName(const QString& name)
+{
+    return name.endsWith(".exe"_L1, Qt::CaseInsensitive) ? name.chopped(4) : name;
+}
+
+QString programBesideApplication(const QString& name)
+{
+    const QString bareName = executableFileName(name);
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(bareName);
+    return QFileInfo(path).isFile() ? path : bareName;
+}
+
+} // namespace platform

@@ -1,0 +1,251 @@
+#include "platform/FrameChannel.h"
+
+#include "platform/linux/MemoryGuard.h"
+
+#include <cerrno>
+#include <cstring>
+#include <mutex>
+#include <utility>
+
+#include <fcntl.h>
+#include <semaphore.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace
+{
+
+using platform::FrameChannel;
+
+/// What tells one shared-memory object from another of the same name.
+struct ObjectId {
+    dev_t device = 0;
+    ino_t inode = 0;
+    bool operator==(const ObjectId&) const = default;
+};
+
+timespec deadlineAfter(std::chrono::milliseconds patience)
+{
+    timespec time{};
+    ::clock_gettime(CLOCK_MONOTONIC, &time);
+    const auto end =
+        std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec) + patience;
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(end);
+    time.tv_sec = seconds.count();
+    time.tv_nsec = std::chrono::nanoseconds(end - seconds).count();
+    return time;
+}
+
+/// POSIX shared memory and semaphore. Every access to either is guarded, since its owner can cut
+/// both short at any time.
+class PosixFrameChannel final : public FrameChannel
+{
+public:
+    PosixFrameChannel(std::string mappingName, std::string eventName, std::size_t viewSize)
+        : m_mappingName('/' + std::move(mappingName))
+        , m_eventName('/' + std::move(eventName))
+        , m_viewSize(viewSize)
+    {
+        platform::installMemoryGuard();
+    }
+
+    ~PosixFrameChannel() override { closeObjects(); }
+
+    OpenResult open() override
+    {
+        closeObjects();
+        const OpenResult result = openObjects();
+        if (result.failedAt != OpenStep::Done)
+            closeObjects();
+        return result;
+    }
+
+    [[nodiscard]] bool isOpen() const override { return m_view && m_event; }
+    void close() override { closeObjects(); }
+    [[nodiscard]] std::size_t size() const override { return isOpen() ? m_viewSize : 0; }
+
+    WaitResult wait(std::chrono::milliseconds patience) override
+    {
+        if (takeInterrupt(0))
+            return {WaitOutcome::Interrupted, 0};
+        if (!isOpen())
+            return {WaitOutcome::Failed, EBADF};
+
+        const int error = waitForPost(deadlineAfter(patience));
+        if (takeInterrupt(error == 0 ? 1 : 0))
+            return {WaitOutcome::Interrupted, 0};
+        if (error == 0) {
+            takePendingPosts();
+            return {WaitOutcome::Signalled, 0};
+        }
+        if (error != ETIMEDOUT)
+            return {WaitOutcome::Failed, static_cast<quint32>(error)};
+        if (isReplaced())
+            closeObjects();
+        return {WaitOutcome::TimedOut, 0};
+    }
+
+    bool copyOut(std::size_t offset, void* target, std::size_t length) override
+    {
+        if (!isOpen() || offset > m_viewSize || length > m_viewSize - offset)
+            return false;
+        const auto* source = static_cast<const std::byte*>(m_view) + offset;
+        return platform::guarded([=] { std::memcpy(target, source, length); });
+    }
+
+    void interrupt() override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_interrupted = true;
+        int result = -1;
+        if (m_event && platform::guarded([&] { result = ::sem_post(m_event); }) && result == 0)
+            ++m_ownPosts;
+    }
+
+private:
+    OpenResult openObjects()
+    {
+        const int fd = ::shm_open(m_mappingName.c_str(), O_RDONLY, 0);
+        if (fd < 0)
+            return {OpenStep::Mapping, static_cast<quint32>(errno)};
+        const int viewError = mapView(fd);
+        ::close(fd);
+        if (viewError != 0)
+            return {OpenStep::View, static_cast<quint32>(viewError)};
+
+        sem_t* const event = ::sem_open(m_eventName.c_str(), 0);
+        if (event == SEM_FAILED)
+            return {OpenStep::Event, static_cast<quint32>(errno)};
+        const std::lock_guard lock(m_mutex);
+        m_event = event;
+        return {OpenStep::Done, 0};
+    }
+
+    // errno, or 0. The mapping keeps the object alive, so that its inode number stays its own.
+    int mapView(int fd)
+    {
+        struct stat status = {};
+        if (::fstat(fd, &status) != 0)
+            return errno;
+        if (status.st_size < 0 || static_cast<quint64>(status.st_size) < m_viewSize)
+            return ENXIO;
+        // Page faults are taken here rather than during the first frame.
+        void* const view = ::mmap(nullptr, m_viewSize, PROT_READ, MAP_SHARED | MAP_POPULATE, fd, 0);
+        if (view == MAP_FAILED)
+            return errno;
+        m_view = view;
+        m_mappingId = {status.st_dev, status.st_ino};
+        return 0;
+    }
+
+    void closeObjects()
+    {
+        if (m_view)
+            ::munmap(std::exchange(m_view, nullptr), m_viewSize);
+        const std::lock_guard lock(m_mutex);
+        if (!m_event)
+            return;
+        takeBackOwnPosts(0);
+        ::sem_close(std::exchange(m_event, nullptr));
+    }
+
+    // errno, or 0 when a post was taken.
+    int waitForPost(const timespec& deadline)
+    {
+        int error = EFAULT; // the semaphore's memory is gone
+        const bool intact = platform::guarded([&] {
+            int result = 0;
+            do
+                result = ::sem_clockwait(m_event, CLOCK_MONOTONIC, &deadline);
+            while (result != 0 && errno == EINTR);
+            error = result == 0 ? 0 : errno;
+        });
+        return intact ? error : EFAULT;
+    }
+
+    // An event knows only "set" and "not set", however often it was set. The count is asked once,
+    // so that a writer who posts without pause cannot hold the reader here.
+    void takePendingPosts()
+    {
+        const bool intact = platform::guarded([this] {
+            int pending = 0;
+            ::sem_getvalue(m_event, &pending);
+            while (pending-- > 0 && ::sem_trywait(m_event) == 0) {
+            }
+        });
+        Q_UNUSED(intact) // the copy that follows tells
+    }
+
+    // True when interrupt() was called; `taken` posts have left the semaphore already.
+    bool takeInterrupt(int taken)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!m_interrupted)
+            return false;
+        m_interrupted = false;
+        takeBackOwnPosts(taken);
+        return true;
+    }
+
+    // The posts of interrupt() must not look like frames to a later wait. Needs the mutex.
+    void takeBackOwnPosts(int taken)
+    {
+        const int count = std::exchange(m_ownPosts, 0) - taken;
+        if (!m_event || count <= 0)
+            return;
+        const bool intact = platform::guarded([&] {
+            for (int i = 0; i < count && ::sem_trywait(m_event) == 0; ++i) {
+            }
+        });
+        Q_UNUSED(intact) // nothing left to take back
+    }
+
+    [[nodiscard]] bool isReplaced() const
+    {
+        const int fd = ::shm_open(m_mappingName.c_str(), O_RDONLY, 0);
+        if (fd >= 0) {
+            struct stat status = {};
+            const bool known = ::fstat(fd, &status) == 0;
+            ::close(fd);
+            if (known && ObjectId{status.st_dev, status.st_ino} != m_mappingId)
+                return true;
+        }
+        // Opening a semaphore that this process has open gives the same address again.
+        sem_t* const event = ::sem_open(m_eventName.c_str(), 0);
+        if (event == SEM_FAILED)
+            return false;
+        const bool replaced = event != m_event;
+        ::sem_close(event);
+        return replaced;
+    }
+
+    const std::string m_mappingName;
+    const std::string m_eventName;
+    const std::size_t m_viewSize;
+
+    // The reading thread's own.
+    void* m_view = nullptr;
+    ObjectId m_mappingId;
+
+    // m_event is changed by the reading thread under the mutex, hence read by it without.
+    std::mutex m_mutex;
+    sem_t* m_event = nullptr;
+    bool m_interrupted = false;
+    int m_ownPosts = 0; // made by interrupt() and perhaps still pending
+};
+
+} // namespace
+
+namespace platform
+{
+
+std::unique_ptr<FrameChannel> makeFrameChannel(std::string mappingName, std::string eventName,
+                                               std::size_t viewSize)
+{
+    return std::make_unique<PosixFrameChannel>(std::move(mappingName), std::move(eventName),
+                                               viewSize);
+}
+
+} // namespace platform

@@ -1,0 +1,84 @@
+#include "platform/InstanceSegment.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QSharedMemory>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int kHandOverPatienceMs = 10'000; // a first start listens only some way into its start
+constexpr int kLockRetryMs = 5;
+
+bool lockWithin(int fd, int patienceMs)
+{
+    const QDeadlineTimer deadline(patienceMs);
+    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || deadline.hasExpired())
+            return false;
+        ::poll(nullptr, 0, kLockRetryMs);
+    }
+    return true;
+}
+
+} // namespace
+
+namespace platform
+{
+
+class InstanceLock::Private
+{
+public:
+    int fd = -1;
+    bool held = false;
+};
+
+InstanceLock::InstanceLock(const QString& key, int patienceMs)
+    : d(std::make_unique<Private>())
+{
+    // Beside the file that QSharedMemory makes for the key, so that both reach equally far. The
+    // file stays: removing it would let two starts lock two different ones.
+    const QString path =
+        QDir::tempPath() + u'/' + key + u'-' + QString::number(::getuid()) + ".lock"_L1;
+    d->fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW,
+                   0600);
+    d->held = d->fd >= 0 && lockWithin(d->fd, patienceMs);
+}
+
+InstanceLock::~InstanceLock()
+{
+    if (d->fd >= 0)
+        ::close(d->fd);
+}
+
+bool InstanceLock::isHeld() const
+{
+    return d->held;
+}
+
+bool clearStaleSegment(const QString& key)
+{
+    // The last one to detach removes the segment; if it is still there, somebody else is attached.
+    QSharedMemory segment(key);
+    if (!segment.attach(QSharedMemory::ReadOnly))
+        return false;
+    segment.detach();
+    return !segment.attach(QSharedMemory::ReadOnly);
+}
+
+int handOverPatienceMs()
+{
+    return kHandOverPatienceMs;
+}
+
+} // namespace platform
