@@ -1,0 +1,86 @@
+import QtQuick
+
+// A round check box with its label. It never changes `checked` itself: `clicked` asks its owner to.
+Item {
+    id: root
+
+    property bool checked: false
+    property color normalColor: "#FFFFFF"
+    property color checkedColor: "#4EB857"
+    property real size: 16
+    property string text: ""
+    property real spacing: 12
+    property string accessibleName: text
+
+    signal clicked
+
+    width: size + spacing + label.width
+    height: label.height
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: accessibleName
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.focusable: true
+    Accessible.onPressAction: area.press()
+    Accessible.onToggleAction: area.press()
+    Keys.forwardTo: [area]
+
+    Rectangle {
+        id: circle
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: root.size
+        height: width
+        radius: width / 2
+        color: root.normalColor
+        border.width: 2
+        border.color: root.checked ? root.checkedColor : root.normalColor
+
+        Behavior on border.color {
+            ColorAnimation {
+                duration: 200
+            }
+        }
+
+        Rectangle {
+            anchors.centerIn: parent
+            // Whole pixels would make the growing dot wobble.
+            anchors.alignWhenCentered: false
+            width: root.checked ? circle.width * 0.5 : 0
+            height: width
+            radius: width / 2
+            color: root.checkedColor
+
+            Behavior on width {
+                NumberAnimation {
+                    duration: 200
+                    easing.type: Easing.OutBack
+                    easing.overshoot: 1.5
+                }
+            }
+        }
+
+        FocusRing {
+            control: root
+            controlRadius: circle.radius
+        }
+    }
+
+    LatoRegularLabel {
+        id: label
+
+        x: root.size + root.spacing
+        text: root.text
+        font.pixelSize: 16
+    }
+
+    PressArea {
+        id: area
+
+        control: root
+        cursorShape: Qt.PointingHandCursor
+        onClicked: root.clicked()
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+import Qt5Compat.GraphicalEffects
+
+// A picture cut to a circle. Without an accessible name it is decoration to a screen reader.
+Item {
+    id: root
+
+    property string imageSource: ""
+    property string accessibleName: ""
+
+    width: 84
+    height: width
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: accessibleName
+    Accessible.ignored: accessibleName === ""
+
+    Image {
+        id: picture
+
+        anchors.fill: parent
+        source: root.imageSource
+        fillMode: Image.PreserveAspectCrop
+        // Photographs are many times the size of the circle.
+        mipmap: true
+        visible: false
+    }
+
+    Rectangle {
+        id: disc
+
+        anchors.fill: parent
+        radius: width / 2
+        visible: false
+    }
+
+    OpacityMask {
+        anchors.fill: parent
+        source: picture
+        maskSource: disc
+    }
+}

@@ -1,0 +1,5 @@
+import QtQuick
+
+LatoRegularLabel {
+    font.weight: Font.Bold
+}

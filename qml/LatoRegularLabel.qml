@@ -1,0 +1,11 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// A text in the application's font. The family arrives as the context property LatoRegular, which
+// the linter cannot see; every other file takes the font from here.
+Label {
+    font.family: LatoRegular // qmllint disable unqualified
+    horizontalAlignment: Text.AlignLeft
+    verticalAlignment: Text.AlignVCenter
+    color: "#FFFFFF"
+}

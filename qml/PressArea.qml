@@ -1,0 +1,130 @@
+import QtQuick
+
+// The input of a button: turns pointer and keyboard presses on `control` into one set of signals and
+// repeats long presses. The control forwards its keys to this item. Children cover the control.
+//
+// It takes no room of its own, so that a button sized by its childrenRect is measured by its content
+// alone; the pointer area inside still covers the whole control.
+Item {
+    id: area
+
+    default property alias cover: pointer.data
+    required property Item control
+    property bool longPresse: false
+    property bool autoRepeat: false
+    property bool triggeredOnStart: false
+    property int repeatInterval: 300
+    property alias cursorShape: pointer.cursorShape
+
+    readonly property bool containsMouse: pointer.containsMouse
+    readonly property bool pointerHeld: pointer.pressed
+    // The key that holds the button down, 0 when none does.
+    property int heldKey: 0
+    readonly property bool focused: control.activeFocus
+    // What the button says, as the name for a screen reader when the page gives none.
+    readonly property string contentText: textIn(control).replace(/\s+/g, " ")
+
+    signal entered
+    signal exited
+    signal pressed
+    signal released
+    signal clicked
+    signal canceled
+    signal triggered
+
+    // A whole press and release, for a screen reader's press action.
+    function press(): void {
+        area.pressed();
+        area.released();
+        area.clicked();
+    }
+
+    function startRepeat(): void {
+        if (area.longPresse)
+            repeatTimer.restart();
+    }
+
+    function stopRepeat(): void {
+        repeatTimer.stop();
+    }
+
+    function isPressKey(event: KeyEvent): bool {
+        const chord = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier);
+        return !chord && [Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter].includes(event.key);
+    }
+
+    function dropKey(): void {
+        if (area.heldKey === 0)
+            return;
+        area.heldKey = 0;
+        area.released();
+    }
+
+    function textIn(item: Item): string {
+        const label = item as Text;
+        if (label)
+            return label.text;
+        for (let i = 0; i < item.children.length; ++i) {
+            const text = area.textIn(item.children[i]);
+            if (text !== "")
+                return text;
+        }
+        return "";
+    }
+
+    // A key whose release goes elsewhere would hold the button down for ever. A hidden item keeps the
+    // focus, but gets no more keys.
+    onFocusedChanged: {
+        if (!area.focused)
+            area.dropKey();
+    }
+    onVisibleChanged: {
+        if (!area.visible)
+            area.dropKey();
+    }
+
+    Keys.onPressed: (event) => {
+        if (!area.enabled || !area.isPressKey(event))
+            return;
+        event.accepted = true;
+        if (event.isAutoRepeat || area.heldKey !== 0 || pointer.pressed)
+            return;
+        area.heldKey = event.key;
+        area.pressed();
+    }
+    Keys.onReleased: (event) => {
+        if (event.key !== area.heldKey)
+            return;
+        event.accepted = true;
+        if (event.isAutoRepeat)
+            return;
+        area.dropKey();
+        area.clicked();
+    }
+
+    MouseArea {
+        id: pointer
+
+        width: area.control.width
+        height: area.control.height
+        hoverEnabled: true
+        onEntered: area.entered()
+        onExited: area.exited()
+        onPressed: {
+            area.dropKey();
+            area.pressed();
+        }
+        onReleased: area.released()
+        onClicked: area.clicked()
+        onCanceled: area.canceled()
+    }
+
+    Timer {
+        id: repeatTimer
+
+        interval: area.repeatInterval
+        repeat: area.autoRepeat
+        triggeredOnStart: area.triggeredOnStart
+        onTriggered: area.triggered()
+    }
+}

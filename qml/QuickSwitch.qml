@@ -1,0 +1,74 @@
+import QtQuick
+
+// An animated switch. It never changes `checked` itself: `clicked` asks its owner to.
+Rectangle {
+    id: root
+
+    property bool checked: false
+    property color handleColor: "#FFFFFF"
+    property color normalColor: "#9B9B9B"
+    property color checkedColor: "#4EB857"
+    property real handleRadius: radius
+    property real handleHeight: height
+    property real handleSpacing: (height - handleHeight) / 2
+    property int duration: 300
+    readonly property bool isAnimating: colorAnimation.running || slide.running
+    property string accessibleName: ""
+
+    signal clicked
+
+    width: 100
+    height: 40
+    radius: height / 2
+    color: checked ? checkedColor : normalColor
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: accessibleName
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.focusable: true
+    Accessible.onPressAction: area.press()
+    Accessible.onToggleAction: area.press()
+    Keys.forwardTo: [area]
+
+    Behavior on color {
+        ColorAnimation {
+            id: colorAnimation
+
+            duration: root.duration
+        }
+    }
+
+    Rectangle {
+        id: handle
+
+        x: root.checked ? root.width - width - root.handleSpacing : root.handleSpacing
+        anchors.verticalCenter: parent.verticalCenter
+        width: root.handleHeight
+        height: root.handleHeight
+        radius: root.handleRadius
+        color: root.handleColor
+
+        Behavior on x {
+            NumberAnimation {
+                id: slide
+
+                duration: root.duration
+            }
+        }
+    }
+
+    PressArea {
+        id: area
+
+        control: root
+        enabled: !root.isAnimating
+        onClicked: root.clicked()
+
+        FocusRing {
+            control: root
+            controlRadius: root.radius
+        }
+    }
+}
