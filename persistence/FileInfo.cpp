@@ -1,0 +1,172 @@
+#include "persistence/FileInfo.h"
+
+#include "logging/Log.h"
+#include "platform/Registry.h"
+#include "platform/VersionResource.h"
+
+#include <QFile>
+#include <QSettings>
+
+#include <atomic>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int kDefaultInterval = 5000;
+constexpr int kLongestInterval = 24 * 60 * 60 * 1000;
+// A real file has a dozen lines. QSettings would load whatever size it finds.
+constexpr qint64 kLargestConfig = 1024 * 1024;
+
+std::atomic<FileInfo*> s_instance{nullptr};
+
+void logKept(const QString& key)
+{
+    Log::error("FileInfo::FileInfo") << "value of " << key << " cannot be used, default kept";
+}
+
+} // namespace
+
+FileInfo::FileInfo(QString configPath)
+    : m_configPath(std::move(configPath))
+    , m_k4vLowestVer(u"3.9.6"_s)
+    , m_useRemoteDeviceInterval(kDefaultInterval)
+    , m_serverUrl(QStringLiteral(VORN_ACCOUNT_URL))
+    , m_googleMeetingUrl(u"https://meet.google.com/landing?hs=197&authuser=0"_s)
+{
+    FileInfo* none = nullptr;
+    s_instance.compare_exchange_strong(none, this);
+    readConfig();
+}
+
+FileInfo::~FileInfo()
+{
+    FileInfo* self = this;
+    s_instance.compare_exchange_strong(self, nullptr);
+}
+
+FileInfo& FileInfo::instance()
+{
+    FileInfo* const instance = s_instance;
+    Q_ASSERT_X(instance, "FileInfo::instance", "no configuration has been read");
+    return *instance;
+}
+
+void FileInfo::readConfig()
+{
+    QFile file(m_configPath);
+    if (!file.exists()) {
+        Log::error("FileInfo::FileInfo") << m_configPath << " not exist!!!";
+        return;
+    }
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        const QByteArray content = file.read(kLargestConfig + 1);
+        if (content.size() > kLargestConfig) {
+            Log::error("FileInfo::FileInfo")
+                << m_configPath << " is larger than " << kLargestConfig << " bytes, ignored";
+            return;
+        }
+        Log::info("FileInfo::FileInfo") << m_configPath << '\n' << content;
+        file.close();
+    } else {
+        Log::info("FileInfo::FileInfo")
+            << "open " << m_configPath << " error:" << file.errorString();
+    }
+
+    const QSettings settings(m_configPath, QSettings::IniFormat);
+    readString(settings, u"K4V/lowest_ver"_s, m_k4vLowestVer);
+    readInterval(settings, u"VORNApp/use_remote_device_interval"_s, m_useRemoteDeviceInterval);
+    readBool(settings, u"VORNApp/use_remote_device"_s, m_useRemoteDevice);
+    readBool(settings, u"VORNApp/support_launch_zoom"_s, m_supportLaunchZoom);
+    readBool(settings, u"VORNApp/support_launch_teams"_s, m_supportLaunchTeams);
+    readBool(settings, u"VORNApp/support_launch_google"_s, m_supportLaunchGoogle);
+    readString(settings, u"Server/url"_s, m_serverUrl);
+    readString(settings, u"VORNApp/google_meeting_url"_s, m_googleMeetingUrl);
+}
+
+void FileInfo::readString(const QSettings& settings, const QString& key, QString& member) const
+{
+    const QVariant value = settings.value(key, member);
+    // An unquoted comma makes a list of what was meant as one text.
+    if (value.typeId() == QMetaType::QStringList)
+        member = value.toStringList().join(u',');
+    else if (value.canConvert<QString>())
+        member = value.toString();
+    else
+        logKept(key);
+    Log::info("FileInfo::FileInfo") << key << ':' << member;
+}
+
+void FileInfo::readBool(const QSettings& settings, const QString& key, bool& member) const
+{
+    const QVariant value = settings.value(key, member);
+    if (value.canConvert<bool>())
+        member = value.toBool();
+    else
+        logKept(key);
+    Log::info("FileInfo::FileInfo") << key << ':' << member;
+}
+
+void FileInfo::readInterval(const QSettings& settings, const QString& key, int& member) const
+{
+    bool isNumber = false;
+    const int interval = settings.value(key, member).toInt(&isNumber);
+    if (isNumber && interval > 0 && interval <= kLongestInterval)
+        member = interval;
+    else
+        logKept(key);
+    Log::info("FileInfo::FileInfo") << key << ':' << member;
+}
+
+void FileInfo::saveConfig(const QString& iniPath, const QString& key, const QVariant& value) const
+{
+    if (iniPath.isEmpty() || key.isEmpty()) {
+        Log::error("FileInfo::saveConfig") << "path or key missing";
+        return;
+    }
+    {
+        QSettings settings(iniPath, QSettings::IniFormat);
+        settings.setValue(key, value);
+        settings.sync();
+        if (settings.status() != QSettings::NoError)
+            Log::error("FileInfo::saveConfig") << "cannot write " << iniPath;
+    }
+    const QSettings written(iniPath, QSettings::IniFormat);
+    Log::info("FileInfo::saveConfig")
+        << "check " << iniPath << ' ' << key << ':' << written.value(key).toString();
+}
+
+void FileInfo::saveRegistry(const QString& registryPath, const QString& name,
+                            const QVariant& value) const
+{
+    if (registryPath.isEmpty() || name.isEmpty()) {
+        Log::error("FileInfo::saveRegistry") << "path or name missing";
+        return;
+    }
+    // The program that reads the registry expects numbers; Qt would store a boolean as text.
+    const bool isBool = value.typeId() == QMetaType::Bool;
+    if (!platform::writeRegistry(registryPath, name, isBool ? QVariant(value.toInt()) : value))
+        Log::error("FileInfo::saveRegistry") << "cannot write " << registryPath;
+    Log::info("FileInfo::saveRegistry") << "check " << registryPath << ' ' << name << ':'
+                                        << platform::readRegistry(registryPath, name).toString();
+}
+
+QString readFileVersion(const QString& path)
+{
+    const auto versions = platform::fileVersions(path);
+    if (!versions)
+        return {};
+    const auto& file = versions->file;
+    return u"%1.%2.%3.%4"_s.arg(file[0]).arg(file[1]).arg(file[2]).arg(file[3]);
+}
+
+QString readProductVersion(const QString& path)
+{
+    const auto versions = platform::fileVersions(path);
+    if (!versions)
+        return {};
+    const auto& product = versions->product;
+    return u"%1.%2.%3"_s.arg(product[0]).arg(product[1]).arg(product[2]);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "persistence/TaskQueue.h"
+
+#include <functional>
+
+class FileInfo;
+class MeetingLauncher;
+class UserSettings;
+
+/// The program's tasks. Missing arguments count as empty values.
+///
+/// | task                               | arguments                                            |
+/// |------------------------------------|------------------------------------------------------|
+/// | saveRegistry                       | registry path, value name, value                     |
+/// | saveConfig                         | INI file, key, value                                 |
+/// | saveDB                             | key, value, number of the sign-in (absent: current)  |
+/// | launchZoom, launchTeams,           | none                                                 |
+/// | launchGoogleMeeting                |                                                      |
+///
+/// @param userSettings  asked on the task thread, when a saveDB task runs: the store is made later
+///                      than the queue. Everything given here has to outlive the queue's thread.
+TaskQueue::Actions standardTasks(FileInfo& fileInfo, std::function<UserSettings&()> userSettings,
+                                 MeetingLauncher& launcher);

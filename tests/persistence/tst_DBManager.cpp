@@ -1,0 +1,217 @@
+#include "persistence/DBManager.h"
+
+#include "tests/persistence/LogCapture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class TestDBManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void survivesRestart();
+    void keepsEveryType();
+    void sameKeyKeepsOneRow();
+    void clearLeavesNoTrace();
+    void endedSignInIsDropped();
+    void unusableFileIsLogged_data();
+    void unusableFileIsLogged();
+    void otherUsersCannotRead();
+    void failedStatementIsLogged();
+
+private:
+    std::optional<QTemporaryDir> m_dir;
+    QString m_path;
+};
+
+namespace
+{
+
+int rows()
+{
+    QSqlQuery query(u"SELECT count(*) FROM user_settings"_s);
+    return query.next() ? query.value(0).toInt() : -1;
+}
+
+QByteArray bytesOfEveryFile(const QString& folder)
+{
+    QByteArray bytes;
+    for (const QFileInfo& each : QDir(folder).entryInfoList(QDir::Files)) {
+        QFile file(each.filePath());
+        if (file.open(QIODevice::ReadOnly))
+            bytes += file.readAll();
+    }
+    return bytes;
+}
+
+QString randomText(int length)
+{
+    QString text;
+    while (text.size() < length)
+        text += QString::number(QRandomGenerator::global()->generate64(), 36);
+    return text;
+}
+
+} // namespace
+
+void TestDBManager::init()
+{
+    // Qt warns about a connection that is still in use, or used from the wrong thread.
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+    m_dir.emplace();
+    m_path = m_dir->filePath(u"userdata.db"_s);
+}
+
+void TestDBManager::survivesRestart()
+{
+    LogCapture log;
+    {
+        DBManager db(m_path);
+        QCOMPARE(log.take(), QStringList{u"I DBManager::DBManager m_dbPath:"_s + m_path});
+        QCOMPARE(db.getUserData(u"email"_s, u"none"_s), QVariant(u"none"_s));
+        QVERIFY(db.saveUserData(u"email"_s, u"a@b.example"_s));
+        QCOMPARE(log.take(), QStringList{u"I DBManager::getUserData key:email"_s});
+    }
+    QVERIFY(QSqlDatabase::connectionNames().isEmpty());
+    DBManager db(m_path);
+    QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"a@b.example"_s);
+}
+
+void TestDBManager::keepsEveryType()
+{
+    DBManager db(m_path);
+    const QString text = u"naïve 日本 😀 'quoted\"; --"_s + QChar(0) + u"after"_s;
+    const QByteArray bytes("\0\xff\x01", 3);
+    QVERIFY(db.saveUserData(text, text));
+    QVERIFY(db.saveUserData(u"empty"_s, u""_s));
+    QVERIFY(db.saveUserData(u"number"_s, Q_INT64_C(-9'000'000'000)));
+    QVERIFY(db.saveUserData(u"real"_s, 0.1));
+    QVERIFY(db.saveUserData(u"flag"_s, true));
+    QVERIFY(db.saveUserData(u"bytes"_s, bytes));
+    QVERIFY(db.saveUserData(u"nothing"_s, QVariant()));
+    QCOMPARE(db.getUserData(text, {}), QVariant(text));
+    QCOMPARE(db.getUserData(u"empty"_s, u"default"_s), QVariant(u""_s));
+    QCOMPARE(db.getUserData(u"number"_s, {}), QVariant(Q_INT64_C(-9'000'000'000)));
+    QCOMPARE(db.getUserData(u"real"_s, {}), QVariant(0.1));
+    QVERIFY(db.getUserData(u"flag"_s, {}).toBool());
+    QCOMPARE(db.getUserData(u"bytes"_s, {}), QVariant(bytes));
+    QVERIFY(db.getUserData(u"nothing"_s, u"default"_s).isNull());
+}
+
+void TestDBManager::sameKeyKeepsOneRow()
+{
+    DBManager db(m_path);
+    QVERIFY(db.saveUserData(u"title"_s, u"first"_s));
+    QVERIFY(db.saveUserData(u"title"_s, u"second"_s));
+    QCOMPARE(db.getUserData(u"title"_s, {}).toString(), u"second"_s);
+    QCOMPARE(rows(), 1);
+}
+
+void TestDBManager::clearLeavesNoTrace()
+{
+    DBManager db(m_path);
+    const QString replaced = randomText(2000);
+    const QString token = randomText(200);
+    const QString picture = randomText(300'000);
+    QVERIFY(db.saveUserData(u"token"_s, replaced));
+    QVERIFY(db.saveUserData(u"token"_s, token));
+    QVERIFY(db.saveUserData(u"picture"_s, picture));
+    QByteArray bytes = bytesOfEveryFile(m_dir->path());
+    QVERIFY(bytes.contains(token.left(12).toLatin1()));
+    QVERIFY2(!bytes.contains(replaced.left(12).toLatin1()), "a replaced value stays readable");
+
+    QVERIFY(db.clearUserData());
+    bytes = bytesOfEveryFile(m_dir->path());
+    QCOMPARE(rows(), 0);
+    for (const QString& value : {replaced, token, picture})
+        for (qsizetype at = 0; at + 12 <= value.size(); at += 97)
+            QVERIFY2(!bytes.contains(value.mid(at, 12).toLatin1()), qPrintable(value.mid(at, 12)));
+    QCOMPARE(db.getUserData(u"token"_s, u"none"_s), QVariant(u"none"_s));
+}
+
+void TestDBManager::endedSignInIsDropped()
+{
+    DBManager db(m_path);
+    const quint64 before = db.currentSignIn();
+    QVERIFY(db.saveUserData(u"email"_s, u"old"_s, before));
+    QVERIFY(db.clearUserData());
+    QVERIFY(db.currentSignIn() != before);
+    QVERIFY(db.saveUserData(u"email"_s, u"old"_s, before));
+    QCOMPARE(rows(), 0);
+    QVERIFY(db.saveUserData(u"email"_s, u"new"_s, db.currentSignIn()));
+    QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"new"_s);
+}
+
+void TestDBManager::unusableFileIsLogged_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("firstError");
+    QTest::addColumn<QString>("readError");
+    QTest::newRow("is a folder") << u"."_s << u"E DBManager::openDatabase Database open error:"_s
+                                 << u"E DBManager::getUserData Database not open"_s;
+    QTest::newRow("folder missing")
+        << u"none/userdata.db"_s << u"E DBManager::openDatabase Database open error:"_s
+        << u"E DBManager::getUserData Database not open"_s;
+    QTest::newRow("is no database") << u"garbage"_s << u"E DBManager::openDatabase Failed to set"_s
+                                    << u"E DBManager::getUserData Query failed:"_s;
+}
+
+void TestDBManager::unusableFileIsLogged()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QString, firstError);
+    QFETCH(const QString, readError);
+    const QByteArray garbage(10'000, 'x');
+    QFile garbageFile(m_dir->filePath(u"garbage"_s));
+    QVERIFY(garbageFile.open(QIODevice::ReadWrite) && garbageFile.write(garbage) > 0);
+    QVERIFY(garbageFile.flush());
+
+    LogCapture log;
+    DBManager db(m_dir->filePath(file));
+    const QStringList lines = log.take();
+    QVERIFY2(lines.value(1).startsWith(firstError), qPrintable(lines.join(u'\n')));
+    QCOMPARE(lines.last(), u"E DBManager::initialize Failed to create tables"_s);
+    QCOMPARE(db.getUserData(u"email"_s, u"none"_s), QVariant(u"none"_s));
+    QVERIFY(log.take().last().startsWith(readError));
+    QVERIFY(!db.saveUserData(u"email"_s, u"a"_s));
+    QVERIFY(!db.clearUserData());
+
+    QVERIFY(garbageFile.seek(0));
+    QCOMPARE(garbageFile.readAll(), garbage);
+}
+
+void TestDBManager::otherUsersCannotRead()
+{
+    const DBManager db(m_path);
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+#ifndef Q_OS_WIN
+    QVERIFY(!(QFile::permissions(m_path) & others));
+#endif
+}
+
+void TestDBManager::failedStatementIsLogged()
+{
+    DBManager db(m_path);
+    LogCapture log;
+    QVERIFY(!db.execQuery(u"DELETE FROM nowhere"_s, {}));
+    const QStringList lines = log.take();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(lines[0].startsWith(u"E DBManager::execQuery Query failed:"));
+    QVERIFY(lines[0].contains(u"no such table"));
+    QVERIFY(lines[0].endsWith(u" - Query:DELETE FROM nowhere"));
+}
+
+QTEST_GUILESS_MAIN(TestDBManager)
+#include "tst_DBManager.moc"

@@ -1,0 +1,182 @@
+#include "launch/MeetingLauncher.h"
+#include "persistence/DBManager.h"
+#include "persistence/FileInfo.h"
+#include "persistence/StandardTasks.h"
+
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class NoLauncher : public MeetingLauncher
+{
+public:
+    bool startZoom() override { return false; }
+    bool startTeams() override { return false; }
+    bool openGoogleMeeting() override { return true; }
+};
+
+int rows()
+{
+    QSqlQuery query(u"SELECT count(*) FROM user_settings"_s);
+    return query.next() ? query.value(0).toInt() : -1;
+}
+
+} // namespace
+
+/// Posts to a queue on a thread of its own, as the device state does.
+class Poster : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Poster(TaskQueue::Actions actions)
+    {
+        actions.emplace_back(u"drained"_s, [this](const QVariantList&) { emit drained(); });
+        m_queue = std::make_unique<TaskQueue>(std::move(actions));
+        m_queue->moveToThread(&m_thread);
+        connect(this, &Poster::addTask, m_queue.get(), &TaskQueue::addTask);
+        m_thread.start();
+    }
+    ~Poster() override
+    {
+        m_thread.quit();
+        m_thread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(Poster)
+
+signals:
+    void addTask(QString task, QVariantList args);
+    void drained();
+
+private:
+    QThread m_thread;
+    std::unique_ptr<TaskQueue> m_queue;
+};
+
+class TestDBManagerThreads : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u"."_s));
+        m_dir.emplace();
+        m_path = m_dir->filePath(u"userdata.db"_s);
+    }
+
+    void severalThreadsAtOnce();
+    void connectionEndsWithItsThread();
+    void threadOutlivesStore();
+    void signOutBeatsPendingWrites();
+
+private:
+    std::optional<QTemporaryDir> m_dir;
+    QString m_path;
+};
+
+void TestDBManagerThreads::severalThreadsAtOnce()
+{
+    constexpr int kThreads = 3;
+    constexpr int kWrites = 30;
+    DBManager db(m_path);
+    std::atomic<int> failed{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t)
+        threads.emplace_back([&db, &failed, t] {
+            for (int i = 0; i < kWrites; ++i) {
+                const QString key = u"%1-%2"_s.arg(t).arg(i);
+                failed += !db.saveUserData(key, i, db.currentSignIn());
+                failed += db.getUserData(key, -1).toInt() != i;
+            }
+        });
+    for (int i = 0; i < kWrites; ++i) {
+        failed += !db.saveUserData(u"main"_s, i);
+        failed += db.getUserData(u"main"_s, -1).toInt() != i;
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    QCOMPARE(failed.load(), 0);
+    QCOMPARE(rows(), kThreads * kWrites + 1);
+}
+
+void TestDBManagerThreads::connectionEndsWithItsThread()
+{
+    DBManager db(m_path);
+    const qsizetype before = QSqlDatabase::connectionNames().size();
+    qsizetype during = 0;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        db.saveUserData(u"a"_s, 1);
+        db.saveUserData(u"b"_s, 1);
+        during = QSqlDatabase::connectionNames().size();
+    }));
+    thread->start();
+    QVERIFY(thread->wait());
+    QCOMPARE(during, before + 1);
+    QCOMPARE(QSqlDatabase::connectionNames().size(), before);
+}
+
+void TestDBManagerThreads::threadOutlivesStore()
+{
+    std::unique_ptr<DBManager> db;
+    NoLauncher launcher;
+    FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
+    {
+        Poster poster(standardTasks(
+            fileInfo, [&]() -> UserSettings& { return *db; }, launcher));
+        QSignalSpy drained(&poster, &Poster::drained);
+        for (const QString& path : {m_path, m_path + u"2"_s}) {
+            db = std::make_unique<DBManager>(path);
+            emit poster.addTask(u"saveDB"_s, {u"path"_s, path});
+            emit poster.addTask(u"drained"_s, {});
+            QVERIFY(drained.wait());
+            QCOMPARE(db->getUserData(u"path"_s, {}).toString(), path);
+            db.reset();
+        }
+    }
+    QVERIFY(QSqlDatabase::connectionNames().isEmpty());
+}
+
+void TestDBManagerThreads::signOutBeatsPendingWrites()
+{
+    constexpr int kRounds = 100;
+    DBManager db(m_path);
+    NoLauncher launcher;
+    FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
+    Poster poster(standardTasks(
+        fileInfo, [&db]() -> UserSettings& { return db; }, launcher));
+    QSignalSpy drained(&poster, &Poster::drained);
+    for (int round = 0; round < kRounds; ++round) {
+        const quint64 signIn = db.currentSignIn();
+        const int posted = QRandomGenerator::global()->bounded(1, 10);
+        for (int i = 0; i < posted; ++i)
+            emit poster.addTask(u"saveDB"_s, {u"key%1"_s.arg(i), round, signIn});
+        // Let the writer get anywhere between its first and its last write.
+        for (int i = QRandomGenerator::global()->bounded(0, posted); i > 0; --i)
+            db.getUserData(u"key0"_s, {});
+        QVERIFY(db.clearUserData());
+        emit poster.addTask(u"saveDB"_s, {u"next"_s, round, db.currentSignIn()});
+        emit poster.addTask(u"drained"_s, {});
+        QVERIFY(drained.wait());
+        QCOMPARE(rows(), 1);
+        QCOMPARE(db.getUserData(u"next"_s, -1).toInt(), round);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestDBManagerThreads)
+#include "tst_DBManagerThreads.moc"

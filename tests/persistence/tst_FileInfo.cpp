@@ -1,0 +1,239 @@
+#include "persistence/FileInfo.h"
+
+#include "platform/Registry.h"
+#include "tests/persistence/LogCapture.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class TestFileInfo : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain();
+
+private slots:
+    void defaultsWithoutFile();
+    void readsEveryValueInOrder();
+    void oneValueChangesOnlyThatOne();
+    void unusableValueKeepsDefault_data();
+    void unusableValueKeepsDefault();
+    void hostileFileKeepsDefaults_data();
+    void hostileFileKeepsDefaults();
+    void commaInAddressIsPartOfIt();
+    void savedValueIsInFileButNotInGetters();
+    void saveReportsFailure();
+    void registryBooleansAreNumbers();
+    void instanceIsTheFirstThatLives();
+
+private:
+    QString write(const QByteArray& content) const;
+
+    QTemporaryDir m_dir;
+};
+
+namespace
+{
+
+void compareWithDefaults(const FileInfo& info)
+{
+    QCOMPARE(info.k4vLowestVer(), u"3.9.6"_s);
+    QCOMPARE(info.useRemoteDeviceInterval(), 5000);
+    QVERIFY(info.useRemoteDevice());
+    QVERIFY(info.supportLaunchZoom());
+    QVERIFY(info.supportLaunchTeams());
+    QVERIFY(info.supportLaunchGoogle());
+    QVERIFY(info.serverUrl().startsWith(u"https://"));
+    QCOMPARE(info.googleMeetingUrl(), u"https://meet.google.com/landing?hs=197&authuser=0"_s);
+}
+
+} // namespace
+
+void TestFileInfo::initMain()
+{
+    static QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+}
+
+QString TestFileInfo::write(const QByteArray& content) const
+{
+    QFile file(m_dir.filePath(u"config.ini"_s));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) < 0)
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    return file.fileName();
+}
+
+void TestFileInfo::defaultsWithoutFile()
+{
+    LogCapture log;
+    const QString path = m_dir.filePath(u"none.ini"_s);
+    const FileInfo info(path);
+    compareWithDefaults(info);
+    QCOMPARE(info.configPath(), path);
+    QCOMPARE(log.take(), QStringList{u"E FileInfo::FileInfo "_s + path + u" not exist!!!"_s});
+    QVERIFY(!QFile::exists(path));
+}
+
+void TestFileInfo::readsEveryValueInOrder()
+{
+    const QByteArray content =
+        "[VORNApp]\nuse_remote_device_interval=250\nuse_remote_device=false\n"
+        "support_launch_zoom=0\nsupport_launch_teams=false\n"
+        "support_launch_google=false\ngoogle_meeting_url=https://m.example/?a=b\n"
+        "[K4V]\nlowest_ver=4.0.1\n[Server]\nurl=https://s.example";
+    const QString path = write(content);
+    LogCapture log;
+    const FileInfo info(path);
+    const QString at = u"I FileInfo::FileInfo "_s;
+    QCOMPARE(log.take(), (QStringList{
+                             at + path + u'\n' + QString::fromUtf8(content),
+                             at + u"K4V/lowest_ver:4.0.1"_s,
+                             at + u"VORNApp/use_remote_device_interval:250"_s,
+                             at + u"VORNApp/use_remote_device:0"_s,
+                             at + u"VORNApp/support_launch_zoom:0"_s,
+                             at + u"VORNApp/support_launch_teams:0"_s,
+                             at + u"VORNApp/support_launch_google:0"_s,
+                             at + u"Server/url:https://s.example"_s,
+                             at + u"VORNApp/google_meeting_url:https://m.example/?a=b"_s,
+                         }));
+    QCOMPARE(info.k4vLowestVer(), u"4.0.1"_s);
+    QCOMPARE(info.useRemoteDeviceInterval(), 250);
+    QVERIFY(!info.useRemoteDevice());
+    QVERIFY(!info.supportLaunchZoom());
+    QVERIFY(!info.supportLaunchTeams());
+    QVERIFY(!info.supportLaunchGoogle());
+    QCOMPARE(info.serverUrl(), u"https://s.example"_s);
+    QCOMPARE(info.googleMeetingUrl(), u"https://m.example/?a=b"_s);
+}
+
+void TestFileInfo::oneValueChangesOnlyThatOne()
+{
+    const FileInfo info(write("[VORNApp]\nsupport_launch_zoom=false\n"));
+    QVERIFY(!info.supportLaunchZoom());
+    QVERIFY(info.supportLaunchTeams());
+    QVERIFY(info.supportLaunchGoogle());
+    QVERIFY(info.useRemoteDevice());
+    QCOMPARE(info.useRemoteDeviceInterval(), 5000);
+}
+
+void TestFileInfo::unusableValueKeepsDefault_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray interval = "[VORNApp]\nuse_remote_device_interval=";
+    for (const char* value : {"soon", "", "0", "-5000", "5000.5", "1,2", "99999999999",
+                              "2147483647", "@Invalid()", "@Size(1 2)", "@Variant(\\0\\0\\0\\xff)"})
+        QTest::addRow("interval %s", value) << interval + value;
+    QTest::newRow("switch is a list") << QByteArray("[VORNApp]\nuse_remote_device=false, false");
+    QTest::newRow("switch is a size") << QByteArray("[VORNApp]\nsupport_launch_zoom=@Size(0 0)");
+    QTest::newRow("address is a point") << QByteArray("[Server]\nurl=@Point(1 2)");
+    QTest::newRow("version is nothing") << QByteArray("[K4V]\nlowest_ver=@Invalid()");
+}
+
+void TestFileInfo::unusableValueKeepsDefault()
+{
+    QFETCH(const QByteArray, content);
+    const QString path = write(content);
+    LogCapture log;
+    const FileInfo info(path);
+    compareWithDefaults(info);
+    QCOMPARE(log.take().filter(u"cannot be used"_s).size(), 1);
+}
+
+void TestFileInfo::hostileFileKeepsDefaults_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QByteArray noise(200'000, Qt::Uninitialized);
+    QRandomGenerator generator(7);
+    generator.generate(noise.begin(), noise.end());
+    QTest::newRow("binary") << noise;
+    QTest::newRow("zeros") << QByteArray(50'000, '\0');
+    QTest::newRow("no section ends") << QByteArray(100'000, '[');
+    QTest::newRow("too large") << "[VORNApp]\nuse_remote_device_interval=7\n" +
+                                      QByteArray(2'000'000, ';');
+    QTest::newRow("overlong key") << "[VORNApp]\n" + QByteArray(100'000, 'k') + "=1\n";
+}
+
+void TestFileInfo::hostileFileKeepsDefaults()
+{
+    QFETCH(const QByteArray, content);
+    compareWithDefaults(FileInfo(write(content)));
+}
+
+void TestFileInfo::commaInAddressIsPartOfIt()
+{
+    const FileInfo info(write("[VORNApp]\ngoogle_meeting_url=https://m.example/?a=1,2\n"));
+    QCOMPARE(info.googleMeetingUrl(), u"https://m.example/?a=1,2"_s);
+}
+
+void TestFileInfo::savedValueIsInFileButNotInGetters()
+{
+    const QString path = write("[K4V]\nlowest_ver=4.0.1\n[VORNApp]\nuse_remote_device=true\n");
+    const FileInfo info(path);
+    LogCapture log;
+    info.saveConfig(path, u"VORNApp/use_remote_device"_s, false);
+    QCOMPARE(log.take(), QStringList{u"I FileInfo::saveConfig check "_s + path +
+                                     u" VORNApp/use_remote_device:false"_s});
+    QVERIFY(info.useRemoteDevice());
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY2(content.contains("use_remote_device=false"), content.constData());
+    const FileInfo next(path);
+    QVERIFY(!next.useRemoteDevice());
+    QCOMPARE(next.k4vLowestVer(), u"4.0.1"_s);
+}
+
+void TestFileInfo::saveReportsFailure()
+{
+    const QString blocker = write("a file where a folder would have to be");
+    const FileInfo info(m_dir.filePath(u"none.ini"_s));
+    LogCapture log;
+    info.saveConfig(blocker + u"/config.ini"_s, u"VORNApp/use_remote_device"_s, false);
+    QCOMPARE(log.take().value(0),
+             u"E FileInfo::saveConfig cannot write "_s + blocker + u"/config.ini"_s);
+    info.saveConfig({}, {}, {});
+    info.saveRegistry({}, {}, {});
+    QCOMPARE(log.take(), (QStringList{u"E FileInfo::saveConfig path or key missing"_s,
+                                      u"E FileInfo::saveRegistry path or name missing"_s}));
+}
+
+void TestFileInfo::registryBooleansAreNumbers()
+{
+    const QString key = u"HKEY_CURRENT_USER\\Software\\VORNAppTest"_s;
+    const FileInfo info(m_dir.filePath(u"none.ini"_s));
+    LogCapture log;
+    info.saveRegistry(key, u"disable_local_dev"_s, true);
+    QCOMPARE(platform::readRegistry(key, u"disable_local_dev"_s).toString(), u"1"_s);
+    info.saveRegistry(key, u"disable_local_dev"_s, false);
+    QCOMPARE(platform::readRegistry(key, u"disable_local_dev"_s).toString(), u"0"_s);
+    info.saveRegistry(key, u"username"_s, u"a@b.example"_s);
+    const QString check = u"I FileInfo::saveRegistry check "_s + key;
+    QCOMPARE(log.take(),
+             (QStringList{check + u" disable_local_dev:1"_s, check + u" disable_local_dev:0"_s,
+                          check + u" username:a@b.example"_s}));
+}
+
+void TestFileInfo::instanceIsTheFirstThatLives()
+{
+    std::optional<FileInfo> first(m_dir.filePath(u"1.ini"_s));
+    {
+        const FileInfo second(m_dir.filePath(u"2.ini"_s));
+        QCOMPARE(&FileInfo::instance(), &*first);
+    }
+    QCOMPARE(&FileInfo::instance(), &*first);
+    first.reset();
+    const FileInfo third(m_dir.filePath(u"3.ini"_s));
+    QCOMPARE(&FileInfo::instance(), &third);
+}
+
+QTEST_GUILESS_MAIN(TestFileInfo)
+#include "tst_FileInfo.moc"
