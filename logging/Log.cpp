@@ -50,6 +50,8 @@ void write(Severity severity, const char* function, std::string_view text,
         std::fwrite(text.data(), 1, text.size(), stderr);
         return;
     }
+    // glog cuts here too, but it would look at every byte beyond.
+    text = text.substr(0, google::LogMessage::kMaxLogMessageLen);
     // glog asks for the prefix while it constructs its message, hence the name is set around it.
     t_function = function;
     try {

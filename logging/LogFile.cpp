@@ -1,0 +1,146 @@
+#include "logging/LogFile.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#include <cstdio>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray header(const QDateTime& when)
+{
+    const auto host = QSysInfo::machineHostName();
+    // The first line ends in a blank. Records name their severity in full all the same.
+    return ("Log file created at: "_L1 + when.toString(u"yyyy-MM-dd hh:mm:ss ") +
+            "\nRunning on machine: "_L1 + (host.isEmpty() ? u"(unknown)"_s : host) +
+            "\nLog line format: [IWEF] [mm-dd hh:mm:ss.uuuuuu] [thread_id] [class::function] msg\n"_L1)
+        .toUtf8();
+}
+
+} // namespace
+
+LogFile::LogFile(std::chrono::milliseconds retryInterval)
+    : m_retryInterval(retryInterval)
+{
+}
+
+void LogFile::setDestination(const QString& base, const QString& extension)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_file.close();
+    m_base = base;
+    m_extension = extension;
+    m_paused = false;
+    m_complained = false;
+}
+
+bool LogFile::write(std::string_view record, std::time_t when, const Limits& limits) noexcept
+{
+    try {
+        const std::scoped_lock lock(m_mutex);
+        return writeLocked(record, when, limits);
+    } catch (...) {
+        return false;
+    }
+}
+
+qint64 LogFile::size() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_file.isOpen() ? m_size : 0;
+}
+
+bool LogFile::writeLocked(std::string_view record, std::time_t when, const Limits& limits)
+{
+    if (m_base.isEmpty() || isPaused())
+        return false;
+    if (m_file.isOpen() && m_size >= limits.maxBytes)
+        m_file.close();
+    if (!m_file.isOpen() && !open(when)) {
+        complain();
+        pause();
+        return false;
+    }
+    if (!append(record)) {
+        complain();
+        if (limits.stopWhenFull)
+            pause();
+        return false;
+    }
+    m_complained = false;
+    return true;
+}
+
+bool LogFile::open(std::time_t when)
+{
+    const auto time = QDateTime::fromSecsSinceEpoch(when);
+    QDir().mkpath(QFileInfo(m_base).path());
+    const auto stem = m_base + time.toString(u"yyyyMMdd-hhmmss.") +
+                      QString::number(QCoreApplication::applicationPid());
+    if (!openNew(stem))
+        return false;
+    m_size = 0;
+    const auto lines = header(time);
+    if (append({lines.constData(), static_cast<std::size_t>(lines.size())}))
+        return true;
+    m_file.remove();
+    return false;
+}
+
+bool LogFile::openNew(const QString& stem)
+{
+    constexpr int namesPerSecond = 1000;
+    for (int count = 0; count < namesPerSecond; ++count) {
+        // '_' sorts behind the '.' of the extension, so the first file of a second stays the first.
+        const auto suffix = count == 0 ? QString() : u"_%1"_s.arg(count, 3, 10, '0'_L1);
+        m_file.setFileName(stem + suffix + m_extension);
+        if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+            return true;
+        m_error = m_file.errorString();
+        if (!m_file.exists())
+            return false;
+    }
+    return false;
+}
+
+bool LogFile::append(std::string_view text)
+{
+    const auto length = static_cast<qint64>(text.size());
+    if (m_file.write(text.data(), length) == length) {
+        m_size += length;
+        return true;
+    }
+    m_error = m_file.errorString();
+    // Take back what a full disk still accepted, or the next record would begin amid a line.
+    m_file.resize(m_size);
+    m_file.seek(m_size);
+    return false;
+}
+
+void LogFile::pause()
+{
+    m_paused = true;
+    m_retryAt = std::chrono::steady_clock::now() + m_retryInterval;
+}
+
+bool LogFile::isPaused()
+{
+    if (m_paused && std::chrono::steady_clock::now() >= m_retryAt)
+        m_paused = false;
+    return m_paused;
+}
+
+void LogFile::complain()
+{
+    if (std::exchange(m_complained, true))
+        return;
+    std::fprintf(stderr, "Cannot write the log file %s: %s\n", qUtf8Printable(m_file.fileName()),
+                 qUtf8Printable(m_error));
+}
