@@ -1,0 +1,99 @@
+// What a round of the device check costs beyond listing the devices, which nothing can save.
+#include "peripherals/DeviceCheck.h"
+#include "platform/DeviceEnumeration.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+struct NoStatus : LocalDeviceStatus {
+    void setVornMicStatus(int) override {}
+    void setVornCamStatus(int) override {}
+    void setVornSpkStatus(int) override {}
+};
+
+void write(const QString& path, const QByteArray& content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+/// Twelve devices, as many as a PC with a dock and a display has.
+void plugDevices(const QString& root)
+{
+    for (int i = 0; i < 4; ++i) {
+        const QString card = root + u"/class/sound/card%1"_s.arg(i);
+        write(card + u"/id"_s, "Card" + QByteArray::number(i) + '\n');
+        write(card + u"/device/idVendor"_s, "1234\n");
+        write(card + u"/device/idProduct"_s, "00c" + QByteArray::number(i) + '\n');
+        write(card + u"/device/serial"_s, "A" + QByteArray::number(i) + '\n');
+        QDir().mkpath(root + u"/class/sound/pcmC%1D0p"_s.arg(i));
+        const QString camera = root + u"/class/video4linux/video%1"_s.arg(i);
+        write(camera + u"/name"_s, "Integrated Camera " + QByteArray::number(i) + '\n');
+    }
+}
+
+int listDevices()
+{
+    using platform::DeviceClass;
+    QList<platform::DeviceRecord> devices;
+    quint32 errorCode = 0;
+    for (const auto deviceClass :
+         {DeviceClass::Media, DeviceClass::Camera, DeviceClass::AudioEndpoint})
+        platform::scanDevices(deviceClass, devices, errorCode);
+    return static_cast<int>(devices.size());
+}
+
+template <typename Body>
+double secondsOf(Body body)
+{
+    const auto start = std::chrono::steady_clock::now();
+    body();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+} // namespace
+
+int main()
+{
+    QTemporaryDir root;
+    plugDevices(root.path());
+    qputenv("VORN_SYSFS_ROOT", QFile::encodeName(root.path())); // without effect on Windows
+
+    DeviceCheck check;
+    if (!check.ReadJsonConfig(QStringLiteral(VORN_SAMPLE_CONFIG)))
+        return 1;
+    NoStatus status;
+    const int devices = listDevices();
+    check.checkDevices(status);
+
+    // Taken in turn, so that both see the same disturbances.
+    std::vector<double> bare;
+    std::vector<double> round;
+    for (int i = 0; i < 2000; ++i) {
+        bare.push_back(secondsOf(listDevices));
+        round.push_back(secondsOf([&] { check.checkDevices(status); }));
+    }
+    std::printf("device check round: ratio %.2f against a bare enumeration (%d devices, %.0f us)\n",
+                median(round) / median(bare), devices, median(bare) * 1e6);
+    return 0;
+}

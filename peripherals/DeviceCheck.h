@@ -1,0 +1,53 @@
+#pragma once
+
+#include "device/LocalDevices.h"
+#include "peripherals/DeviceFilter.h"
+#include "platform/DeviceEnumeration.h"
+
+#include <QList>
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <vector>
+
+/// Finds the display's microphone, camera and speaker among this PC's devices, by the rules of the
+/// rule file. The rules are read once, before the thread that checks is started.
+class DeviceCheck : public LocalDevices
+{
+public:
+    using Scan =
+        std::function<bool(platform::DeviceClass, QList<platform::DeviceRecord>&, quint32&)>;
+
+    /// @param scan    lists the devices of one class
+    /// @param budget  how long one round may compare; what is left over waits for the next round.
+    ///                Ordinary rules need a small part of the default.
+    explicit DeviceCheck(Scan scan = platform::scanDevices,
+                         std::chrono::nanoseconds budget = std::chrono::milliseconds(50));
+
+    /// Replaces the rules. A file that can be opened but not understood leaves no rules.
+    bool ReadJsonConfig(const QString& path) override;
+    /// Sets the status of every kind that has rules. Devices are compared only when another list of
+    /// them is found than the round before.
+    void checkDevices(LocalDeviceStatus& status) override;
+
+    /// The largest rule file that is read, in bytes.
+    static constexpr qsizetype MaxConfigSize = 256 * 1024;
+
+private:
+    /// The rules of one kind of device and how far they have been compared with the present list.
+    struct Kind {
+        void (LocalDeviceStatus::*setStatus)(int);
+        std::vector<DeviceFilter> filters;
+        std::size_t next = 0; ///< counts the pairs of device and filter, device by device
+        bool found = false;
+    };
+
+    QList<platform::DeviceRecord> scanDevices() const;
+    bool compare(Kind& kind, std::chrono::steady_clock::time_point deadline) const;
+
+    Scan m_scan;
+    std::chrono::nanoseconds m_budget;
+    std::vector<Kind> m_kinds;
+    QList<platform::DeviceRecord> m_devices;
+};
