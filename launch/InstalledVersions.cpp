@@ -4,14 +4,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace InstalledVersions
-{
-
-QString read(const QString& name)
+QString installedVersionValue(const QString& name)
 {
     return platform::readRegistry(
                u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s, name)
         .toString();
 }
-
-} // namespace InstalledVersions

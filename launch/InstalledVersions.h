@@ -2,12 +2,7 @@
 
 #include <QString>
 
-/// The versions that the updater records in the registry. Read only; any thread.
-namespace InstalledVersions
-{
-
-/// The recorded version, empty when there is none.
+/// A version that the updater records in the registry, empty when there is none. The program only
+/// reads them. Any thread.
 /// @param name  "version": the installed application; "newver": a newer package that was found
-[[nodiscard]] QString read(const QString& name);
-
-} // namespace InstalledVersions
+[[nodiscard]] QString installedVersionValue(const QString& name);

@@ -47,8 +47,8 @@ public:
     virtual void close() = 0;
 
     /// Waits until the writer announces a frame. Announcements made while nobody waited count as
-    /// one. A wait that timed out closes the channel when the writer has made new objects under the
-    /// old names: ask isOpen() afterwards.
+    /// one. A wait that times out or fails closes the channel when the writer has made new objects
+    /// under the old names, or has taken the event away: ask isOpen() afterwards.
     virtual WaitResult wait(std::chrono::milliseconds patience) = 0;
 
     /// Bytes in the view while it is open.

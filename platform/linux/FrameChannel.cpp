@@ -80,11 +80,11 @@ public:
             takePendingPosts();
             return {WaitOutcome::Signalled, 0};
         }
-        if (error != ETIMEDOUT)
-            return {WaitOutcome::Failed, static_cast<quint32>(error)};
-        if (isReplaced())
+        if (error != ETIMEDOUT || isReplaced())
             closeObjects();
-        return {WaitOutcome::TimedOut, 0};
+        if (error == ETIMEDOUT)
+            return {WaitOutcome::TimedOut, 0};
+        return {WaitOutcome::Failed, static_cast<quint32>(error)};
     }
 
     bool copyOut(std::size_t offset, void* target, std::size_t length) override

@@ -1,0 +1,42 @@
+#include "platform/Shortcuts.h"
+
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+namespace platform
+{
+
+ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds patience)
+{
+    // Inside single quotes PowerShell knows one escape: the doubled quote, for names like O'Brien.
+    QString quotedPath = path;
+    quotedPath.replace(u'\'', u"''"_s);
+    const QString script =
+        u"(New-Object -ComObject WScript.Shell).CreateShortcut('%1').TargetPath"_s.arg(quotedPath);
+
+    QProcess process;
+    process.start(u"powershell"_s, {u"-Command"_s, script});
+    ShortcutTarget result;
+    result.finished = process.waitForFinished(static_cast<int>(patience.count()));
+    if (!result.finished) {
+        result.processError = process.errorString();
+        return result;
+    }
+    result.exitCode = process.exitCode();
+    result.errorOutput = QString::fromLocal8Bit(process.readAllStandardError());
+    result.output = QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
+    return result;
+}
+
+QString shortcutFileName(const QString& title)
+{
+    return title + ".lnk"_L1;
+}
+
+QString packagedShortcut(const QStringList&)
+{
+    return {};
+}
+
+} // namespace platform
