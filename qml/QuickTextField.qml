@@ -112,8 +112,7 @@ TextField {
         clipboard.clear();
         clipboard.paste();
         remove(selectionStart, selectionEnd);
-        const pasted = clipboard.text.replace(/\s+/g, "");
-        insert(cursorPosition, pasted.slice(0, Math.max(0, maximumLength - length)));
+        insert(cursorPosition, clipboard.text.replace(/\s+/g, ""));
         clipboard.clear();
     }
 
@@ -161,9 +160,13 @@ TextField {
         }
     }
 
-    Accessible.role: Accessible.EditableText
     Accessible.name: accessibleName
-    Accessible.description: showError ? errorMessage : ""
+    Accessible.description: {
+        // Qt 6.4 keeps the name of a password field to itself.
+        const name = echoMode === TextInput.Password ? accessibleName : "";
+        const error = showError ? errorMessage : "";
+        return [name, error].filter(part => part !== "").join(": ");
+    }
 
     Component.onCompleted: {
         initialized = true;
@@ -244,6 +247,5 @@ TextField {
         font.pixelSize: 12
         color: field.errorBorderColor
         visible: field.showError
-        Accessible.role: Accessible.AlertMessage
     }
 }

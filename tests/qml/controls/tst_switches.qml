@@ -1,0 +1,113 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import "../../../qml"
+
+TestCase {
+    id: test
+
+    name: "Switches"
+    when: windowShown
+    visible: true
+    width: 400
+    height: 300
+
+    Component {
+        id: switchComponent
+
+        QuickSwitch {
+            property int clicks: 0
+
+            duration: 100
+            onClicked: {
+                ++clicks;
+                checked = !checked;
+            }
+        }
+    }
+
+    Component {
+        id: boxComponent
+
+        CircularCheckBox {
+            property int clicks: 0
+
+            text: "Zoom"
+            onClicked: ++clicks
+        }
+    }
+
+    Component {
+        id: timerComponent
+
+        QuickTimer {
+            interval: 60000
+        }
+    }
+
+    function test_switchIgnoresClicksWhileItMoves(): void {
+        const toggle = createTemporaryObject(switchComponent, test) as QuickSwitch;
+        const handle = toggle.children[0];
+        compare(handle.x, 0);
+        verify(!toggle.isAnimating);
+        toggle.forceActiveFocus();
+        mouseClick(toggle);
+        verify(toggle.checked);
+        verify(toggle.isAnimating);
+        mouseClick(toggle);
+        keyClick(Qt.Key_Space);
+        compare(toggle["clicks"], 1);
+        tryVerify(() => !toggle.isAnimating);
+        compare(handle.x, 60);
+        compare(toggle.color, toggle.checkedColor);
+        verify(toggle.activeFocus, "moving does not cost the focus");
+        keyClick(Qt.Key_Space);
+        compare(toggle["clicks"], 2);
+    }
+
+    function test_switchStartsAtRest(): void {
+        const toggle = createTemporaryObject(switchComponent, test, { checked: true, width: 35, height: 18, handleHeight: 16 }) as QuickSwitch;
+        verify(!toggle.isAnimating);
+        compare(toggle.children[0].x, 18);
+        compare(toggle.children[0].y, 1);
+        compare(toggle.color, toggle.checkedColor);
+    }
+
+    function test_ownerDecides_data(): var {
+        return [
+            { tag: "label", act: box => mouseClick(box, box.width - 2, box.height / 2) },
+            { tag: "circle", act: box => mouseClick(box, 2, box.height / 2) },
+            { tag: "Space", act: () => keyClick(Qt.Key_Space) },
+            { tag: "Enter", act: () => keyClick(Qt.Key_Enter, Qt.KeypadModifier) },
+            { tag: "screen reader press", act: box => box.Accessible.pressAction() },
+            { tag: "screen reader toggle", act: box => box.Accessible.toggleAction() },
+        ];
+    }
+
+    function test_ownerDecides(data: var): void {
+        const box = createTemporaryObject(boxComponent, test) as CircularCheckBox;
+        box.forceActiveFocus();
+        data.act(box);
+        compare(box["clicks"], 1);
+        verify(!box.checked);
+        verify(!box.Accessible.checked);
+        box.checked = true;
+        verify(box.Accessible.checked);
+        compare(box.Accessible.name, "Zoom");
+    }
+
+    function test_timer(): void {
+        const timer = createTemporaryObject(timerComponent, test) as QuickTimer;
+        compare(timer.remainingTime(), 0);
+        timer.startTimer();
+        verify(timer.remainingTime() > 50000 && timer.remainingTime() <= 60000);
+        timer.startTime = new Date(Date.now() - 20000);
+        verify(timer.remainingTime() > 30000 && timer.remainingTime() <= 40000);
+        timer.startTime = new Date(Date.now() - 70000);
+        compare(timer.remainingTime(), 0);
+        timer.startTimer();
+        timer.stop();
+        compare(timer.remainingTime(), 0);
+    }
+}
