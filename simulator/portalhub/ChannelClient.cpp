@@ -46,6 +46,8 @@ void ChannelClient::start()
     m_worker->moveToThread(m_thread.get());
     QObject::connect(m_thread.get(), &QThread::started, m_worker, &ChannelWorker::start);
     QObject::connect(m_thread.get(), &QThread::finished, m_worker, &QObject::deleteLater);
+    // Only matters to a thread that stop() had to leave to itself.
+    QObject::connect(m_thread.get(), &QThread::finished, m_thread.get(), &QObject::deleteLater);
     m_thread->start();
 }
 

@@ -1,0 +1,127 @@
+#include "simulator/display/DisplayCamera.h"
+
+#include "simulator/display/DisplayModel.h"
+#include "simulator/script/CommandInterpreter.h"
+#include "simulator/script/EventLog.h"
+
+using namespace simulator;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qsizetype kMaxRecorded = 100;
+
+QJsonObject flag(const QString& key, bool value)
+{
+    return {{key, value ? 1 : 0}};
+}
+
+} // namespace
+
+DisplayCamera::DisplayCamera(DisplayModel& display, EventLog& log, QObject* parent)
+    : Feature(parent)
+    , m_display(display)
+    , m_log(log)
+{
+    addHandlers();
+}
+
+void DisplayCamera::addHandlers()
+{
+    // The states of both framings are answered under the ids that report them.
+    const auto answerAuto = [this](const QJsonObject& query) {
+        m_display.answer(query, Cmd_AutoFraming, flag(u"autoframestatus"_s, m_autoFraming));
+    };
+    const auto answerSmart = [this](const QJsonObject& query) {
+        m_display.answer(query, Cmd_SmartFraming, flag(u"smartframestatus"_s, m_smartFraming));
+    };
+    m_display.on(Cmd_QueryAutoFraming, MessageType::Query, answerAuto);
+    m_display.on(Cmd_AutoFraming, MessageType::Query, answerAuto);
+    m_display.on(Cmd_QuerySmartFraming, MessageType::Query, answerSmart);
+    m_display.on(Cmd_SmartFraming, MessageType::Query, answerSmart);
+    m_display.on(Cmd_Camera, MessageType::Query, [this](const QJsonObject& query) {
+        m_display.answer(query, Cmd_Camera, flag(u"camerastatus"_s, m_on));
+    });
+    m_display.on(Cmd_AutoFraming, MessageType::Report, [this](const QJsonObject& message) {
+        m_autoFraming = message.value("autoframestatus"_L1).toInt() != 0;
+        stateChanged();
+    });
+    m_display.on(Cmd_SmartFraming, MessageType::Report, [this](const QJsonObject& message) {
+        m_smartFraming = message.value("smartframestatus"_L1).toInt() != 0;
+        stateChanged();
+    });
+    const auto recordIt = [this](const QJsonObject& message) { record(message); };
+    m_display.on(Cmd_CameraScale, MessageType::Report, recordIt);
+    m_display.on(Cmd_CameraPreset, MessageType::Report, recordIt);
+}
+
+void DisplayCamera::record(const QJsonObject& message)
+{
+    m_commands.append(message);
+    if (m_commands.size() > kMaxRecorded)
+        m_commands.removeFirst();
+    m_log.write(u"camera-command"_s, {{u"message"_s, message}});
+    emit changed();
+}
+
+void DisplayCamera::setOn(bool on)
+{
+    m_on = on;
+    stateChanged();
+    m_display.report(Cmd_Camera, flag(u"camerastatus"_s, m_on));
+}
+
+void DisplayCamera::setAutoFraming(bool on)
+{
+    m_autoFraming = on;
+    stateChanged();
+    m_display.report(Cmd_AutoFraming, flag(u"autoframestatus"_s, m_autoFraming));
+}
+
+void DisplayCamera::setSmartFraming(bool on)
+{
+    m_smartFraming = on;
+    stateChanged();
+    m_display.report(Cmd_SmartFraming, flag(u"smartframestatus"_s, m_smartFraming));
+}
+
+void DisplayCamera::stateChanged()
+{
+    QJsonObject state = status();
+    state.remove("commands"_L1); // they have events of their own
+    m_log.write(u"camera"_s, state);
+    emit changed();
+}
+
+QJsonObject DisplayCamera::status() const
+{
+    return {{u"on"_s, m_on},
+            {u"autoFraming"_s, m_autoFraming},
+            {u"smartFraming"_s, m_smartFraming},
+            {u"commands"_s, m_commands}};
+}
+
+QString DisplayCamera::name() const
+{
+    return u"camera"_s;
+}
+
+void DisplayCamera::addCommands(CommandInterpreter& interpreter)
+{
+    addSwitch(interpreter, u"camera"_s, u"Switches the camera (on)."_s, &DisplayCamera::setOn);
+    addSwitch(interpreter, u"autoframing"_s, u"Switches auto framing (off)."_s,
+              &DisplayCamera::setAutoFraming);
+    addSwitch(interpreter, u"smartframing"_s, u"Switches smart framing (off)."_s,
+              &DisplayCamera::setSmartFraming);
+}
+
+void DisplayCamera::addSwitch(CommandInterpreter& interpreter, const QString& name,
+                              const QString& help, void (DisplayCamera::*set)(bool))
+{
+    interpreter.add(
+        {name, u"on|off"_s, help, [this, set](CommandArguments& arguments) -> CommandAction {
+             const bool on = arguments.onOff();
+             return simpleAction([this, set, on] { (this->*set)(on); });
+         }});
+}

@@ -1,0 +1,198 @@
+#include "simulator/display/DisplayModel.h"
+
+#include "simulator/script/EventLog.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace simulator;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+struct SourceState {
+    QLatin1StringView name;
+    int byod; // 0 unavailable, 1 available, 2 selected
+    int zoom;
+    int shown; // whether the display shows its source choice
+};
+
+constexpr std::array<SourceState, 4> kSourceStates = {{
+    {"none"_L1, 0, 0, 0},
+    {"available"_L1, 1, 1, 1},
+    {"byod"_L1, 2, 1, 1},
+    {"zoom"_L1, 1, 2, 1},
+}};
+
+} // namespace
+
+DisplayModel::DisplayModel(EventLog& log, QObject* parent)
+    : Feature(parent)
+    , m_log(log)
+    , m_version(u"4.1.0"_s)
+{
+    addHandlers();
+}
+
+void DisplayModel::addHandlers()
+{
+    on(Cmd_Volume, MessageType::Report, [this](const auto& message) { takeVolume(message); });
+    on(Cmd_Volume, MessageType::Query, [this](const auto& query) {
+        answer(query, Cmd_Volume, {{u"volume"_s, m_volume}});
+    });
+    on(Cmd_Source, MessageType::Query,
+       [this](const auto& query) { answer(query, Cmd_Source, sourcePayload()); });
+    on(Cmd_Version, MessageType::Query, [this](const auto& query) {
+        answer(query, Cmd_Version, {{u"ota_ver"_s, m_version}});
+    });
+    on(Cmd_SelectByod, MessageType::Report, [this](const auto&) { setSource(Source::Byod); });
+    on(Cmd_SelectZoom, MessageType::Report, [this](const auto&) { setSource(Source::Zoom); });
+    on(Cmd_StartByod, MessageType::Query, [this](const auto&) { setSource(Source::Byod); });
+    on(Cmd_StartSetup, MessageType::Report, [this](const auto&) { startSetup(); });
+}
+
+void DisplayModel::on(ChannelCommand command, MessageType type, Handler handler)
+{
+    m_handlers.insert({int(command), int(type)}, std::move(handler));
+}
+
+void DisplayModel::receive(const QByteArray& text)
+{
+    const QJsonObject message = QJsonDocument::fromJson(text).object();
+    if (m_mode == 0 || message.isEmpty())
+        return;
+    const int type = message.value("type"_L1).toInt();
+    if (type == int(MessageType::Report) && m_acknowledging)
+        acknowledge(message);
+    if (const Handler handler = m_handlers.value({message.value("cmd"_L1).toInt(), type}))
+        handler(message);
+}
+
+void DisplayModel::acknowledge(QJsonObject message)
+{
+    message.insert("type"_L1, int(MessageType::Acknowledgement));
+    emit send(message.value("cmd"_L1).toInt(),
+              QJsonDocument(message).toJson(QJsonDocument::Compact));
+}
+
+void DisplayModel::greet()
+{
+    if (m_mode == 0)
+        return;
+    report(Cmd_IsReady, {{u"isReady"_s, m_mode}});
+    report(Cmd_Volume, {{u"volume"_s, m_volume}});
+    reportSource();
+}
+
+void DisplayModel::report(ChannelCommand command, const QJsonObject& payload)
+{
+    if (m_mode != 0)
+        sendMessage(command, MessageType::Report, ++m_seq, payload);
+}
+
+void DisplayModel::answer(const QJsonObject& query, ChannelCommand command,
+                          const QJsonObject& payload)
+{
+    sendMessage(command, MessageType::Answer, query.value("seq"_L1).toInt(), payload);
+}
+
+void DisplayModel::sendMessage(ChannelCommand command, MessageType type, int seq,
+                               QJsonObject message)
+{
+    message.insert("cmd"_L1, int(command));
+    message.insert("seq"_L1, seq);
+    message.insert("type"_L1, int(type));
+    emit send(command, QJsonDocument(message).toJson(QJsonDocument::Compact));
+}
+
+void DisplayModel::connectDisplay(int mode)
+{
+    m_mode = mode;
+    m_setupRunning = false;
+    stateChanged();
+    greet();
+}
+
+void DisplayModel::disconnectDisplay()
+{
+    // Sent whatever the state: a program may still believe in a display of an earlier simulator.
+    sendMessage(Cmd_IsReady, MessageType::Report, ++m_seq, {{u"isReady"_s, 0}});
+    m_mode = 0;
+    m_setupRunning = false;
+    stateChanged();
+}
+
+void DisplayModel::setVolume(int volume)
+{
+    m_volume = volume;
+    stateChanged();
+    report(Cmd_Volume, {{u"volume"_s, m_volume}});
+}
+
+void DisplayModel::takeVolume(const QJsonObject& message)
+{
+    m_volume = std::clamp(message.value("volume"_L1).toInt(m_volume), 0, 100);
+    stateChanged();
+}
+
+void DisplayModel::setSource(Source source)
+{
+    m_source = source;
+    stateChanged();
+    reportSource();
+}
+
+void DisplayModel::setVersion(const QString& version)
+{
+    m_version = version;
+    stateChanged();
+    report(Cmd_Version, {{u"ota_ver"_s, m_version}});
+}
+
+void DisplayModel::setAcknowledging(bool on)
+{
+    m_acknowledging = on;
+    stateChanged();
+}
+
+void DisplayModel::startSetup()
+{
+    constexpr int kFirstRun = 2;
+    m_setupRunning = true;
+    if (std::exchange(m_mode, kFirstRun) != kFirstRun)
+        report(Cmd_IsReady, {{u"isReady"_s, m_mode}});
+    stateChanged();
+}
+
+void DisplayModel::reportSource()
+{
+    report(Cmd_Source, sourcePayload());
+}
+
+QJsonObject DisplayModel::sourcePayload() const
+{
+    const SourceState& state = kSourceStates.at(size_t(m_source));
+    return {{u"byod_status"_s, state.byod},
+            {u"zoom_status"_s, state.zoom},
+            {u"is_byodui_show"_s, state.shown}};
+}
+
+void DisplayModel::stateChanged()
+{
+    m_log.write(u"display"_s, status());
+    emit changed();
+}
+
+QJsonObject DisplayModel::status() const
+{
+    return {{u"mode"_s, m_mode},
+            {u"volume"_s, m_volume},
+            {u"source"_s, kSourceStates.at(size_t(m_source)).name},
+            {u"version"_s, m_version},
+            {u"setupRunning"_s, m_setupRunning},
+            {u"acknowledges"_s, m_acknowledging}};
+}

@@ -1,0 +1,81 @@
+#include "simulator/script/CommandInterpreter.h"
+
+#include <utility>
+
+using namespace simulator;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString withUsage(const Command& command)
+{
+    return command.usage.isEmpty() ? command.name : command.name + u' ' + command.usage;
+}
+
+QString indented(const QString& text, int columns)
+{
+    const QString margin(columns, u' ');
+    return margin + QString(text).replace(u'\n', u'\n' + margin) + u'\n';
+}
+
+} // namespace
+
+CommandAction simulator::simpleAction(std::function<void()> function)
+{
+    return [function = std::move(function)] {
+        function();
+        return CommandOutcome::done();
+    };
+}
+
+void CommandInterpreter::beginSection(const QString& title)
+{
+    m_sections.append({title, {}});
+}
+
+void CommandInterpreter::add(Command command)
+{
+    Q_ASSERT_X(!find(command.name), "CommandInterpreter::add", "two commands of one name");
+    m_sections.last().commands.append(std::move(command));
+}
+
+CommandInterpreter::Line CommandInterpreter::parse(const QString& text) const
+{
+    if (text.trimmed().isEmpty() || text.trimmed().startsWith(u'#'))
+        return {};
+    CommandArguments arguments(text);
+    const QString name = arguments.word(u"the command"_s);
+    const Command* command = find(name);
+    if (!command)
+        return {{}, u"there is no command \"%1\" (see --help)"_s.arg(name)};
+
+    CommandAction action = command->parse(arguments);
+    if (arguments.error().isEmpty() && !arguments.atEnd())
+        arguments.fail(u"\"%1\" is one argument too many"_s.arg(arguments.peek()));
+    if (arguments.error().isEmpty())
+        return {std::move(action), {}};
+    return {{}, u"%1: %2 (usage: %3)"_s.arg(name, arguments.error(), withUsage(*command))};
+}
+
+QString CommandInterpreter::helpText() const
+{
+    QString help;
+    for (const Section& section : m_sections) {
+        help += u"\nCommands, %1:\n"_s.arg(section.title);
+        for (const Command& command : section.commands)
+            help += indented(withUsage(command), 2) + indented(command.help, 6);
+    }
+    return help;
+}
+
+const Command* CommandInterpreter::find(const QString& name) const
+{
+    for (const Section& section : m_sections) {
+        for (const Command& command : section.commands) {
+            if (command.name == name)
+                return &command;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,15 @@
+#include "simulator/script/EventLog.h"
+
+#include <QJsonDocument>
+
+#include <ostream>
+
+using namespace simulator;
+
+void EventLog::write(const QString& event, const QJsonObject& fields)
+{
+    // By hand, so that the event comes first: Qt sorts the keys.
+    const QByteArray rest = QJsonDocument(fields).toJson(QJsonDocument::Compact).sliced(1);
+    m_out << "{\"event\":\"" << event.toStdString() << (fields.isEmpty() ? "\"" : "\",")
+          << rest.toStdString() << std::endl;
+}

@@ -1,0 +1,66 @@
+#include "simulator/script/StdinReader.h"
+
+#include "simulator/portalhub/LineReader.h"
+
+#include <array>
+#include <atomic>
+#include <thread>
+
+#include <windows.h>
+
+using namespace simulator;
+
+namespace
+{
+
+constexpr qsizetype kMaxLineLength = 8 * 1024 * 1024;
+
+} // namespace
+
+// Neither a console nor a pipe can be waited for together with the event loop's handles, so a
+// thread blocks in the read; the signal reaches the main thread queued.
+struct StdinReader::Private {
+    std::atomic_bool ending = false;
+    std::atomic_bool ended = false;
+    std::atomic<DWORD> threadId = 0;
+    std::thread thread;
+
+    void readTo(StdinReader& receiver)
+    {
+        threadId = GetCurrentThreadId();
+        channel::LineReader reader(kMaxLineLength);
+        std::array<char, 4096> bytes;
+        DWORD count = 0;
+        const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+        bool more = true;
+        while (more && !ending) {
+            more = ReadFile(input, bytes.data(), DWORD(bytes.size()), &count, nullptr) && count > 0;
+            // The last line may lack its newline.
+            reader.append(more ? QByteArrayView(bytes.data(), count) : QByteArrayView("\n"));
+            while (const auto line = reader.next())
+                emit receiver.lineRead(*line);
+        }
+        ended = true;
+    }
+};
+
+StdinReader::StdinReader(QObject* parent)
+    : QObject(parent)
+    , m_private(std::make_unique<Private>())
+{
+    m_private->thread = std::thread([this] { m_private->readTo(*this); });
+}
+
+StdinReader::~StdinReader()
+{
+    m_private->ending = true;
+    // Again until it took effect: the thread may have been between two reads.
+    while (!m_private->ended) {
+        if (const HANDLE thread = OpenThread(THREAD_TERMINATE, FALSE, m_private->threadId)) {
+            CancelSynchronousIo(thread);
+            CloseHandle(thread);
+        }
+        std::this_thread::yield();
+    }
+    m_private->thread.join();
+}
