@@ -3,13 +3,11 @@
 #include "device/MessageChannel.h"
 #include "peripherals/CameraControl.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMetaEnum>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <barrier>
 #include <functional>
 #include <mutex>
@@ -58,7 +56,6 @@ class CameraControlTest : public QObject
     Q_OBJECT
 
 private slots:
-    void declaresWhatQmlUses();
     void sendsEachCommand();
     void sendsAChangeOfFramingOnce();
     void repeatsSmartFramingWithAutoFraming();
@@ -66,25 +63,6 @@ private slots:
     void tellsWithoutHoldingALock();
     void takesChangesFromTwoThreads();
 };
-
-void CameraControlTest::declaresWhatQmlUses()
-{
-    const auto& meta = CameraControl::staticMetaObject;
-    QStringList members;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        members << QString::fromLatin1(meta.method(i).methodSignature());
-    const QStringList expected{u"cameraSwitch(int)"_s,         u"autoFramingChanged()"_s,
-                               u"smartFramingChanged()"_s,     u"scale(int,int)"_s,
-                               u"preset(int,int)"_s,           u"requestStatus()"_s,
-                               u"setAutoFraming(bool,int)"_s,  u"setAutoFraming(bool)"_s,
-                               u"setSmartFraming(bool,int)"_s, u"setSmartFraming(bool)"_s};
-    QCOMPARE(members, expected);
-
-    bool found = false;
-    const auto directions = QMetaEnum::fromType<CameraControl::ManualDirection>();
-    QCOMPARE(directions.keyToValue("Manual_Right", &found), 5);
-    QVERIFY(found);
-}
 
 void CameraControlTest::sendsEachCommand()
 {
