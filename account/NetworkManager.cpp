@@ -1,0 +1,385 @@
+#include "account/NetworkManager.h"
+
+#include "account/AccountIdentity.h"
+#include "account/ImageFile.h"
+#include "account/ReplyBody.h"
+#include "account/SystemProxy.h"
+#include "logging/Log.h"
+
+#include <QJsonDocument>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTimer>
+#include <QUrlQuery>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr auto kFormType = "application/x-www-form-urlencoded"_L1;
+constexpr auto kJsonType = "application/json"_L1;
+
+// Room above the largest body, so that one byte too many is seen before the buffer is full.
+constexpr qint64 kReadBufferSize = NetworkManager::kMaxBodySize + 64 * 1024;
+
+QString encodeCredential(const QString& text)
+{
+    return QString::fromLatin1(
+        text.toUtf8().toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals));
+}
+
+// Qt would also read, and write, local files through such a request.
+QUrl webAddress(const QString& text)
+{
+    const QUrl url(text);
+    const bool isWeb = url.scheme() == "https"_L1 || url.scheme() == "http"_L1;
+    return isWeb && !url.host().isEmpty() ? url : QUrl();
+}
+
+QUrl withQuery(const QString& address, std::initializer_list<std::pair<QString, QString>> items)
+{
+    QUrl url = webAddress(address);
+    QUrlQuery query;
+    query.setQueryItems(items);
+    if (!url.isEmpty())
+        url.setQuery(query);
+    return url;
+}
+
+bool isSafeRedirect(const QUrl& from, const QUrl& to)
+{
+    return to.host() == from.host() && (to.scheme() == "https"_L1 || to.scheme() == from.scheme());
+}
+
+QNetworkRequest withContentType(const QUrl& url, QLatin1StringView contentType)
+{
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QString(contentType));
+    return request;
+}
+
+void authorise(QNetworkRequest& request, const QString& token)
+{
+    QByteArray value = token.toUtf8();
+    value.replace('\r', "").replace('\n', ""); // a line break would begin another header
+    request.setRawHeader("x-token"_ba, value);
+    request.setRawHeader("accept"_ba, "*/*"_ba);
+}
+
+QByteArray compactJson(const QJsonObject& object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+} // namespace
+
+NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
+                               int requestTimeout, QObject* parent)
+    : QObject(parent)
+    , m_identity(identity)
+    , m_networkAccess(new QNetworkAccessManager(this))
+    , m_requestTimeout(requestTimeout)
+    , m_baseUrl(baseUrl)
+    , m_loginUrl(baseUrl + "/nc/auth/login"_L1)
+    , m_registerUrl(baseUrl + "/nc/users/register"_L1)
+    , m_forgotPasswordUrl(baseUrl + "/nc/users/forgot-password"_L1)
+{
+    m_networkAccess->setProxyFactory(new SystemProxy); // owned by the access manager
+    m_networkAccess->setRedirectPolicy(QNetworkRequest::UserVerifiedRedirectPolicy);
+    Log::info("NetworkManager::NetworkManager") << "URL_LOGIN          :" << m_loginUrl;
+    Log::info("NetworkManager::NetworkManager") << "URL_REGISTER       :" << m_registerUrl;
+    Log::info("NetworkManager::NetworkManager") << "URL_FORGOT_PASSWORD:" << m_forgotPasswordUrl;
+}
+
+NetworkManager::~NetworkManager()
+{
+    const auto replies = m_activeRequests.keys();
+    for (QNetworkReply* reply : replies) {
+        reply->disconnect(this); // aborting would report a failure to the pages
+        if (reply->isRunning())
+            reply->abort();
+        reply->deleteLater();
+    }
+    m_activeRequests.clear();
+}
+
+void NetworkManager::login(const QString& email, const QString& password)
+{
+    Log::info("NetworkManager::login") << "email   :" << email;
+    Log::info("NetworkManager::login") << "password:" << password;
+
+    const QUrl url = withQuery(m_loginUrl, {{u"username"_s, encodeCredential(email)},
+                                            {u"password"_s, encodeCredential(password)}});
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kFormType), QByteArray());
+    Log::info("NetworkManager::login") << "send:" << url.toString();
+
+    startRequestTimer(reply, [this] { emit loginFailed(tr("Login request timed out.")); });
+    handleResponse(
+        reply, [this](const QJsonObject& object) { emit loginSuccess(object); },
+        [this](const QString& message) { emit loginFailed(message); });
+}
+
+void NetworkManager::registerUser(const QString& firstName, const QString& lastName,
+                                  const QString& email, const QString& password)
+{
+    Log::info("NetworkManager::registerUser") << "firstName:" << firstName;
+    Log::info("NetworkManager::registerUser") << "lastName :" << lastName;
+    Log::info("NetworkManager::registerUser") << "email    :" << email;
+    Log::info("NetworkManager::registerUser") << "password :" << password;
+
+    const QUrl url = webAddress(m_registerUrl);
+    const QByteArray json = compactJson({{"firstName"_L1, firstName},
+                                         {"lastName"_L1, lastName},
+                                         {"email"_L1, encodeCredential(email)},
+                                         {"password"_L1, encodeCredential(password)}});
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kJsonType), json);
+    Log::info("NetworkManager::registerUser") << "send:" << url.toString() << " json:" << json;
+
+    startRequestTimer(reply,
+                      [this] { emit registrationFailed(tr("Registration request timed out.")); });
+    handleResponse(
+        reply, [this](const QJsonObject&) { emit registrationSuccess(); },
+        [this](const QString& message) { emit registrationFailed(message); });
+}
+
+void NetworkManager::resetPassword(const QString& email)
+{
+    Log::info("NetworkManager::resetPassword") << "email:" << email;
+
+    const QUrl url = withQuery(m_forgotPasswordUrl, {{u"email"_s, encodeCredential(email)}});
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kFormType), QByteArray());
+    Log::info("NetworkManager::resetPassword") << "send:" << url.toString();
+
+    startRequestTimer(
+        reply, [this] { emit passwordResetFailed(tr("Password reset request timed out.")); });
+    handleResponse(
+        reply, [this](const QJsonObject&) { emit passwordResetSent(); },
+        [this](const QString& message) { emit passwordResetFailed(message); });
+}
+
+void NetworkManager::profileUpdate(const QString& firstName, const QString& lastName,
+                                   const QString& company, const QString& title,
+                                   const QString& imagePath)
+{
+    Log::info("NetworkManager::profileUpdate") << "firstName:" << firstName;
+    Log::info("NetworkManager::profileUpdate") << "lastName :" << lastName;
+    Log::info("NetworkManager::profileUpdate") << "company  :" << company;
+    Log::info("NetworkManager::profileUpdate") << "title    :" << title;
+    Log::info("NetworkManager::profileUpdate") << "imagePath:" << imagePath;
+
+    const QString userId = m_identity.userId();
+    const QString token = m_identity.token();
+    if (userId.isEmpty() || token.isEmpty()) {
+        Log::error("NetworkManager::profileUpdate") << "Missing user ID or token for edit request";
+        return;
+    }
+
+    const QUrl url = profileUrl(userId);
+    QNetworkRequest request = withContentType(url, kJsonType);
+    authorise(request, token);
+    const QString picture =
+        imagePath.isEmpty() ? m_identity.rawPicture() : loadImageToBase64(imagePath);
+    const QByteArray json = compactJson({{"firstName"_L1, firstName},
+                                         {"lastName"_L1, lastName},
+                                         {"company"_L1, company},
+                                         {"title"_L1, title},
+                                         {"picture"_L1, picture}});
+    QNetworkReply* reply = m_networkAccess->put(request, json);
+    Log::info("NetworkManager::profileUpdate") << "send:" << url.toString() << " json:" << json;
+
+    startRequestTimer(
+        reply, [this] { emit profileUpdateFailed(tr("Profile update request timed out.")); });
+    handleResponse(reply, unlessUserChanged([this](const QJsonObject& object) {
+                       emit profileUpdateSuccess(object);
+                   }),
+                   [this](const QString& message) { emit profileUpdateFailed(message); });
+}
+
+void NetworkManager::requestUserProfile()
+{
+    const QString userId = m_identity.userId();
+    const QString token = m_identity.token();
+    Log::info("NetworkManager::requestUserProfile") << "userid:" << userId;
+    Log::info("NetworkManager::requestUserProfile") << "token :" << token;
+    if (userId.isEmpty() || token.isEmpty()) {
+        Log::error("NetworkManager::requestUserProfile")
+            << "Missing user ID or token for profile request";
+        emit profileRequestFailed(tr("Missing user ID or token"));
+        return;
+    }
+
+    const QUrl url = profileUrl(userId);
+    QNetworkRequest request(url);
+    authorise(request, token);
+    QNetworkReply* reply = m_networkAccess->get(request);
+    Log::info("NetworkManager::requestUserProfile") << "send:" << url.toString();
+
+    startRequestTimer(reply,
+                      [this] { emit profileRequestFailed(tr("Profile request timed out.")); });
+    handleResponse(reply, unlessUserChanged([this](const QJsonObject& object) {
+                       emit profileRequestSuccess(object);
+                   }),
+                   [this](const QString& message) { emit profileRequestFailed(message); });
+}
+
+int NetworkManager::imageSize(const QString& imagePath)
+{
+    const QString path = ImageFile::normaliseImagePath(imagePath);
+    const qint64 size = ImageFile::size(path);
+    Log::info("NetworkManager::imageSize")
+        << "Loading image from: " << path << ", fileSize:" << size;
+    return static_cast<int>(size);
+}
+
+QString NetworkManager::loadImageToBase64(const QString& imagePath)
+{
+    const QString path = ImageFile::normaliseImagePath(imagePath);
+    Log::info("NetworkManager::loadImageToBase64") << "Loading image from: " << path;
+
+    const ImageFile::Encoded image = ImageFile::encode(path);
+    switch (image.status) {
+    case ImageFile::Encoded::Status::NotLoaded:
+        Log::error("NetworkManager::loadImageToBase64") << "Failed to load image: " << path;
+        return {};
+    case ImageFile::Encoded::Status::NotEncoded:
+        Log::error("NetworkManager::loadImageToBase64") << "Failed to convert image to Base64";
+        return {};
+    case ImageFile::Encoded::Status::Ok:
+        break;
+    }
+    Log::info("NetworkManager::loadImageToBase64")
+        << "Image converted successfully, size: " << image.bytes.size() << " bytes";
+    return QString::fromLatin1(image.bytes.toBase64());
+}
+
+QUrl NetworkManager::profileUrl(const QString& userId) const
+{
+    // An id is one path segment: its slashes, question marks and percent signs are data.
+    const QByteArray segment = QUrl::toPercentEncoding(userId, "!$&'()*+,;=:@");
+    return webAddress(m_baseUrl + "/nc/users/"_L1 + QString::fromLatin1(segment));
+}
+
+NetworkManager::SuccessCallback NetworkManager::unlessUserChanged(SuccessCallback onSuccess) const
+{
+    return [this, onSuccess = std::move(onSuccess), userId = m_identity.userId(),
+            token = m_identity.token()](const QJsonObject& object) {
+        if (m_identity.userId() == userId && m_identity.token() == token)
+            onSuccess(object);
+        else
+            Log::info("NetworkManager::handleResponse")
+                << "profile reply dropped, no longer signed in as userid:" << userId;
+    };
+}
+
+void NetworkManager::startRequestTimer(QNetworkReply* reply, TimeoutCallback onTimeout)
+{
+    auto* timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, [this, reply, onTimeout = std::move(onTimeout)] {
+        if (!m_activeRequests.contains(reply))
+            return;
+        reply->abort(); // reports the broken connection before it returns
+        onTimeout();
+        cleanupRequest(reply);
+    });
+    m_activeRequests.insert(reply, timer);
+    timer->start(m_requestTimeout);
+}
+
+void NetworkManager::handleResponse(QNetworkReply* reply, SuccessCallback onSuccess,
+                                    FailureCallback onFailure)
+{
+    guardReply(reply);
+    connect(reply, &QNetworkReply::finished, this,
+            [this, reply, onSuccess = std::move(onSuccess), onFailure = std::move(onFailure)] {
+                finishRequest(reply, onSuccess, onFailure);
+            });
+}
+
+void NetworkManager::finishRequest(QNetworkReply* reply, const SuccessCallback& onSuccess,
+                                   const FailureCallback& onFailure)
+{
+    if (!m_activeRequests.contains(reply)) {
+        Log::error("NetworkManager::handleResponse") << "activeRequests not contains reply";
+        return;
+    }
+    QJsonObject object;
+    const std::optional<QString> failure = decodeReply(reply, object);
+    if (!failure)
+        onSuccess(object);
+    else
+        onFailure(failure->isEmpty() ? tr("Unknown error occurred.") : *failure);
+    cleanupRequest(reply);
+}
+
+/// Returns the failure's text, or nothing and the reply's object on success.
+std::optional<QString> NetworkManager::decodeReply(QNetworkReply* reply, QJsonObject& object) const
+{
+    constexpr auto function = "NetworkManager::handleResponse";
+    // Of a reply that was cut off nothing counts, whatever part of it had arrived.
+    const bool cutOff = reply->error() == QNetworkReply::OperationCanceledError;
+    const QByteArray body = cutOff ? QByteArray() : reply->readAll();
+    Log::info(function) << "response:" << body;
+
+    if (body.isEmpty() && reply->error() != QNetworkReply::NoError) {
+        Log::error(function) << "Connection to server failed. error:" << reply->errorString();
+        return tr("Connection to server failed.");
+    }
+    if (body.isEmpty()) {
+        Log::error(function) << "Empty response from server.";
+        return tr("Empty response from server.");
+    }
+
+    ReplyBody decoded = decodeReplyBody(body);
+    switch (decoded.kind) {
+    case ReplyBody::Kind::NotJson:
+        Log::error(function) << "JSON parse error: " << decoded.parseError;
+        return tr("Invalid JSON response: %1").arg(decoded.parseError);
+    case ReplyBody::Kind::NotJsonObject:
+        Log::warning(function) << "Response is not a JSON object";
+        return tr("Invalid response format.");
+    case ReplyBody::Kind::Refused:
+        return decoded.message.value_or(tr("Request failed with unknown reason."));
+    case ReplyBody::Kind::Success:
+        break;
+    }
+    object = std::move(decoded.object);
+    return {};
+}
+
+/// Keeps a reply within bounds while it arrives.
+void NetworkManager::guardReply(QNetworkReply* reply)
+{
+    reply->setReadBufferSize(kReadBufferSize);
+    connect(reply, &QNetworkReply::readyRead, this, [reply] {
+        if (reply->bytesAvailable() <= kMaxBodySize)
+            return;
+        Log::error("NetworkManager::handleResponse")
+            << "response exceeds " << kMaxBodySize << " bytes";
+        reply->abort();
+    });
+    connect(reply, &QNetworkReply::redirected, this, [reply](const QUrl& target) {
+        // The reply's own address is the target already.
+        if (isSafeRedirect(reply->request().url(), target)) {
+            emit reply->redirectAllowed();
+            return;
+        }
+        Log::error("NetworkManager::handleResponse") << "redirection refused:" << target.toString();
+        reply->abort();
+    });
+}
+
+void NetworkManager::cleanupRequest(QNetworkReply* reply)
+{
+    if (!m_activeRequests.contains(reply))
+        return;
+    QTimer* timer = m_activeRequests.take(reply);
+    if (timer) {
+        timer->stop();
+        timer->deleteLater();
+    }
+    reply->deleteLater();
+}
