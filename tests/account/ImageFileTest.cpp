@@ -1,0 +1,200 @@
+#include "account/ImageFile.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+#include <QtEndian>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using Status = ImageFile::Encoded::Status;
+
+namespace
+{
+
+QByteArray pictureBytes(const char* format)
+{
+    QImage picture(64, 48, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, qRgb(x * 4, y * 5, x * y));
+    }
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, format);
+    return bytes;
+}
+
+// A bitmap header that announces 50,000 x 50,000 pixels, with nothing behind it.
+QByteArray bitmapBomb()
+{
+    QByteArray bytes = pictureBytes("BMP");
+    qToLittleEndian<qint32>(50'000, bytes.data() + 18);
+    qToLittleEndian<qint32>(50'000, bytes.data() + 22);
+    return bytes;
+}
+
+// The same as a PNG: width and height stand at fixed places, followed by the header's checksum.
+QByteArray pngBomb()
+{
+    QByteArray bytes = pictureBytes("PNG");
+    qToBigEndian<quint32>(50'000, bytes.data() + 16);
+    qToBigEndian<quint32>(50'000, bytes.data() + 20);
+    quint32 crc = ~0U;
+    for (int i = 12; i < 29; ++i) {
+        crc ^= static_cast<quint8>(bytes[i]);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (crc & 1 ? 0xedb88320U : 0U);
+    }
+    qToBigEndian<quint32>(~crc, bytes.data() + 29);
+    return bytes;
+}
+
+QByteArray formatOf(const QByteArray& bytes)
+{
+    if (bytes.startsWith("\x89PNG"))
+        return "PNG"_ba;
+    return bytes.startsWith("\xff\xd8") ? "JPG"_ba : QByteArray();
+}
+
+} // namespace
+
+class ImageFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void normalisesPaths_data();
+    void normalisesPaths();
+    void findsFilesByUrl();
+    void encodes_data();
+    void encodes();
+    void refusesWhatIsNoFile();
+    void reportsWhatCannotBeEncoded();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void ImageFileTest::normalisesPaths_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("path");
+    const auto row = [](const char* given, const char* path) {
+        QTest::newRow(given) << QString::fromUtf8(given) << QString::fromUtf8(path);
+    };
+    row("file:///C:/a.png", "C:/a.png");
+    row("file:///C:/a b%20c.png", "C:/a b c.png");
+    row("file:///home/x/100%25.png", "/home/x/100%.png");
+    row("file:///home/x/100%.png", "/home/x/100%.png");
+    row("file:///home/x/a%2520b.png", "/home/x/a%20b.png");
+    row("file:///home/x/a#b?c%23.png", "/home/x/a#b?c#.png");
+    row("file:///home/x/\xc3\xa4%C3%A4.png", "/home/x/\xc3\xa4\xc3\xa4.png");
+    row("file:///", "/");
+    row("file://server/share/a%20b.png", "//server/share/a b.png");
+    row("file://server", "file://server");
+    row("FILE:///C:/a.png", "FILE:///C:/a.png");
+    row("qrc:/images/x.png", ":/images/x.png");
+    row("QRC:/images/x.png", "QRC:/images/x.png");
+    row("C:/100%25 #1.png", "C:/100%25 #1.png");
+    row("", "");
+}
+
+void ImageFileTest::normalisesPaths()
+{
+    QFETCH(const QString, given);
+    const QString path = ImageFile::normaliseImagePath(given);
+    QTEST(path, "path");
+}
+
+void ImageFileTest::findsFilesByUrl()
+{
+    const QByteArray content = pictureBytes("PNG");
+    for (const QString& name :
+         {u"plain.png"_s, u"two words.png"_s, u"100%25 %.png"_s, u"a#b?.png"_s}) {
+        QFile file(m_folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly))
+            continue; // a name this system does not allow
+        file.write(content);
+        file.close();
+        // As a file dialog hands it over, and as a URL spelt out in full.
+        const QUrl url = QUrl::fromLocalFile(file.fileName());
+        for (const QString& text : {url.toString(), url.toString(QUrl::FullyEncoded)})
+            QCOMPARE(ImageFile::size(ImageFile::normaliseImagePath(text)), content.size());
+    }
+    QCOMPARE(ImageFile::size(ImageFile::normaliseImagePath(u"file:///gone/x.png"_s)), 0);
+}
+
+void ImageFileTest::encodes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("format"); // empty: refused
+    const QByteArray png = pictureBytes("PNG");
+    const QByteArray jpeg = pictureBytes("JPG");
+    QTest::newRow("png") << u"a.png"_s << png << "PNG"_ba;
+    QTest::newRow("upper-case jpeg") << u"a.JPEG"_s << jpeg << "JPG"_ba;
+    QTest::newRow("jpg") << u"a.jpg"_s << jpeg << "JPG"_ba;
+    QTest::newRow("bmp") << u"a.bmp"_s << pictureBytes("BMP") << "PNG"_ba;
+    QTest::newRow("png named jpg") << u"lie.jpg"_s << png << "JPG"_ba;
+    QTest::newRow("jpeg named png") << u"lie.png"_s << jpeg << "PNG"_ba;
+    QTest::newRow("no ending") << u"face"_s << png << "PNG"_ba;
+    QTest::newRow("text named png") << u"text.png"_s << "not a picture"_ba << QByteArray();
+    QTest::newRow("empty") << u"empty.png"_s << QByteArray() << QByteArray();
+    QTest::newRow("truncated png") << u"cut.png"_s << png.first(png.size() / 2) << QByteArray();
+    QTest::newRow("truncated jpeg head") << u"cut.jpg"_s << jpeg.first(64) << QByteArray();
+    QTest::newRow("png bomb") << u"bomb.png"_s << pngBomb() << QByteArray();
+    QTest::newRow("bitmap bomb") << u"bomb.bmp"_s << bitmapBomb() << QByteArray();
+    QTest::newRow("drawing")
+        << u"drawing.png"_s
+        << R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)"_ba << QByteArray();
+}
+
+void ImageFileTest::encodes()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, content);
+    QFETCH(const QByteArray, format);
+    QFile file(m_folder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+
+    const ImageFile::Encoded encoded = ImageFile::encode(file.fileName());
+    QCOMPARE(encoded.status, format.isEmpty() ? Status::NotLoaded : Status::Ok);
+    QCOMPARE(formatOf(encoded.bytes), format);
+    if (!format.isEmpty())
+        QCOMPARE(QImage::fromData(encoded.bytes).size(), QSize(64, 48));
+}
+
+void ImageFileTest::refusesWhatIsNoFile()
+{
+    QCOMPARE(ImageFile::encode(m_folder.filePath(u"gone.png"_s)).status, Status::NotLoaded);
+    QCOMPARE(ImageFile::encode(m_folder.path()).status, Status::NotLoaded);
+    QCOMPARE(ImageFile::encode({}).status, Status::NotLoaded);
+#ifdef Q_OS_UNIX
+    const QString pipe = m_folder.filePath(u"pipe.png"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QCOMPARE(ImageFile::encode(pipe).status, Status::NotLoaded);
+#endif
+}
+
+void ImageFileTest::reportsWhatCannotBeEncoded()
+{
+    // Wider than a JPEG can be.
+    const QString path = m_folder.filePath(u"ribbon.jpg"_s);
+    QVERIFY(QImage(70'000, 1, QImage::Format_RGB32).save(path, "PNG"));
+    const ImageFile::Encoded encoded = ImageFile::encode(path);
+    QCOMPARE(encoded.status, Status::NotEncoded);
+    QVERIFY(encoded.bytes.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(ImageFileTest)
+#include "ImageFileTest.moc"
