@@ -50,8 +50,7 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
     connect(display, &DisplayModel::send, m_link.get(), &DisplayLink::send);
     connectLink(expectations);
     // What came is noted before the display acts on it.
-    connect(m_link.get(), &DisplayLink::messageReceived, display,
-            [display](int, const QByteArray& text) { display->receive(text); });
+    connect(m_link.get(), &DisplayLink::messageReceived, display, &DisplayModel::receive);
     connect(m_link.get(), &DisplayLink::clientConnected, display, &DisplayModel::greet);
     connectScripts();
 }

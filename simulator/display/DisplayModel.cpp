@@ -60,23 +60,22 @@ void DisplayModel::on(ChannelCommand command, MessageType type, Handler handler)
     m_handlers.insert({int(command), int(type)}, std::move(handler));
 }
 
-void DisplayModel::receive(const QByteArray& text)
+void DisplayModel::receive(int id, const QByteArray& text)
 {
     const QJsonObject message = QJsonDocument::fromJson(text).object();
     if (m_mode == 0 || message.isEmpty())
         return;
     const int type = message.value("type"_L1).toInt();
     if (type == int(MessageType::Report) && m_acknowledging)
-        acknowledge(message);
-    if (const Handler handler = m_handlers.value({message.value("cmd"_L1).toInt(), type}))
+        acknowledge(id, message);
+    if (const Handler handler = m_handlers.value({id, type}))
         handler(message);
 }
 
-void DisplayModel::acknowledge(QJsonObject message)
+void DisplayModel::acknowledge(int id, QJsonObject message)
 {
     message.insert("type"_L1, int(MessageType::Acknowledgement));
-    emit send(message.value("cmd"_L1).toInt(),
-              QJsonDocument(message).toJson(QJsonDocument::Compact));
+    emit send(id, QJsonDocument(message).toJson(QJsonDocument::Compact));
 }
 
 void DisplayModel::greet()

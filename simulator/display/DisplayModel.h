@@ -35,7 +35,7 @@ public:
     /// Names what happens with one kind of message from the program.
     void on(ChannelCommand command, MessageType type, Handler handler);
     /// Takes a message from the program. Without a connected display nothing happens.
-    void receive(const QByteArray& text);
+    void receive(int id, const QByteArray& text);
     /// A program has come: a connected display reports itself.
     void greet();
 
@@ -60,7 +60,7 @@ private:
     void addConnectionCommands(CommandInterpreter& interpreter);
     void addStateCommands(CommandInterpreter& interpreter);
     void sendMessage(ChannelCommand command, MessageType type, int seq, QJsonObject message);
-    void acknowledge(QJsonObject message);
+    void acknowledge(int id, QJsonObject message);
     void takeVolume(const QJsonObject& message);
     void startSetup();
     void reportSource();

@@ -31,8 +31,8 @@ void endWithApplication()
     client().stop(QDeadlineTimer(kEndTimeout));
 }
 
-// The thread must be gone before the static objects of Qt are, also where no application object
-// ever lived.
+// The thread must be gone before the static objects of Qt are, also where the process exits without
+// destroying its application object.
 struct ProcessEnd {
     ProcessEnd() = default;
     ProcessEnd(const ProcessEnd&) = delete;
@@ -55,7 +55,8 @@ PortalHub& PortalHub::Instance()
 
 PortalHubApi::ErrorCode PortalHub::InitChannel(std::function<int(int, const std::string&)> callback)
 {
-    if (s_processEnding)
+    // The thread's event loop cannot run without one.
+    if (!QCoreApplication::instance() || s_processEnding)
         return PortalHubApi::ErrorCode::NotAvailable;
     const auto result = client().initChannel(std::move(callback));
     // An application object takes the routines along when it goes; another one needs it anew.

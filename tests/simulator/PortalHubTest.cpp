@@ -1,0 +1,52 @@
+#include "simulator/display/DisplayLink.h"
+#include "tests/simulator/ChannelRig.h"
+
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using simulator::DisplayLink;
+
+/// The library as a program loads it, in processes of its own: it ends with each of them.
+class PortalHubTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void endsCleanly_data();
+    void endsCleanly();
+};
+
+void PortalHubTest::endsCleanly_data()
+{
+    QTest::addColumn<QString>("mode");
+    for (const char* mode :
+         {"application", "two-applications", "exit-while-running", "no-application"})
+        QTest::newRow(mode) << QString::fromLatin1(mode);
+}
+
+void PortalHubTest::endsCleanly()
+{
+    QFETCH(QString, mode);
+    const SocketFolder folder;
+    qputenv("VORN_PORTALHUB_SOCKET", folder.name().toLocal8Bit());
+    DisplayLink link(folder.name());
+    QCOMPARE(link.listen(), QString());
+    connect(&link, &DisplayLink::clientConnected, &link, [&link] {
+        for (int i = 0; i < 100; ++i)
+            link.send(i, "{\"cmd\":1}");
+    });
+    for (int run = 0; run < 30; ++run) {
+        QProcess program;
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QStringLiteral(PORTALHUB_USER), {mode});
+        QVERIFY(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 30'000));
+        const QByteArray output = program.readAll();
+        QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0,
+                 output.constData());
+        QCOMPARE(output, QByteArray());
+    }
+}
+
+QTEST_GUILESS_MAIN(PortalHubTest)
+#include "PortalHubTest.moc"

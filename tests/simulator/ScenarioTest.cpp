@@ -1,0 +1,219 @@
+#include "simulator/Simulator.h"
+#include "simulator/portalhub/ChannelClient.h"
+#include "tests/simulator/ChannelRig.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <sstream>
+
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using channel::ChannelClient;
+using simulator::Simulator;
+
+namespace
+{
+
+/// A program as the display meets it: echoes reports as acknowledgements, asks for the version when
+/// a display connects, and turns the volume once it has the answer.
+class Program
+{
+public:
+    explicit Program(const QString& socketName)
+        : m_client(socketName, 5ms)
+    {
+        m_client.initChannel([this](int id, const std::string& text) { return take(id, text); });
+    }
+    ~Program() { m_client.stop(); }
+
+    void push(int id, const std::string& text) { m_client.pushMsg(id, text); }
+
+private:
+    int take(int id, const std::string& text)
+    {
+        QJsonObject message = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
+        const int type = message.value("type"_L1).toInt();
+        if (type == 2) {
+            message.insert("type"_L1, 3);
+            push(id, QJsonDocument(message).toJson(QJsonDocument::Compact).toStdString());
+        }
+        if (id == 0)
+            push(11, R"({"cmd":11,"seq":1,"type":0})");
+        if (id == 11 && type == 1)
+            push(1, R"({"cmd":1,"seq":2,"type":2,"volume":55})");
+        return 0;
+    }
+
+    ChannelClient m_client;
+};
+
+} // namespace
+
+/// Scenarios from beginning to exit code.
+class ScenarioTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void firstContactSucceeds();
+    void endsAs_data();
+    void endsAs();
+    void printsWhatHappens();
+    void inputRunsBesideAScenario();
+    void inputGoesOnAfterAFailure();
+
+private:
+    void run(const QByteArray& scenario);
+    int exitCode();
+    QList<QJsonObject> events(const QString& name) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::ostringstream m_events;
+    std::ostringstream m_errors;
+    std::unique_ptr<Simulator> m_simulator;
+    std::unique_ptr<QSignalSpy> m_finished;
+};
+
+void ScenarioTest::init()
+{
+    m_simulator.reset();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_events.str({});
+    m_errors.str({});
+    m_simulator = std::make_unique<Simulator>(m_folder->filePath(u"hub"_s), m_events, m_errors);
+    m_finished = std::make_unique<QSignalSpy>(m_simulator.get(), &Simulator::finished);
+    QVERIFY(m_simulator->listen());
+}
+
+void ScenarioTest::run(const QByteArray& scenario)
+{
+    QFile file(m_folder->filePath(u"story"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(scenario);
+    file.close();
+    QVERIFY2(m_simulator->loadScenario(file.fileName()), m_errors.str().c_str());
+}
+
+int ScenarioTest::exitCode()
+{
+    if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, 30'000))
+        return -1;
+    return m_finished->first().first().toInt();
+}
+
+QList<QJsonObject> ScenarioTest::events(const QString& name) const
+{
+    QList<QJsonObject> found;
+    const QByteArrayList lines = QByteArray::fromStdString(m_events.str()).split('\n');
+    for (const QByteArray& line : lines) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event.value("event"_L1) == name)
+            found.append(event);
+    }
+    return found;
+}
+
+void ScenarioTest::firstContactSucceeds()
+{
+    QVERIFY(m_simulator->loadScenario(QStringLiteral(FIRST_CONTACT)));
+    const Program program(m_folder->filePath(u"hub"_s));
+    QCOMPARE(exitCode(), 0);
+    QCOMPARE(m_errors.str(), std::string());
+}
+
+void ScenarioTest::endsAs_data()
+{
+    QTest::addColumn<QByteArray>("scenario");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("complaint");
+    const auto row = [](const char* name, const QByteArray& scenario, int code,
+                        const QByteArray& complaint = {}) {
+        QTest::newRow(name) << "wait-client\nconnect\n" + scenario << code << complaint;
+    };
+    row("quits", "quit", 0);
+    row("quits with a code", "quit 7", 7);
+    row("a message came", "expect 1 type=3 volume=40\nquit", 0);
+    row("no such message", "expect 1 type=3 volume=41 within 0.05\nquit 0", 1,
+        "story:3: expect 1 type=3 volume=41 within 0.05: no such message within 0.05 s\n");
+    row("each message counts once", "expect 0 type=3\nexpect 0 type=3 within 0.05\nquit 0", 1,
+        "story:4: expect 0 type=3 within 0.05: no such message within 0.05 s\n");
+    row("in any order", "expect 6 type=3\nexpect 0 type=3\nexpect 1 type=3\nquit", 0);
+    row("forgets", "expect 6 type=3\nexpect 1 type=2\nforget\nexpect 0 within 0.05\nquit 0", 1,
+        "story:6: expect 0 within 0.05: no such message within 0.05 s\n");
+    row("none came", "expect-none 9 within 0.05\nquit", 0);
+    row("one came", "expect-none 11 within 5\nquit 0", 1,
+        "story:3: expect-none 11 within 5: such a message came\n");
+    row("was sent", "expect-sent 11 type=1 ota_ver=4.1.0\nquit", 0);
+    row("survives its own faults",
+        "malformed endless\nmalformed no-id 100\nraw \\xff\\x00\ndrop-client\nwait-client\n"
+        "forget\nvolume 12\nexpect 1 type=3 volume=12\nquit",
+        0);
+    row("comes back", "link down\nlink up\nwait-client\nforget\nvolume 3\nexpect 1 volume=3\nquit",
+        0);
+    row("the program waits meanwhile",
+        "expect 1 type=2\nforget\nreading off\nvolume 5\nexpect-none 1 within 0.05\n"
+        "reading on\nexpect 1 type=3 volume=5\nquit",
+        0);
+}
+
+void ScenarioTest::endsAs()
+{
+    QFETCH(QByteArray, scenario);
+    run(scenario);
+    const Program program(m_folder->filePath(u"hub"_s));
+    QTEST(exitCode(), "code");
+    QTEST(QByteArray::fromStdString(m_errors.str()), "complaint");
+}
+
+void ScenarioTest::printsWhatHappens()
+{
+    run("wait-client\nexpect 5\nexpect 6\nquit\n");
+    Program program(m_folder->filePath(u"hub"_s));
+    QTRY_COMPARE(events(u"client-connected"_s).size(), 1);
+    program.push(5, "{\"cmd\": 5}");
+    program.push(6, "{\"cmd\":6,\xff");
+    QCOMPARE(exitCode(), 0);
+
+    const auto messages = events(u"message"_s);
+    QCOMPARE(messages.size(), 2);
+    QCOMPARE(messages.at(0), QJsonObject({{u"event"_s, u"message"_s},
+                                          {u"id"_s, 5},
+                                          {u"message"_s, QJsonObject{{u"cmd"_s, 5}}},
+                                          {u"text"_s, u"{\"cmd\": 5}"_s}}));
+    QCOMPARE(messages.at(1).value("message"_L1).toString(), u"{\"cmd\":6,\ufffd"_s);
+    QCOMPARE(events(u"command"_s).size(), 4);
+    QCOMPARE(events(u"quit"_s).first().value("code"_L1).toInt(-1), 0);
+    QVERIFY(m_events.str().starts_with("{\"event\":\"listening\","));
+}
+
+void ScenarioTest::inputRunsBesideAScenario()
+{
+    run("wait-client\necho over\n");
+    m_simulator->enterCommand(u"status"_s);
+    QTRY_COMPARE(events(u"status"_s).size(), 1); // though the scenario waits
+    QVERIFY(events(u"scenario-finished"_s).isEmpty());
+    const Program program(m_folder->filePath(u"hub"_s));
+    QTRY_COMPARE(events(u"scenario-finished"_s).size(), 1);
+    QCOMPARE(events(u"echo"_s).size(), 1);
+    QVERIFY(m_finished->isEmpty());
+    m_simulator->enterCommand(u"quit"_s);
+    QCOMPARE(exitCode(), 0);
+}
+
+void ScenarioTest::inputGoesOnAfterAFailure()
+{
+    for (const char* line : {"nonsense", "wait-client 0.01", "echo still here", "quit"})
+        m_simulator->enterCommand(QString::fromLatin1(line));
+    QCOMPARE(exitCode(), 1);
+    QCOMPARE(events(u"bad-command"_s).size(), 1);
+    QCOMPARE(events(u"failed"_s).size(), 1);
+    QCOMPARE(events(u"echo"_s).size(), 1);
+}
+
+QTEST_GUILESS_MAIN(ScenarioTest)
+#include "ScenarioTest.moc"
