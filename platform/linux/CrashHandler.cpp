@@ -115,7 +115,7 @@ void onFatalSignal(int signal, siginfo_t* info, void* context)
     report(crash);
     for (std::size_t i = 0; i < kFatalSignals.size(); ++i) {
         if (kFatalSignals[i] == signal)
-            platform::passOn(signal, *info, g_previous[i]);
+            platform::passOn(signal, info, context, g_previous[i]);
     }
     errno = savedError;
 }

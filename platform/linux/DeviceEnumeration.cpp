@@ -1,6 +1,5 @@
 #include "platform/DeviceEnumeration.h"
 
-#include <QCollator>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -147,11 +146,12 @@ int listFolder(const QString& path, QStringList& names)
     return 0;
 }
 
+// Shorter names first, so that card2 comes before card10.
 void sortByNumber(QStringList& names)
 {
-    QCollator collator(QLocale::c());
-    collator.setNumericMode(true);
-    std::sort(names.begin(), names.end(), collator);
+    std::sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
+        return left.size() != right.size() ? left.size() < right.size() : left < right;
+    });
 }
 
 } // namespace

@@ -14,10 +14,10 @@ constinit thread_local sigjmp_buf* t_escape = nullptr;
 
 struct sigaction g_previous;
 
-void onBusError(int signal, siginfo_t* info, void*)
+void onBusError(int signal, siginfo_t* info, void* context)
 {
     platform::leaveGuardedAccess();
-    platform::passOn(signal, *info, g_previous);
+    platform::passOn(signal, info, context, g_previous);
 }
 
 } // namespace

@@ -16,7 +16,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -55,6 +55,17 @@ public:
 private:
     int m_fd;
 };
+
+// By number, since the C library's own declarations lack C linkage in some versions.
+int openProcess(pid_t pid)
+{
+    return static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
+}
+
+int signalProcess(int handle, int signal)
+{
+    return static_cast<int>(::syscall(SYS_pidfd_send_signal, handle, signal, nullptr, 0));
+}
 
 QByteArray procPath(pid_t pid, const char* entry)
 {
@@ -162,12 +173,11 @@ struct Victim {
 // Empty when the process ended meanwhile and its number may belong to another.
 std::optional<Victim> killProcess(pid_t pid, const ImageName& name)
 {
-    Victim victim{FileDescriptor(::pidfd_open(pid, 0))};
+    Victim victim{FileDescriptor(openProcess(pid))};
     if (!name.isNameOf(pid))
         return std::nullopt;
-    const int result = victim.handle.get() >= 0
-                           ? ::pidfd_send_signal(victim.handle.get(), SIGKILL, nullptr, 0)
-                           : ::kill(pid, SIGKILL);
+    const int result = victim.handle.get() >= 0 ? signalProcess(victim.handle.get(), SIGKILL)
+                                                : ::kill(pid, SIGKILL);
     if (result != 0 && errno == ESRCH)
         return std::nullopt;
     victim.error = result == 0 ? 0 : errno;

@@ -5,12 +5,20 @@
 namespace platform
 {
 
-void passOn(int signal, const siginfo_t& info, const struct sigaction& previous)
+void passOn(int signal, siginfo_t* info, void* context, const struct sigaction& previous)
 {
+    if (previous.sa_flags & SA_SIGINFO) {
+        previous.sa_sigaction(signal, info, context);
+        return;
+    }
+    if (previous.sa_handler != SIG_DFL && previous.sa_handler != SIG_IGN) {
+        previous.sa_handler(signal);
+        return;
+    }
     sigaction(signal, &previous, nullptr);
-    // A fault happens again, with its true address and registers, when its instruction is repeated;
-    // a signal that somebody sent has to be sent anew.
-    const bool repeatsItself = info.si_code > 0;
+    // A fault happens again when its instruction is repeated; a signal that was sent has to be sent
+    // anew.
+    const bool repeatsItself = info->si_code > 0;
     if (!repeatsItself)
         ::tgkill(::getpid(), ::gettid(), signal);
 }

@@ -5,8 +5,9 @@
 namespace platform
 {
 
-/// Hands a signal that this handler is done with to the one installed before it, which runs as soon
-/// as this one returns. Safe in a signal handler.
-void passOn(int signal, const siginfo_t& info, const struct sigaction& previous);
+/// Hands a signal that this handler is done with to the one installed before it, on the same stack:
+/// it may be the only one left. Without an earlier handler the system's own action follows as soon
+/// as this handler returns. Safe in a signal handler.
+void passOn(int signal, siginfo_t* info, void* context, const struct sigaction& previous);
 
 } // namespace platform

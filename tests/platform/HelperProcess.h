@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QString>
+#include <QTest>
+
+/// A program of the tests running as a process of its own: it answers each command with a line.
+class HelperProcess : public QProcess
+{
+public:
+    static QString path(const QString& program)
+    {
+        return QCoreApplication::applicationDirPath() + QLatin1Char('/') + program;
+    }
+
+    ~HelperProcess() override
+    {
+        closeWriteChannel(); // which it takes for the end
+        if (state() != NotRunning && !waitForFinished(5'000))
+            kill();
+    }
+
+    /// Starts the program and waits until it says that it is ready.
+    bool startAndWait(const QString& program, const QStringList& arguments)
+    {
+        start(program, arguments);
+        return waitForStarted() && nextLine() == "ready";
+    }
+
+    /// Sends a command and waits until it is done.
+    bool command(const QByteArray& line)
+    {
+        write(line + '\n');
+        return nextLine() == "ok";
+    }
+
+    QByteArray nextLine()
+    {
+        while (!canReadLine() && waitForReadyRead(20'000)) {
+        }
+        return readLine().trimmed();
+    }
+
+    /// Ends it as a crash would, and waits for that.
+    bool crash()
+    {
+        kill();
+        return waitForFinished();
+    }
+};
+
+/// A name that no other process of this machine uses.
+inline QString uniqueName(const QString& prefix)
+{
+    static int s_count = 0;
+    return prefix + QString::number(QCoreApplication::applicationPid()) + QLatin1Char('n') +
+           QString::number(++s_count);
+}

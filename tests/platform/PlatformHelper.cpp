@@ -1,0 +1,167 @@
+// platform_helper <mode> [arguments]: another process for the tests of the platform's services.
+
+#include "platform/CrashHandler.h"
+#include "platform/Folders.h"
+#include "platform/FrameChannel.h"
+#include "platform/InstanceSegment.h"
+#include "platform/Processes.h"
+#include "platform/Registry.h"
+#include "platform/ThreadName.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QSharedMemory>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void say(const QByteArray& line)
+{
+    std::printf("%s\n", line.constData());
+    std::fflush(stdout);
+}
+
+int waitForEnd()
+{
+    say("ready");
+    while (std::getchar() != EOF) {
+    }
+    return 0;
+}
+
+int writeValues(const QString& key, const QString& prefix, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        if (!platform::writeRegistry(key, prefix + QString::number(i), i))
+            return 1;
+    }
+    return 0;
+}
+
+int killOwnName()
+{
+    const QString name = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    const auto outcome = platform::killByImageName(name, std::chrono::seconds(1));
+    say(QByteArray::number(outcome.exitCode));
+    return 0;
+}
+
+// Crashing on purpose. The values are volatile so that nothing of it is optimised away.
+
+std::mutex g_logLock;
+
+void writeLine(const char* text)
+{
+    const std::lock_guard lock(g_logLock);
+    std::fprintf(stderr, "%s\n", text);
+}
+
+void onEarlierHandler(int signal)
+{
+    constexpr char kText[] = "earlier handler\n";
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kText, sizeof(kText) - 1);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+void dereferenceNull()
+{
+    int* volatile nowhere = nullptr;
+    *nowhere = 1;
+}
+
+int overflowStack(int depth)
+{
+    volatile char block[4096];
+    block[0] = static_cast<char>(depth);
+    if (depth < 0) // never, which the compiler is not to know
+        return 0;
+    return overflowStack(depth + 1) + block[0];
+}
+
+void touchBeyondEnd()
+{
+    const auto channel = platform::makeFrameChannel("none", "none", 1); // guards its own reads only
+    std::FILE* const empty = std::tmpfile();
+    void* const page = ::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(empty), 0);
+    [[maybe_unused]] const char byte = *static_cast<const volatile char*>(page);
+}
+
+void crash(const QString& how)
+{
+    if (how == "null"_L1)
+        dereferenceNull();
+    else if (how == "overflow"_L1)
+        overflowStack(0);
+    else if (how == "bus"_L1)
+        touchBeyondEnd();
+    else if (how == "abort"_L1)
+        std::abort();
+    else if (how == "throw"_L1)
+        throw std::runtime_error("boom");
+    else if (how == "locked"_L1)
+        g_logLock.lock(), dereferenceNull();
+}
+
+int runCrash(const QString& how, bool onWorker)
+{
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT})
+        std::signal(signal, onEarlierHandler);
+    platform::installCrashHandler(writeLine);
+    if (!onWorker) {
+        crash(how);
+        return 0;
+    }
+    std::thread([&how] {
+        platform::nameCurrentThread("crashing worker");
+        crash(how);
+    }).join();
+    return 0;
+}
+
+int run(const QStringList& arguments)
+{
+    const QString mode = arguments.value(1);
+    const QString first = arguments.value(2);
+    if (mode == "wait"_L1)
+        return waitForEnd();
+    if (mode == "settings"_L1) {
+        say(platform::settingsFolder().toUtf8());
+        return 0;
+    }
+    if (mode == "registry"_L1)
+        return writeValues(first, arguments.value(3), arguments.value(4).toInt());
+    if (mode == "kill-own-name"_L1)
+        return killOwnName();
+    if (mode == "segment"_L1) {
+        QSharedMemory segment(first);
+        return segment.create(1) ? waitForEnd() : 1;
+    }
+    if (mode == "lock"_L1) {
+        const platform::InstanceLock lock(first);
+        return lock.isHeld() ? waitForEnd() : 1;
+    }
+    if (mode == "crash"_L1)
+        return runCrash(first, arguments.value(3) == "worker"_L1);
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return run(QCoreApplication::arguments());
+}

@@ -1,0 +1,183 @@
+#include "platform/DeviceEnumeration.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cerrno>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using platform::DeviceClass;
+using platform::DeviceRecord;
+
+class tst_DeviceEnumeration : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void followsLinksToTheUsbDevice();
+    void readsTreesWithoutLinks();
+    void namesOtherDevicesByTheirPlace();
+    void keepsASteadyOrder();
+    void appendsToTheList();
+    void endsInCircles();
+    void saysWhenItCannotList();
+
+private:
+    void write(const QString& path, const QByteArray& text) const;
+    void link(const QString& path, const QString& target) const;
+    void makeUsbDevice(const QString& folder, const QByteArray& serial) const;
+    [[nodiscard]] QList<DeviceRecord> scan(DeviceClass deviceClass) const;
+
+    std::unique_ptr<QTemporaryDir> m_root;
+};
+
+void tst_DeviceEnumeration::write(const QString& path, const QByteArray& text) const
+{
+    const QString full = m_root->filePath(path);
+    QVERIFY(QDir().mkpath(QFileInfo(full).path()));
+    QFile file(full);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+void tst_DeviceEnumeration::link(const QString& path, const QString& target) const
+{
+    const QString full = m_root->filePath(path);
+    QVERIFY(QDir().mkpath(QFileInfo(full).path()));
+    QVERIFY(QFile::link(target, full));
+}
+
+void tst_DeviceEnumeration::makeUsbDevice(const QString& folder, const QByteArray& serial) const
+{
+    write(folder + "/idVendor"_L1, "1d6b\n");
+    write(folder + "/idProduct"_L1, "0a1b\n");
+    write(folder + "/product"_L1, "K4V Speakerphone\n");
+    if (!serial.isEmpty())
+        write(folder + "/serial"_L1, serial + '\n');
+}
+
+QList<DeviceRecord> tst_DeviceEnumeration::scan(DeviceClass deviceClass) const
+{
+    QList<DeviceRecord> records;
+    quint32 error = 1;
+    if (!platform::scanDevices(deviceClass, records, error) || error != 0)
+        qFatal("scan failed");
+    return records;
+}
+
+void tst_DeviceEnumeration::init()
+{
+    m_root = std::make_unique<QTemporaryDir>();
+    qputenv("VORN_SYSFS_ROOT", m_root->path().toUtf8());
+}
+
+void tst_DeviceEnumeration::followsLinksToTheUsbDevice()
+{
+    const QString usb = u"devices/pci0000:00/usb1/1-2.4"_s;
+    makeUsbDevice(usb, "a1b2c3");
+    const QString card = usb + "/1-2.4:1.0/sound/card1"_L1;
+    write(card + "/id"_L1, "K4V\n");
+    write(card + "/pcmC1D0p/pcm_class"_L1, "generic\n");
+    write(card + "/pcmC1D0c/pcm_class"_L1, "generic\n");
+    link(card + "/device"_L1, u"../../../1-2.4:1.0"_s);
+    link(card + "/pcmC1D0p/device"_L1, u"../../card1"_s);
+    link(u"class/sound/card1"_s, u"../../"_s + card);
+    link(u"class/sound/pcmC1D0p"_s, u"../../"_s + card + "/pcmC1D0p"_L1);
+    link(u"class/sound/pcmC1D0c"_s, u"../../"_s + card + "/pcmC1D0c"_L1);
+    write(u"class/sound/controlC1/dev"_s, "116:1\n");
+    write(u"class/sound/timer/dev"_s, "116:2\n");
+    const QString video = usb + "/1-2.4:1.2/video4linux/video0"_L1;
+    write(video + "/name"_L1, "K4V Camera: K4V Camera\n");
+    link(u"class/video4linux/video0"_s, u"../../"_s + video);
+    write(u"class/video4linux/v4l-subdev0/name"_s, "sensor\n");
+
+    const QString id = u"USB\\VID_1D6B&PID_0A1B\\A1B2C3"_s;
+    QCOMPARE(scan(DeviceClass::Media), (QList<DeviceRecord>{{id, u"K4V"_s}}));
+    QCOMPARE(scan(DeviceClass::AudioEndpoint),
+             (QList<DeviceRecord>{{id, u"K4V"_s}, {id, u"K4V"_s}}));
+    QCOMPARE(scan(DeviceClass::Camera), (QList<DeviceRecord>{{id, u"K4V Camera: K4V Camera"_s}}));
+}
+
+void tst_DeviceEnumeration::readsTreesWithoutLinks()
+{
+    // As somebody would make one by hand: `device` holds the USB attributes itself.
+    makeUsbDevice(u"class/sound/card0/device"_s, {});
+    write(u"class/sound/pcmC0D0c/pcm_class"_s, "generic\n");
+    makeUsbDevice(u"class/video4linux/video3/device"_s, "x9");
+
+    const DeviceRecord sound{u"USB\\VID_1D6B&PID_0A1B\\DEVICE"_s, u"K4V Speakerphone"_s};
+    QCOMPARE(scan(DeviceClass::Media), QList<DeviceRecord>{sound});
+    QCOMPARE(scan(DeviceClass::AudioEndpoint), QList<DeviceRecord>{sound});
+    QCOMPARE(scan(DeviceClass::Camera),
+             (QList<DeviceRecord>{{u"USB\\VID_1D6B&PID_0A1B\\X9"_s, u"K4V Speakerphone"_s}}));
+}
+
+void tst_DeviceEnumeration::namesOtherDevicesByTheirPlace()
+{
+    write(u"devices/platform/hda/sound/card0/id"_s, "PCH\n");
+    link(u"class/sound/card0"_s, u"../../devices/platform/hda/sound/card0"_s);
+    // No bus path where there is no serial number, and nothing outside the tree is looked at.
+    QCOMPARE(scan(DeviceClass::Media),
+             (QList<DeviceRecord>{
+                 {QDir(m_root->path()).canonicalPath() + "/devices/platform/hda/sound/card0"_L1,
+                  u"PCH"_s}}));
+
+    makeUsbDevice(u"devices/usb1/1-7"_s, {});
+    write(u"devices/usb1/1-7/1-7:1.0/sound/card1/id"_s, "USB\n");
+    link(u"class/sound/card1"_s, u"../../devices/usb1/1-7/1-7:1.0/sound/card1"_s);
+    QCOMPARE(scan(DeviceClass::Media).value(1).instanceId, u"USB\\VID_1D6B&PID_0A1B\\1-7"_s);
+}
+
+void tst_DeviceEnumeration::keepsASteadyOrder()
+{
+    for (const int number : {10, 2, 0, 1})
+        write(u"class/sound/card%1/id"_s.arg(number), "card" + QByteArray::number(number));
+    QStringList names;
+    for (const DeviceRecord& record : scan(DeviceClass::Media))
+        names << record.friendlyName;
+    QCOMPARE(names, (QStringList{u"card0"_s, u"card1"_s, u"card2"_s, u"card10"_s}));
+}
+
+void tst_DeviceEnumeration::appendsToTheList()
+{
+    write(u"class/sound/card0/id"_s, "A");
+    write(u"class/video4linux/video0/name"_s, "B");
+    QList<DeviceRecord> records;
+    quint32 error = 0;
+    QVERIFY(platform::scanDevices(DeviceClass::Media, records, error));
+    QVERIFY(platform::scanDevices(DeviceClass::Camera, records, error));
+    QVERIFY(platform::scanDevices(DeviceClass::AudioEndpoint, records, error)); // there is none
+    QCOMPARE(records.size(), 2);
+    QCOMPARE(records.last().friendlyName, u"B"_s);
+}
+
+void tst_DeviceEnumeration::endsInCircles()
+{
+    write(u"class/sound/card0/id"_s, "A");
+    link(u"class/sound/card0/device"_s, u"."_s);
+    link(u"class/sound/card1"_s, u"card2"_s);
+    link(u"class/sound/card2"_s, u"card1"_s);
+    QCOMPARE(scan(DeviceClass::Media).first().friendlyName, u"A"_s);
+}
+
+void tst_DeviceEnumeration::saysWhenItCannotList()
+{
+    QList<DeviceRecord> records;
+    quint32 error = 0;
+    QVERIFY(platform::scanDevices(DeviceClass::Media, records, error)); // no device, no class
+    write(u"class/sound"_s, "not a folder");
+    QVERIFY(!platform::scanDevices(DeviceClass::Media, records, error));
+    QCOMPARE(error, quint32(ENOTDIR));
+
+    qputenv("VORN_SYSFS_ROOT", m_root->filePath(u"missing"_s).toUtf8());
+    QVERIFY(!platform::scanDevices(DeviceClass::Camera, records, error));
+    QCOMPARE(error, quint32(ENOENT));
+    QVERIFY(records.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_DeviceEnumeration)
+#include "tst_DeviceEnumeration.moc"

@@ -1,0 +1,156 @@
+#include "platform/Folders.h"
+#include "platform/VersionResource.h"
+#include "tests/platform/HelperProcess.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr uid_t kNobody = 65534;
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void becomeNobody()
+{
+    [[maybe_unused]] const bool done = ::setgid(kNobody) == 0 && ::setuid(kNobody) == 0;
+}
+
+void write(const QString& path, const QByteArray& text)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+} // namespace
+
+class tst_Folders : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void placesTheLog();
+    void keepsSettingsBesideTheExecutable();
+    void keepsSettingsOfAReadOnlyInstallationWithTheUser();
+    void spellsProgramNames();
+    void knowsItsOwnVersionOnly();
+
+private:
+    // What a copy of the helper in `folder` answers, run by a user who cannot write everywhere.
+    [[nodiscard]] QString settingsFolderOf(const QString& folder) const;
+    [[nodiscard]] QString makeInstallation() const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+void tst_Folders::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    qputenv("HOME", m_home->path().toUtf8());
+    for (const char* name : {"XDG_STATE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        qunsetenv(name);
+}
+
+QString tst_Folders::settingsFolderOf(const QString& folder) const
+{
+    QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_DATA_HOME"_s, m_home->filePath(u"data"_s));
+    process.setProcessEnvironment(environment);
+    if (::geteuid() == 0)
+        process.setChildProcessModifier(becomeNobody);
+    process.start(folder + "/platform_helper"_L1, {u"settings"_s});
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+QString tst_Folders::makeInstallation() const
+{
+    const QString folder = m_home->filePath(u"app"_s);
+    QDir().mkpath(folder);
+    QFile::copy(HelperProcess::path(u"platform_helper"_s), folder + "/platform_helper"_L1);
+    write(folder + "/config.ini"_L1, "[VORNApp]\n");
+    write(folder + "/config.json"_L1, "{}\n");
+    QFile::setPermissions(folder + "/config.ini"_L1, QFile::ReadOwner | QFile::ReadOther);
+    return folder;
+}
+
+void tst_Folders::placesTheLog()
+{
+    QCOMPARE(platform::programDataFolder(), m_home->filePath(u".local/state/VORNApp"_s));
+    QCOMPARE(platform::logBackupFolder(), m_home->filePath(u".local/state/vorn_temp/log/"_s));
+    QVERIFY(QFileInfo(platform::programDataFolder()).isDir());
+
+    qputenv("XDG_STATE_HOME", m_home->filePath(u"state/"_s).toUtf8());
+    QCOMPARE(platform::programDataFolder(), m_home->filePath(u"state/VORNApp"_s));
+    QVERIFY(QFileInfo(m_home->filePath(u"state/VORNApp"_s)).isDir());
+
+    qputenv("XDG_STATE_HOME", "not/absolute"); // which the standard says to ignore
+    QCOMPARE(platform::programDataFolder(), m_home->filePath(u".local/state/VORNApp"_s));
+}
+
+void tst_Folders::keepsSettingsBesideTheExecutable()
+{
+    const QString folder = makeInstallation();
+    QFile::setPermissions(m_home->path(), QFile::Permissions::fromInt(0x7777));
+    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x7777));
+    QCOMPARE(settingsFolderOf(folder), folder);
+}
+
+void tst_Folders::keepsSettingsOfAReadOnlyInstallationWithTheUser()
+{
+    const QString folder = makeInstallation();
+    QFile::setPermissions(m_home->path(), QFile::Permissions::fromInt(0x7777));
+    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x5555));
+    const QString own = m_home->filePath(u"data/VORNApp"_s);
+    QCOMPARE(settingsFolderOf(folder), own);
+    QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\n");
+    QCOMPARE(contentOf(own + "/config.json"_L1), "{}\n");
+    QVERIFY(QFile::permissions(own + "/config.ini"_L1) & QFile::WriteOwner);
+
+    // Only on first use: what the user has changed since stays.
+    QFile::remove(own + "/config.ini"_L1);
+    write(own + "/config.ini"_L1, "[VORNApp]\nuse_remote_device=false\n");
+    QCOMPARE(settingsFolderOf(folder), own);
+    QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\nuse_remote_device=false\n");
+    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x7777)); // so that it can be removed
+}
+
+void tst_Folders::spellsProgramNames()
+{
+    QCOMPARE(platform::executableFileName(u"ms-teams.exe"_s), u"ms-teams"_s);
+    QCOMPARE(platform::executableFileName(u"Zoom"_s), u"Zoom"_s);
+    QCOMPARE(platform::programBesideApplication(u"platform_helper.exe"_s),
+             HelperProcess::path(u"platform_helper"_s));
+    QCOMPARE(platform::programBesideApplication(u"vorn-test-missing.exe"_s),
+             u"vorn-test-missing"_s);
+}
+
+void tst_Folders::knowsItsOwnVersionOnly()
+{
+    for (const QString& self :
+         {QCoreApplication::applicationFilePath(), u"/proc/self/exe"_s, u"tst_Folders"_s}) {
+        const auto versions = platform::fileVersions(self);
+        QVERIFY2(versions.has_value(), qPrintable(self));
+        QVERIFY(versions->file != (std::array<quint16, 4>{}));
+        QCOMPARE(versions->product, versions->file);
+    }
+    for (const QString& other : {u"/bin/sh"_s, u"sh"_s, u"/missing"_s, QString(),
+                                 HelperProcess::path(u"platform_helper"_s)})
+        QVERIFY2(!platform::fileVersions(other), qPrintable(other));
+}
+
+QTEST_GUILESS_MAIN(tst_Folders)
+#include "tst_Folders.moc"

@@ -1,0 +1,178 @@
+#include "platform/Shortcuts.h"
+
+#include "platform/linux/DesktopEntry.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr std::chrono::seconds kPatience{3};
+
+} // namespace
+
+class tst_Shortcuts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void findsTheProgram_data();
+    void findsTheProgram();
+    void splitsExecLines_data();
+    void splitsExecLines();
+    void readsTheRightKey_data();
+    void readsTheRightKey();
+    void resolvesThroughPath();
+    void saysWhatIsWrong();
+    void findsPackagedEntries();
+
+private:
+    QString write(const QString& name, const QByteArray& text) const;
+
+    QTemporaryDir m_folder;
+};
+
+QString tst_Shortcuts::write(const QString& name, const QByteArray& text) const
+{
+    const QString path = m_folder.filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? path : QString();
+}
+
+void tst_Shortcuts::initTestCase()
+{
+    qputenv("XDG_DATA_HOME", m_folder.filePath(u"home"_s).toUtf8());
+    qputenv("XDG_DATA_DIRS", m_folder.filePath(u"system"_s).toUtf8());
+}
+
+void tst_Shortcuts::findsTheProgram_data()
+{
+    QTest::addColumn<QByteArray>("exec");
+    QTest::addColumn<QString>("program"); // empty: none
+    const auto row = [](const char* exec, const QString& program) {
+        QTest::newRow(exec) << QByteArray(exec) << program;
+    };
+    row("/usr/bin/zoom %U", u"/usr/bin/zoom"_s);
+    row("  zoom  ", u"zoom"_s);
+    row(R"("/opt/My App/zoom" --url=%u)", u"/opt/My App/zoom"_s);
+    row(R"("/opt/a \\"quoted\\" \\$5 \\`app\\`" x)", uR"(/opt/a "quoted" $5 `app`)"_s);
+    row(R"("/opt/back\\\\slash")", uR"(/opt/back\slash)"_s);
+    row(R"(/opt/with\sblank/zoom)", u"/opt/with"_s);
+    row("/opt/100%%/zoom", u"/opt/100%/zoom"_s);
+    row("env QT_SCALE=1 LANG=C /usr/bin/zoom %F", u"/usr/bin/zoom"_s);
+    row("/usr/bin/env -u DISPLAY --ignore-environment A=b zoom", u"zoom"_s);
+    row("env ./a=b/zoom", u"./a=b/zoom"_s);
+    row("env A=b", {});
+    row(R"("/opt/never closed)", {});
+    row(R"("" zoom)", {});
+    row("%U", {});
+    row("", {});
+}
+
+void tst_Shortcuts::findsTheProgram()
+{
+    QFETCH(QByteArray, exec);
+    QFETCH(QString, program);
+    const auto found =
+        platform::programOfDesktopEntry("[Desktop Entry]\nType=Application\nExec=" + exec + '\n');
+    QCOMPARE(found.has_value(), !program.isEmpty());
+    QCOMPARE(found.value_or(QString()), program);
+}
+
+void tst_Shortcuts::splitsExecLines_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("codes") << u"a %f b%Uc %% d"_s << QStringList{u"a"_s, u"bc"_s, u"%"_s, u"d"_s};
+    QTest::newRow("quotes") << u"a\"b c\"d \"\" e\\ f"_s
+                            << QStringList{u"ab cd"_s, u""_s, u"e f"_s};
+    QTest::newRow("blanks") << u" \t a   b "_s << QStringList{u"a"_s, u"b"_s};
+    QTest::newRow("ends early") << u"a % b\\"_s << QStringList{u"a"_s, u"b\\"_s};
+}
+
+void tst_Shortcuts::splitsExecLines()
+{
+    QFETCH(QString, line);
+    QFETCH(QStringList, words);
+    QCOMPARE(platform::splitExecLine(line).value_or(QStringList()), words);
+}
+
+void tst_Shortcuts::readsTheRightKey_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("program");
+    QTest::newRow("actions") << QByteArray("[Desktop Entry]\nExec=main\n\n"
+                                           "[Desktop Action new]\nExec=other\n")
+                             << u"main"_s;
+    QTest::newRow("other group first")
+        << QByteArray(
+               "[Other]\nExec=other\n[Desktop Entry]\nTryExec=try\nExec[de]=x\nExec = main\n")
+        << u"main"_s;
+    QTest::newRow("comment, line ends of Windows")
+        << QByteArray("# Exec=no\r\n[Desktop Entry]\r\n#Exec=no\r\nExec=main\r\n") << u"main"_s;
+    QTest::newRow("link") << QByteArray("[Desktop Entry]\nType=Link\nURL=https://example.org\n")
+                          << QString();
+    QTest::newRow("not an entry") << QByteArray("\x7f"
+                                                "ELF\0\0\n=\n[",
+                                                10)
+                                  << QString();
+}
+
+void tst_Shortcuts::readsTheRightKey()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, program);
+    QCOMPARE(platform::programOfDesktopEntry(text).value_or(QString()), program);
+}
+
+void tst_Shortcuts::resolvesThroughPath()
+{
+    const QString program = write(u"bin/vorn-test-zoom"_s, "#!/bin/sh\n");
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    qputenv("PATH", qgetenv("PATH") + ':' + m_folder.filePath(u"bin"_s).toUtf8());
+
+    auto result = platform::shortcutTarget(
+        write(u"a.desktop"_s, "[Desktop Entry]\nExec=vorn-test-zoom %U\n"), kPatience);
+    QVERIFY(result.finished);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, program);
+
+    // What does not exist is named as it stands, for the caller to find out.
+    result = platform::shortcutTarget(
+        write(u"b.desktop"_s, "[Desktop Entry]\nExec=vorn-test-nothing\n"), kPatience);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, u"vorn-test-nothing"_s);
+}
+
+void tst_Shortcuts::saysWhatIsWrong()
+{
+    const QString pipe = m_folder.filePath(u"pipe.desktop"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {m_folder.filePath(u"missing.desktop"_s), m_folder.path(), pipe,
+                                write(u"empty.desktop"_s, "")}) {
+        const auto result = platform::shortcutTarget(path, kPatience);
+        QVERIFY(result.finished);
+        QVERIFY(result.exitCode != 0);
+        QVERIFY(!result.errorOutput.isEmpty());
+    }
+}
+
+void tst_Shortcuts::findsPackagedEntries()
+{
+    QVERIFY(platform::packagedShortcut({u"One"_s, u"Two"_s}).isEmpty());
+    const QString second = write(u"system/applications/Two.desktop"_s, "");
+    QCOMPARE(platform::packagedShortcut({u"One"_s, u"Two"_s}), second);
+    const QString first = write(u"home/applications/One.desktop"_s, "");
+    QCOMPARE(platform::packagedShortcut({u"One"_s, u"Two"_s}), first);
+}
+
+QTEST_GUILESS_MAIN(tst_Shortcuts)
+#include "tst_Shortcuts.moc"
