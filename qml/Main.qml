@@ -14,7 +14,6 @@ Window {
             return;
         }
         mainWindow.visibility = Window.Windowed;
-        mainWindow.visible = true;
         // Staying on top for one turn of the event loop brings the window before those of other
         // programs.
         mainWindow.flags |= Qt.WindowStaysOnTopHint;

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# bench/run.sh   builds the release and prints every figure as a ratio against a baseline of the same run.
+set -euo pipefail
+source "$(dirname "$0")/../tools/common.sh"
+need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" strace
+cd "$root"
+mkdir -p build
+configure_and_build build/release --preset release -DVORN_BUILD_TESTS=OFF
+bin=$root/build/release/bin
+trap stop_screen EXIT
+start_screen
+
+# The updater that the program looks after; without one each look would start a process.
+cp "$(command -v sleep)" "$bin/PatchPilot"
+"$bin/PatchPilot" 1000 &
+screen_pids+=($!)
+
+step "Ratios"
+"$bin/bench_logging"
+"$bin/bench_message"
+"$bin/bench_devicecheck"
+dbus-run-session -- "$bin/bench_program"
+
+step "Processes spawned by the status loop"
+home=$(mktemp -d)
+env HOME="$home" XDG_STATE_HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR="$home" TMPDIR="$home" \
+  QT_QPA_PLATFORM=offscreen timeout -s TERM 20 \
+  strace -f -qq -e trace=execve,fork,vfork -o "$home/trace" "$bin/VORNApp" >/dev/null 2>&1 || true
+spawned=$(($(grep -cE 'execve|v?fork\(' "$home/trace") - 1))
+rm -rf "$home" "$bin/PatchPilot"
+echo "processes spawned by some 20 status passes: $spawned (aim 0)"
+[ "$spawned" -eq 0 ]

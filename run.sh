@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# ./run.sh [--headless]   installs what is missing, builds, and shows the program with a simulated display.
+#
+# On a screen the program comes up and a simulated display connects; type commands for the display into
+# this terminal ("help" lists them). Without a screen, or with --headless, a virtual screen is used, the
+# job is driven to its end and screenshots are left in build/tour. Exit code 0 means that all of it
+# happened.
+set -euo pipefail
+source "$(dirname "$0")/tools/common.sh"
+
+headless=false
+case "${1:-}" in
+-h | --help)
+  sed -n '2,7s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+--headless) headless=true ;;
+"") ;;
+*) fail "unknown option '$1'" "./run.sh --help" ;;
+esac
+[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || headless=true
+
+packages=("${build_packages[@]}" "${run_packages[@]}")
+$headless && packages+=("${screen_packages[@]}")
+need_packages "${packages[@]}"
+cd "$root"
+mkdir -p build
+configure_and_build build/run -DCMAKE_BUILD_TYPE=Release
+bin="$root/build/run/bin"
+
+if $headless; then
+  trap stop_screen EXIT
+  start_screen 1280x900x24
+  "$root/tools/tour.sh" "$bin" "$root/build/tour"
+  exit
+fi
+
+export VORN_PORTALHUB_SOCKET="${XDG_RUNTIME_DIR:-/tmp}/vorn-portalhub"
+step "Starting the program; its log goes to build/run/program.log"
+"$bin/VORNApp" 2>"$root/build/run/program.log" &
+program=$!
+trap 'kill $program 2>/dev/null || true' EXIT
+step "The simulated display takes commands here; \"quit\" ends both"
+"$bin/VORNSimulator" --scenario simulator/scenarios/connect.scenario

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# ./test.sh [preset]...   installs what is missing, builds, and runs every test.
+#
+# A preset is dev (the default), asan, tsan or release. Tests run on a virtual screen of their own.
+set -euo pipefail
+source "$(dirname "$0")/tools/common.sh"
+
+case "${1:-}" in
+-h | --help)
+  sed -n '2,4s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
+presets=("$@")
+[ ${#presets[@]} -gt 0 ] || presets=(dev)
+for preset in "${presets[@]}"; do
+  case "$preset" in dev | asan | tsan | release) ;; *) fail "there is no preset '$preset'" "use dev, asan, tsan or release" ;; esac
+done
+
+need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" "${test_packages[@]}"
+cd "$root"
+trap stop_screen EXIT
+start_screen
+for preset in "${presets[@]}"; do
+  mkdir -p build
+  configure_and_build "build/$preset" --preset "$preset"
+  step "Testing $preset"
+  # A session bus of their own keeps the tests away from the user's desktop.
+  dbus-run-session -- ctest --preset "$preset" || fail "tests of $preset" \
+    "run one again with: ctest --preset $preset -R <name> (on a screen); its output is above"
+done

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QDir>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// A home of its own for runs of the real program: no file, socket or setting is shared with the
+/// user's or with another test's.
+class ProgramHome
+{
+public:
+    ProgramHome()
+    {
+        m_environment = QProcessEnvironment::systemEnvironment();
+        const auto folder = [this](const char* variable, const QString& name) {
+            const QString path = m_folder.filePath(name);
+            QDir().mkpath(path);
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            m_environment.insert(QString::fromLatin1(variable), path);
+        };
+        m_environment.insert(QStringLiteral("HOME"), m_folder.path());
+        folder("XDG_STATE_HOME", QStringLiteral("state"));
+        folder("XDG_CONFIG_HOME", QStringLiteral("config"));
+        folder("XDG_DATA_HOME", QStringLiteral("data"));
+        folder("XDG_CACHE_HOME", QStringLiteral("cache"));
+        folder("XDG_RUNTIME_DIR", QStringLiteral("run"));
+        folder("TMPDIR", QStringLiteral("tmp"));
+        m_environment.insert(QStringLiteral("VORN_PORTALHUB_SOCKET"), socketPath());
+    }
+
+    QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
+    QString path() const { return m_folder.path(); }
+
+    /// Starts the program; its log is what it writes to standard error.
+    std::unique_ptr<QProcess> start(const QString& platform) const
+    {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = m_environment;
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+        process->setProcessEnvironment(environment);
+        process->setWorkingDirectory(m_folder.path());
+        process->setProcessChannelMode(QProcess::MergedChannels);
+        process->start(QStringLiteral(VORN_PROGRAM), QStringList());
+        return process;
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QProcessEnvironment m_environment;
+};
+
+/// The display's end of the channel. The program connects to it as the last step of its start.
+class DisplayEnd
+{
+public:
+    explicit DisplayEnd(const ProgramHome& home)
+    {
+        QLocalServer::removeServer(home.socketPath());
+        m_server.listen(home.socketPath());
+    }
+
+    /// Waits until a program has come up; null when none did.
+    QLocalSocket* nextProgram(int patience = 60000)
+    {
+        if (!m_server.hasPendingConnections())
+            QSignalSpy(&m_server, &QLocalServer::newConnection).wait(patience);
+        return m_server.nextPendingConnection();
+    }
+
+private:
+    QLocalServer m_server;
+};

@@ -1,0 +1,123 @@
+#include "ProgramRun.h"
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int Patience = 60000;
+
+bool isRunning(const QProcess& process)
+{
+    return process.state() == QProcess::Running;
+}
+
+void sendSignal(const QProcess& process, int signal)
+{
+    ::kill(static_cast<pid_t>(process.processId()), signal);
+}
+
+} // namespace
+
+/// The real program, started and ended many times.
+class tst_StartAndQuit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void oneOfTwoStartsSurvives();
+    void quitsCleanlyAHundredTimes();
+    void logsItsLifeInOrder();
+};
+
+/// Each round kills the survivor, so that the next one also has a crash's leftovers to clear.
+void tst_StartAndQuit::oneOfTwoStartsSurvives()
+{
+    const ProgramHome home;
+    DisplayEnd display(home);
+    for (int round = 0; round < 20; ++round) {
+        const auto one = home.start(u"offscreen"_s);
+        const auto two = home.start(u"offscreen"_s);
+        QVERIFY2(display.nextProgram(), "no instance came up");
+        QTRY_VERIFY_WITH_TIMEOUT(isRunning(*one) != isRunning(*two), Patience);
+        QProcess& survivor = isRunning(*one) ? *one : *two;
+        QProcess& other = isRunning(*one) ? *two : *one;
+        QCOMPARE(other.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(other.exitCode(), 0);
+        QByteArray log;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (log += survivor.readAll()).contains("onNewConnection]VORNApp reopen!"), Patience);
+        survivor.kill();
+        QVERIFY(survivor.waitForFinished(Patience));
+    }
+}
+
+void tst_StartAndQuit::quitsCleanlyAHundredTimes()
+{
+    const ProgramHome home;
+    DisplayEnd display(home);
+    for (int round = 0; round < 100; ++round) {
+        // The window system's own threads and drawing have to end in order too, but start slowly.
+        const bool isOnScreen = round % 10 == 0;
+        const auto program = home.start(isOnScreen ? u"xcb"_s : u"offscreen"_s);
+        QLocalSocket* const connection = display.nextProgram();
+        QVERIFY2(connection, program->readAll().constData());
+        // Messages under way while it quits.
+        for (int i = 0; i < 50; ++i)
+            connection->write(
+                "1 {\"cmd\":1,\"type\":2,\"volume\":" + QByteArray::number(i) +
+                "}\n0 {\"cmd\":0,\"type\":2,\"isReady\":" + QByteArray::number(i % 2) + "}\n");
+        connection->flush();
+        sendSignal(*program, round % 3 == 0 ? SIGINT : SIGTERM);
+        QVERIFY(program->waitForFinished(Patience));
+        const QByteArray log = program->readAll();
+        QVERIFY2(program->exitStatus() == QProcess::NormalExit && program->exitCode() == 0,
+                 log.right(20000).constData());
+        QCOMPARE(log.count("]thread start"), 3);
+        QCOMPARE(log.count("]thread end"), 3);
+        connection->deleteLater();
+    }
+}
+
+void tst_StartAndQuit::logsItsLifeInOrder()
+{
+    const ProgramHome home;
+    DisplayEnd display(home);
+    const auto program = home.start(u"offscreen"_s);
+    QVERIFY(display.nextProgram());
+    sendSignal(*program, SIGTERM);
+    QVERIFY(program->waitForFinished(Patience));
+    const QByteArray log = program->readAll();
+
+    const QByteArrayList expected{
+        "[main]filepath:",
+        "[main]filename:VORNApp",
+        "[main]logpath:" + home.path().toUtf8() + "/state/VORNApp",
+        "[main]file version:",
+        "[main]product version:",
+        "[LoadCustomFont]fontpath::/fonts/LatoRegular.ttf, fontname:LatoRegular",
+        "[LoadCustomFont]Font family:Lato",
+        "[LoadCustomFont]Loaded font family:Lato as LatoRegular",
+        "[WindowManager::WindowManager]WindowManager",
+        "[TaskQueue::TaskQueue]TaskQueue",
+        "[UdpClient::UdpClient]UdpClient",
+        "[UdpClient::bind]bound to port:49175",
+        "[main]VORNApp quit!!!",
+        "[DeviceControl::~DeviceControl]~DeviceControl",
+        "[UdpClient::~UdpClient]~UdpClient",
+        "[TaskQueue::~TaskQueue]~TaskQueue",
+        "[WindowManager::~WindowManager]~WindowManager",
+    };
+    qsizetype position = 0;
+    for (const QByteArray& line : expected) {
+        const qsizetype found = log.indexOf(line, position);
+        QVERIFY2(found >= 0, (line + " is missing in\n" + log).constData());
+        position = found;
+    }
+    QVERIFY2(!log.contains("[ERROR]") || !log.contains("database"), log.constData());
+}
+
+QTEST_GUILESS_MAIN(tst_StartAndQuit)
+#include "tst_StartAndQuit.moc"

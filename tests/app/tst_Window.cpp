@@ -1,0 +1,176 @@
+#include "ProgramRun.h"
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int Patience = 60000;
+
+/// What a command prints, trimmed.
+QString output(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(Patience);
+    return QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
+}
+
+QString xdotool(const QStringList& arguments)
+{
+    return output(u"xdotool"_s, arguments);
+}
+
+} // namespace
+
+/// The program's window on a real screen with a window manager and a tray, used with the pointer.
+class tst_Window : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void hasNoFrameAndTheRightSize();
+    void minimises();
+    void hidesToTheTrayAndComesBackByDoubleClick();
+    void closingByTheSystemHidesToo();
+    void secondStartBringsItForward();
+    void dragMovesIt();
+
+private:
+    QString mainWindow() const;
+    QString trayWindow() const;
+    void click(int x, int y) const;
+    bool isViewable() const;
+    QByteArray log();
+
+    std::optional<ProgramHome> m_home;
+    std::optional<DisplayEnd> m_display;
+    std::unique_ptr<QProcess> m_program;
+    QByteArray m_log;
+    QString m_window;
+};
+
+void tst_Window::init()
+{
+    m_home.emplace();
+    m_display.emplace(*m_home);
+    m_log.clear();
+    m_program = m_home->start(u"xcb"_s);
+    QVERIFY2(m_display->nextProgram(), log().constData());
+    QTRY_VERIFY_WITH_TIMEOUT(!mainWindow().isEmpty(), Patience);
+    m_window = mainWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
+}
+
+void tst_Window::cleanup()
+{
+    ::kill(static_cast<pid_t>(m_program->processId()), SIGTERM);
+    QVERIFY(m_program->waitForFinished(Patience));
+    QCOMPARE(m_program->exitCode(), 0);
+}
+
+QByteArray tst_Window::log()
+{
+    return m_log += m_program->readAll();
+}
+
+QString tst_Window::mainWindow() const
+{
+    return xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^VORNApp$"_s})
+        .section(u'\n', 0, 0);
+}
+
+/// The icon's own small window, which the tray has taken in.
+QString tst_Window::trayWindow() const
+{
+    const QString found = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s,
+                                   QString::number(m_program->processId())});
+    for (const QString& window : found.split(u'\n', Qt::SkipEmptyParts)) {
+        const QString geometry = xdotool({u"getwindowgeometry"_s, u"--shell"_s, window});
+        const int width = geometry.section(u"WIDTH="_s, 1).section(u'\n', 0, 0).toInt();
+        if (width > 0 && width <= 64)
+            return window;
+    }
+    return {};
+}
+
+void tst_Window::click(int x, int y) const
+{
+    xdotool({u"mousemove"_s, u"--sync"_s, u"--window"_s, m_window, QString::number(x),
+             QString::number(y), u"click"_s, u"1"_s});
+}
+
+bool tst_Window::isViewable() const
+{
+    return output(u"xwininfo"_s, {u"-id"_s, m_window}).contains(u"Map State: IsViewable"_s);
+}
+
+void tst_Window::hasNoFrameAndTheRightSize()
+{
+    const QString information = output(u"xwininfo"_s, {u"-id"_s, m_window});
+    QVERIFY2(information.contains(u"Width: 968"_s), qPrintable(information));
+    QVERIFY2(information.contains(u"Height: 666"_s), qPrintable(information));
+    const QString extents = output(u"xprop"_s, {u"-id"_s, m_window, u"_NET_FRAME_EXTENTS"_s});
+    QVERIFY2(extents.endsWith(u"0, 0, 0, 0"_s), qPrintable(extents));
+}
+
+void tst_Window::minimises()
+{
+    click(968 - 10 - 30 - 8 - 15, 6 + 15);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        output(u"xprop"_s, {u"-id"_s, m_window, u"WM_STATE"_s}).contains(u"Iconic"_s), Patience);
+}
+
+void tst_Window::hidesToTheTrayAndComesBackByDoubleClick()
+{
+    click(968 - 10 - 15, 6 + 15);
+    QTRY_VERIFY_WITH_TIMEOUT(!isViewable(), Patience);
+    QVERIFY(log().contains("[WindowManager::hideToTray]hide to tray"));
+
+    QTRY_VERIFY_WITH_TIMEOUT(!trayWindow().isEmpty(), Patience);
+    const QString icon = trayWindow();
+    xdotool(
+        {u"mousemove"_s, u"--sync"_s, u"--window"_s, icon, u"10"_s, u"10"_s, u"click"_s, u"1"_s});
+    QVERIFY(!isViewable());
+    xdotool({u"click"_s, u"--repeat"_s, u"2"_s, u"--delay"_s, u"60"_s, u"1"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("tray double click"), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
+}
+
+void tst_Window::closingByTheSystemHidesToo()
+{
+    xdotool({u"windowfocus"_s, u"--sync"_s, m_window, u"key"_s, u"alt+F4"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(!isViewable(), Patience);
+    QVERIFY(log().contains("[WindowManager::hideToTray]hide to tray"));
+}
+
+void tst_Window::secondStartBringsItForward()
+{
+    click(968 - 10 - 15, 6 + 15);
+    QTRY_VERIFY_WITH_TIMEOUT(!isViewable(), Patience);
+    const auto second = m_home->start(u"xcb"_s);
+    QVERIFY(second->waitForFinished(Patience));
+    QCOMPARE(second->exitCode(), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
+    // Staying on top lasts for one turn only.
+    QTRY_VERIFY_WITH_TIMEOUT(!output(u"xprop"_s, {u"-id"_s, m_window, u"_NET_WM_STATE"_s})
+                                  .contains(u"_NET_WM_STATE_ABOVE"_s),
+                             Patience);
+}
+
+void tst_Window::dragMovesIt()
+{
+    xdotool({u"windowmove"_s, u"--sync"_s, m_window, u"100"_s, u"100"_s});
+    xdotool({u"mousemove"_s, u"--sync"_s, u"--window"_s, m_window, u"500"_s, u"20"_s,
+             u"mousedown"_s, u"1"_s, u"mousemove_relative"_s, u"--sync"_s, u"40"_s, u"30"_s,
+             u"mousemove_relative"_s, u"--sync"_s, u"40"_s, u"30"_s, u"mouseup"_s, u"1"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        xdotool({u"getwindowgeometry"_s, m_window}).contains(u"Position: 180,160"_s), Patience);
+}
+
+QTEST_GUILESS_MAIN(tst_Window)
+#include "tst_Window.moc"

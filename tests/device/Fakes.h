@@ -1,0 +1,217 @@
+#pragma once
+
+#include "device/CameraReports.h"
+#include "device/DeviceControl.h"
+#include "device/WindowRequests.h"
+#include "launch/ProgramControl.h"
+#include "persistence/FileInfo.h"
+#include "persistence/UserSettings.h"
+
+#include <QJsonDocument>
+#include <QMap>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+// What surrounds DeviceControl, played by objects that remember what they were asked.
+
+class FakeChannel : public MessageChannel
+{
+public:
+    struct Sent {
+        int id;
+        std::string text;
+    };
+
+    void push(int id, const std::string& text) override
+    {
+        {
+            const std::scoped_lock lock(m_mutex);
+            m_sent.push_back({id, text});
+        }
+        if (onPush)
+            onPush(id, text);
+    }
+
+    std::vector<Sent> take()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return std::exchange(m_sent, {});
+    }
+
+    /// Ids of what was sent since the last take.
+    QList<int> takeIds()
+    {
+        QList<int> ids;
+        for (const Sent& sent : take())
+            ids.append(sent.id);
+        return ids;
+    }
+
+    std::function<void(int, const std::string&)> onPush;
+
+private:
+    std::mutex m_mutex;
+    std::vector<Sent> m_sent;
+};
+
+class FakeWindows : public WindowRequests
+{
+public:
+    void askToShow(bool show) override { asked.append(show ? "show" : "hide"); }
+    void askToShowCheckRemote(bool show) override { asked.append(show ? "warn" : "no warning"); }
+
+    QByteArrayList asked;
+};
+
+class FakePrograms : public ProgramControl
+{
+public:
+    bool killProcess(const QString& name) override { return note(u"kill "_s + name); }
+    void keepProcessAlive(const QString& name) override { note(u"keep "_s + name); }
+    bool startProcess(const QString& name, const QStringList& arguments) override
+    {
+        return note(u"start "_s + name + u' ' + arguments.join(u' '));
+    }
+
+    QStringList calls() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_calls;
+    }
+
+private:
+    bool note(const QString& call)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_calls.append(call);
+        return true;
+    }
+
+    mutable std::mutex m_mutex;
+    QStringList m_calls;
+};
+
+class MemorySettings : public UserSettings
+{
+public:
+    QVariant getUserData(const QString& key, const QVariant& defaultValue) override
+    {
+        return values.value(key, defaultValue);
+    }
+    bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) override
+    {
+        if (signIn == m_signIn)
+            values[key] = value;
+        return true;
+    }
+    bool clearUserData() override
+    {
+        values.clear();
+        ++m_signIn;
+        return true;
+    }
+    quint64 currentSignIn() const override { return m_signIn; }
+
+    QMap<QString, QVariant> values;
+
+private:
+    std::atomic<quint64> m_signIn = 1;
+};
+
+class FakeCamera : public CameraReports
+{
+public:
+    void setAutoFraming(bool on, int direction) override { autoFraming = {on, direction}; }
+    void setSmartFraming(bool on, int direction) override { smartFraming = {on, direction}; }
+    void setCameraSwitch(int sw) override { cameraSwitch = sw; }
+
+    std::pair<bool, int> autoFraming{};
+    std::pair<bool, int> smartFraming{};
+    int cameraSwitch = -1;
+};
+
+/// Reports the three statuses that the test sets, once a pass.
+class FakeDevices : public LocalDevices
+{
+public:
+    bool ReadJsonConfig(const QString& path) override
+    {
+        rulesPath = path;
+        return true;
+    }
+    void checkDevices(LocalDeviceStatus& status) override
+    {
+        status.setVornMicStatus(mic);
+        status.setVornCamStatus(cam);
+        status.setVornSpkStatus(spk);
+        ++passes;
+    }
+
+    QString rulesPath;
+    std::atomic<int> mic = 0;
+    std::atomic<int> cam = 0;
+    std::atomic<int> spk = 0;
+    std::atomic<int> passes = 0;
+};
+
+/// A DeviceControl among fakes. Its tasks are collected from addTask, none is performed.
+struct DeviceWorld {
+    /// @param ini  content of config.ini
+    explicit DeviceWorld(const QByteArray& ini = {})
+    {
+        QFile file(folder.filePath(QStringLiteral("config.ini")));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(ini);
+        file.close();
+        config.emplace(file.fileName());
+    }
+
+    DeviceControl& start()
+    {
+        auto fakeDevices = std::make_unique<FakeDevices>();
+        devices = fakeDevices.get();
+        device.emplace(
+            DeviceControl::Services{.config = *config,
+                                    .tasks = {},
+                                    .channel = channel,
+                                    .windows = windows,
+                                    .programs = programs,
+                                    .versionValue =
+                                        [this](const QString& name) {
+                                            const std::scoped_lock lock(versionsMutex);
+                                            return versions.value(name);
+                                        },
+                                    .userSettings = [this]() -> UserSettings& { return settings; },
+                                    .camera = [this]() -> CameraReports& { return camera; },
+                                    .localDevices = std::move(fakeDevices),
+                                    .rulesPath = folder.filePath(QStringLiteral("config.json")),
+                                    .executablePath = QStringLiteral("/opt/VORNApp")},
+            DeviceControl::Timing{.statusPass = std::chrono::milliseconds(1),
+                                  .pauseAfterUpdaterKill = std::chrono::milliseconds(20)});
+        return *device;
+    }
+
+    void setVersion(const QString& name, const QString& value)
+    {
+        const std::scoped_lock lock(versionsMutex);
+        versions[name] = value;
+    }
+
+    QTemporaryDir folder;
+    FakeChannel channel;
+    FakeWindows windows;
+    FakePrograms programs;
+    MemorySettings settings;
+    FakeCamera camera;
+    FakeDevices* devices = nullptr;
+    std::mutex versionsMutex;
+    QMap<QString, QString> versions;
+    std::optional<FileInfo> config;
+    std::optional<DeviceControl> device;
+};
