@@ -32,7 +32,7 @@ public:
     void checkDevices(LocalDeviceStatus& status) override;
 
     /// The largest rule file that is read, in bytes.
-    static constexpr qsizetype MaxConfigSize = 256 * 1024;
+    static constexpr qsizetype MaxConfigSize = 262'144;
 
 private:
     /// The rules of one kind of device and how far they have been compared with the present list.

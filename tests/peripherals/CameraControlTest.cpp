@@ -1,7 +1,6 @@
-#include "LogCapture.h"
-
-#include "device/MessageChannel.h"
 #include "peripherals/CameraControl.h"
+#include "device/MessageChannel.h"
+#include "support/LogCapture.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -86,9 +85,10 @@ void CameraControlTest::sendsEachCommand()
 
     const QStringList records = log.take();
     QCOMPARE(records.size(), 6);
-    QVERIFY(records[0].startsWith(u"CameraControl::scale|send to channel:{\"cmd\":18,"_s));
-    QVERIFY(records[2].startsWith(u"CameraControl::preset|send to channel:{\"cmd\":19,"_s));
-    QVERIFY(records[5].startsWith(u"CameraControl::requestStatus|send to channel:{\"cmd\":21,"_s));
+    QVERIFY(records[0].startsWith(u"I CameraControl::scale send to channel:{\"cmd\":18,"_s));
+    QVERIFY(records[2].startsWith(u"I CameraControl::preset send to channel:{\"cmd\":19,"_s));
+    QVERIFY(
+        records[5].startsWith(u"I CameraControl::requestStatus send to channel:{\"cmd\":21,"_s));
 }
 
 void CameraControlTest::sendsAChangeOfFramingOnce()
@@ -114,10 +114,11 @@ void CameraControlTest::sendsAChangeOfFramingOnce()
     const QStringList records = log.take();
     QCOMPARE(records.size(), 8);
     QCOMPARE(records[0],
-             u"CameraControl::setAutoFraming|direction:0, m_autoFraming:0, newAutoFraming:1"_s);
-    QVERIFY(records[1].startsWith(u"CameraControl::setAutoFraming|send to channel:"_s));
-    QCOMPARE(records[2],
-             u"CameraControl::setSmartFraming|direction:0, m_smartFraming:0, newSmartFraming:1"_s);
+             u"I CameraControl::setAutoFraming direction:0, m_autoFraming:0, newAutoFraming:1"_s);
+    QVERIFY(records[1].startsWith(u"I CameraControl::setAutoFraming send to channel:"_s));
+    QCOMPARE(
+        records[2],
+        u"I CameraControl::setSmartFraming direction:0, m_smartFraming:0, newSmartFraming:1"_s);
 }
 
 void CameraControlTest::repeatsSmartFramingWithAutoFraming()
@@ -151,7 +152,7 @@ void CameraControlTest::adoptsReportsWithoutSending()
     QCOMPARE(autoChanged.count(), 1);
     QCOMPARE(switched, (QList<QList<QVariant>>{{2}, {2}}));
     QVERIFY(channel.take().isEmpty());
-    QCOMPARE(log.take().last(), u"CameraControl::setCameraSwitch|camera switch:2"_s);
+    QCOMPARE(log.take().last(), u"I CameraControl::setCameraSwitch camera switch:2"_s);
 }
 
 void CameraControlTest::tellsWithoutHoldingALock()

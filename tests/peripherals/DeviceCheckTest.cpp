@@ -1,7 +1,6 @@
-#include "LogCapture.h"
-
 #include "peripherals/DeviceCheck.h"
 #include "peripherals/DeviceRules.h"
+#include "support/LogCapture.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -187,7 +186,7 @@ void DeviceCheckTest::logsTheRules()
     QVERIFY(check.ReadJsonConfig(path));
 
     QStringList records = log.take();
-    const QString prefix = u"DeviceCheck::ReadJsonConfig|"_s;
+    const QString prefix = u"I DeviceCheck::ReadJsonConfig "_s;
     QCOMPARE(records.takeFirst(), prefix + path + u'\n' + QString::fromUtf8(json));
     const QString shorter = records.takeFirst();
     const QString longer = records.takeLast();
@@ -203,7 +202,7 @@ void DeviceCheckTest::refusesUnreadableFiles()
     DeviceCheck check(pc.scan());
     Statuses statuses;
     LogCapture log;
-    const QString prefix = u"DeviceCheck::ReadJsonConfig|"_s;
+    const QString prefix = u"E DeviceCheck::ReadJsonConfig "_s;
 
     // Also forgets the rules of before.
     QVERIFY(check.ReadJsonConfig(writeConfig(oneRule("vornmic", "HDMI"))));
@@ -286,7 +285,7 @@ void DeviceCheckTest::skipsAFailingClass()
     LogCapture log;
     check.checkDevices(statuses);
     QVERIFY(statuses.are(0, 0, 1));
-    QCOMPARE(log.take(), QStringList{u"DeviceCheck::scanDevices|SetupDiGetClassDevs err:13"_s});
+    QCOMPARE(log.take(), QStringList{u"E DeviceCheck::scanDevices SetupDiGetClassDevs err:13"_s});
 
     pc.failing.clear();
     pc.devices[DeviceClass::Camera] << DisplayCam;
