@@ -11,20 +11,12 @@
 #include <glog/logging.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <source_location>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
-
-std::string environmentValue(const char* name)
-{
-    const char* const value = std::getenv(name);
-    return value ? value : "";
-}
 
 QFileInfoList matchingFiles(const QString& folder, const QString& nameFilter)
 {
@@ -38,7 +30,7 @@ QString targetPath(const QString& folder, const QString& name)
 
 } // namespace
 
-std::string FLAGS_log_backup_dir = environmentValue("GLOG_log_backup_dir");
+std::string FLAGS_log_backup_dir = qgetenv("GLOG_log_backup_dir").toStdString();
 
 void InitLog(const QString& logDir, const QString& backupDir, const QString& fileName,
              int keepCount)
@@ -49,9 +41,8 @@ void InitLog(const QString& logDir, const QString& backupDir, const QString& fil
     if (firstCall) { // again would push our own crash handlers aside
         google::InstallFailureSignalHandler();
         google::InstallFailureWriter([](const char* text, std::size_t length) {
-            const auto where = std::source_location::current();
             const std::string_view line(text, std::find(text, text + length, '\0'));
-            Log::write(Log::Severity::Error, where.function_name(), line, where);
+            Log::write(Log::Severity::Error, __func__, line);
         });
     }
 

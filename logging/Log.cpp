@@ -42,8 +42,8 @@ std::string_view currentFunction() noexcept
     return t_function ? std::string_view(t_function) : std::string_view();
 }
 
-void write(Severity severity, const char* function, std::string_view text,
-           const std::source_location& where) noexcept
+void write(Severity severity, const char* function, std::string_view text, const char* file,
+           int line) noexcept
 {
     if (t_function) {
         // A crash handler interrupted this thread inside glog, whose lock it still holds.
@@ -55,8 +55,7 @@ void write(Severity severity, const char* function, std::string_view text,
     // glog asks for the prefix while it constructs its message, hence the name is set around it.
     t_function = function;
     try {
-        google::LogMessage record(where.file_name(), static_cast<int>(where.line()),
-                                  glogSeverity(severity));
+        google::LogMessage record(file, line, glogSeverity(severity));
         record.stream().clear(); // see the prefix callback in LogBackend.cpp
         record.stream().write(text.data(), static_cast<std::streamsize>(text.size()));
     } catch (...) {
@@ -65,17 +64,9 @@ void write(Severity severity, const char* function, std::string_view text,
     t_function = nullptr;
 }
 
-Message::Message(Severity severity, const char* function,
-                 const std::source_location& where) noexcept
-    : m_severity(severity)
-    , m_function(function)
-    , m_where(where)
-{
-}
-
 Message::~Message()
 {
-    write(m_severity, m_function, m_text, m_where);
+    write(m_severity, m_function, m_text, m_file, m_line);
 }
 
 Message& Message::operator<<(std::string_view text)

@@ -5,7 +5,6 @@
 #include <QStringView>
 
 #include <cstdint>
-#include <source_location>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -28,7 +27,13 @@ class Message
 {
 public:
     /// @param function  qualified name as `Class::method`; has to outlive the message (a literal).
-    Message(Severity severity, const char* function, const std::source_location& where) noexcept;
+    Message(Severity severity, const char* function, const char* file, int line) noexcept
+        : m_severity(severity)
+        , m_function(function)
+        , m_file(file)
+        , m_line(line)
+    {
+    }
     ~Message();
     Message(const Message&) = delete;
     Message& operator=(const Message&) = delete;
@@ -64,26 +69,29 @@ private:
 
     Severity m_severity;
     const char* m_function;
-    std::source_location m_where;
+    const char* m_file;
+    int m_line;
     std::string m_text;
 };
 
-[[nodiscard]] inline Message
-info(const char* function, const std::source_location& where = std::source_location::current())
+// The caller's file and line come from the compilers' builtins: the clang tools of the oldest
+// system we build on do not know std::source_location.
+[[nodiscard]] inline Message info(const char* function, const char* file = __builtin_FILE(),
+                                  int line = __builtin_LINE())
 {
-    return {Severity::Info, function, where};
+    return {Severity::Info, function, file, line};
 }
 
-[[nodiscard]] inline Message
-warning(const char* function, const std::source_location& where = std::source_location::current())
+[[nodiscard]] inline Message warning(const char* function, const char* file = __builtin_FILE(),
+                                     int line = __builtin_LINE())
 {
-    return {Severity::Warning, function, where};
+    return {Severity::Warning, function, file, line};
 }
 
-[[nodiscard]] inline Message
-error(const char* function, const std::source_location& where = std::source_location::current())
+[[nodiscard]] inline Message error(const char* function, const char* file = __builtin_FILE(),
+                                   int line = __builtin_LINE())
 {
-    return {Severity::Error, function, where};
+    return {Severity::Error, function, file, line};
 }
 
 /// Writes one record at once, for text that is already whole. Takes no memory from the heap, so
@@ -91,7 +99,7 @@ error(const char* function, const std::source_location& where = std::source_loca
 /// standard error only.
 /// @param function  as for Message.
 void write(Severity severity, const char* function, std::string_view text,
-           const std::source_location& where = std::source_location::current()) noexcept;
+           const char* file = __builtin_FILE(), int line = __builtin_LINE()) noexcept;
 
 /// Qualified function name of the record that glog is writing on this thread; empty for records
 /// that did not come through this header. The line prefix reads it.

@@ -57,8 +57,10 @@ void writeFromThreads()
 {
     FLAGS_max_log_size = 1;
     const std::string padding(200, '.');
+    constexpr int threadCount = 4;
     std::vector<std::thread> threads;
-    for (int number = 0; number < 4; ++number) {
+    threads.reserve(threadCount);
+    for (int number = 0; number < threadCount; ++number) {
         threads.emplace_back([number, &padding] {
             for (int count = 0; count < 3000; ++count)
                 Log::info("Worker::run") << number << ' ' << count << padding;

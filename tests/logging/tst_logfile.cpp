@@ -64,6 +64,7 @@ void tst_LogFile::losesNothingWhenThreadsRollWithinOneSecond()
     file.setDestination(folder.filePath(u"App"_s), u".log"_s);
 
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int number = 0; number < threadCount; ++number) {
         threads.emplace_back([&file, number] {
             for (int count = 0; count < recordCount; ++count) {
