@@ -150,9 +150,9 @@ void tst_CrashHandler::knowsTheCalendar()
     // A little over a day at a time, through leap years of every kind.
     for (qint64 seconds = 0; seconds < 8'000'000'000; seconds += 90'061) {
         const auto time = platform::localTime(static_cast<std::time_t>(seconds), -3'600);
-        const auto expected = QDateTime::fromSecsSinceEpoch(seconds - 3'600, Qt::UTC);
+        const auto expected = QDateTime::fromSecsSinceEpoch(seconds - 3'600, QTimeZone::utc());
         const QDateTime actual(QDate(time.year, time.month, time.day),
-                               QTime(time.hour, time.minute, time.second), Qt::UTC);
+                               QTime(time.hour, time.minute, time.second), QTimeZone::utc());
         if (actual != expected)
             QCOMPARE(actual, expected);
     }

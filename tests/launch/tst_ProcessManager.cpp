@@ -1,0 +1,386 @@
+#include "launch/InstalledVersions.h"
+#include "launch/ProcessManager.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
+#include "tests/support/LogCapture.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString kZoomKey =
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\ZoomUMX"_s;
+const QString kTeamsKey =
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\ms-teams.exe"_s;
+const QString kTeamsUrlKey =
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Classes\\TeamsURL\\shell\\open\\command"_s;
+const QString kDefault = u"Default"_s;
+
+} // namespace
+
+/// Every folder that the programs are looked for in is a fresh one of this test.
+class tst_ProcessManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void startsAPath();
+    void startsAProgramBesideTheApplication();
+    void killsByName();
+    void keepsAProgramAlive();
+    void readsPathsFromTheRegistry_data();
+    void readsPathsFromTheRegistry();
+    void looksForTheZoomShortcut_data();
+    void looksForTheZoomShortcut();
+    void resolvesShortcuts();
+    void startsZoom_data();
+    void startsZoom();
+    void startsTheFirstTeamsThatWill();
+    void logsWhereTeamsIsNot();
+    void readsVersions();
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_home->filePath(name); }
+    QString write(const QString& name, const QByteArray& text) const;
+    // A program that notes how it was called; `waits` until it is killed.
+    QString install(const QString& name, bool waits = false);
+    // A file that is there but cannot be started.
+    QString installBroken(const QString& name) const { return write(name, "not a program"); }
+    // How the programs were called: name and number of arguments, then the arguments.
+    [[nodiscard]] QStringList calls() const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<LogCapture> m_log;
+    QByteArray m_path;
+    QString m_waiting; // a program that may still run
+};
+
+void tst_ProcessManager::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    m_path = qgetenv("PATH");
+    qputenv("HOME", m_home->path().toUtf8());
+    qputenv("XDG_DATA_HOME", path(u"data"_s).toUtf8());
+    qputenv("XDG_DATA_DIRS", path(u"system"_s).toUtf8());
+    qputenv("XDG_CONFIG_HOME", path(u"config"_s).toUtf8());
+    qputenv("VORN_TEST_CALLS", path(u"calls"_s).toUtf8());
+    qputenv("PATH", path(u"bin"_s).toUtf8() + ':' + m_path);
+    m_log = std::make_unique<LogCapture>();
+}
+
+void tst_ProcessManager::cleanup()
+{
+    m_log.reset();
+    qputenv("PATH", m_path);
+    if (!m_waiting.isEmpty())
+        ProcessManager::killProcess(std::exchange(m_waiting, {}));
+}
+
+QString tst_ProcessManager::write(const QString& name, const QByteArray& text) const
+{
+    const QString full = QDir::isAbsolutePath(name) ? name : path(name);
+    QDir().mkpath(QFileInfo(full).path());
+    QFile file(full);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? full : QString();
+}
+
+QString tst_ProcessManager::install(const QString& name, bool waits)
+{
+    if (waits) {
+        m_waiting = QFileInfo(name).fileName();
+        ::mkfifo(QFile::encodeName(path(u"calls.pipe"_s)).constData(), 0600);
+    }
+    const QString program = write(
+        name, "#!/bin/sh\necho \"${0##*/} $#$(printf ' [%s]' \"$@\")\" >>\"$VORN_TEST_CALLS\"\n" +
+                  QByteArray(waits ? "exec 3<>\"$VORN_TEST_CALLS.pipe\"\nread line <&3\n" : ""));
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    return program;
+}
+
+QStringList tst_ProcessManager::calls() const
+{
+    QFile file(path(u"calls"_s));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void tst_ProcessManager::startsAPath()
+{
+    const QString program = install(u"some folder/program"_s);
+    QVERIFY(ProcessManager::startProcess(program));
+    QCOMPARE(m_log->take(),
+             (QStringList{u"I ProcessManager::startProcess path:"_s + program,
+                          u"I ProcessManager::startProcess started process success"_s}));
+    QTRY_COMPARE(calls(), QStringList{u"program 0 []"_s});
+
+    const QString missing = path(u"missing"_s);
+    QVERIFY(!ProcessManager::startProcess(missing));
+    QCOMPARE(m_log->take(),
+             (QStringList{u"I ProcessManager::startProcess path:"_s + missing,
+                          u"E ProcessManager::startProcess started process failed:"_s}));
+}
+
+void tst_ProcessManager::startsAProgramBesideTheApplication()
+{
+    const QString name = u"vorn-test-beside-%1"_s.arg(QCoreApplication::applicationPid());
+    const QString beside = install(QCoreApplication::applicationDirPath() + u'/' + name);
+    install(u"bin/"_s + name + "-in-path"_L1);
+
+    const bool started = ProcessManager::startProcess(name + ".exe"_L1, {u"update"_s, u"/x y"_s});
+    QVERIFY(started);
+    QTRY_COMPARE(calls(), QStringList{name + " 2 [update] [/x y]"_L1});
+    QVERIFY(QFile::remove(beside));
+    QVERIFY(ProcessManager::startProcess(name + "-in-path.exe"_L1, {u"a"_s, QString()}));
+    QTRY_COMPARE(calls().value(1), name + "-in-path 2 [a] []"_L1);
+    QVERIFY(!ProcessManager::startProcess(name + ".exe"_L1, {u"a"_s, u"b"_s}));
+
+    const QString function = u" ProcessManager::startProcess started process "_s;
+    QCOMPARE(m_log->take(),
+             (QStringList{u'I' + function + "success, "_L1 + name + ".exe update /x y"_L1,
+                          u'I' + function + "success, "_L1 + name + "-in-path.exe a "_L1,
+                          u'E' + function + "failed, "_L1 + name + ".exe a b"_L1}));
+}
+
+void tst_ProcessManager::killsByName()
+{
+    const QString name = u"vorn-test-kill-%1"_s.arg(QCoreApplication::applicationPid());
+    QVERIFY(ProcessManager::startProcess(install(u"bin/"_s + name, true)));
+    QTRY_COMPARE(calls().size(), 1);
+    m_log->take();
+
+    QVERIFY(ProcessManager::killProcess(name + ".exe"_L1));
+    QCOMPARE(m_log->take(),
+             QStringList{u"E ProcessManager::killProcess "_s + name + ".exe killed success"_L1});
+    QVERIFY(!ProcessManager::killProcess(name + ".exe"_L1));
+    const QStringList lines = m_log->take();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(lines.first().startsWith(u"E ProcessManager::killProcess "_s + name +
+                                     ".exe killed failed:"_L1));
+    QVERIFY(!lines.first().endsWith(u':'));
+}
+
+void tst_ProcessManager::keepsAProgramAlive()
+{
+    const QString name = u"vorn-test-alive-%1"_s.arg(QCoreApplication::applicationPid());
+    install(u"bin/"_s + name, true);
+
+    ProcessManager::keepProcessAlive(name + ".exe"_L1);
+    QTRY_COMPARE(calls(), QStringList{name + " 2 [] []"_L1}); // two empty arguments
+    QCOMPARE(m_log->take().size(), 1);
+
+    ProcessManager::keepProcessAlive(name + ".exe"_L1);
+    QVERIFY(m_log->take().isEmpty());
+    QCOMPARE(calls().size(), 1);
+
+    QVERIFY(ProcessManager::killProcess(name));
+    ProcessManager::keepProcessAlive(name + ".exe"_L1);
+    QTRY_COMPARE(calls().size(), 2);
+    QVERIFY(ProcessManager::killProcess(name));
+}
+
+void tst_ProcessManager::readsPathsFromTheRegistry_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("expected");
+    const QString teams = u"C:\\Program Files\\App\\Teams.exe"_s;
+    QTest::newRow("command line") << u"\"%1\" \"%2\""_s.arg(teams, u"%1"_s) << teams;
+    QTest::newRow("icon") << u"%1,0"_s.arg(teams) << teams;
+    QTest::newRow("plain, other case") << u"d:/zoom/ZOOM.EXE"_s << u"d:/zoom/ZOOM.EXE"_s;
+    QTest::newRow("first of two") << u"C:\\a.exe.b.exe"_s << u"C:\\a.exe"_s;
+    QTest::newRow("opened quote only") << u"\"C:\\a b.exe"_s << u"C:\\a b.exe"_s;
+    QTest::newRow("quote inside") << u"C:\\a\"b.exe"_s << u"C:\\a\"b.exe"_s;
+    QTest::newRow("no drive") << u"Teams.exe"_s << u"Teams.exe"_s;
+    QTest::newRow("quoted, no drive") << u"\"/opt/zoom\" %U"_s << u"\"/opt/zoom\" %U"_s;
+    QTest::newRow("two letters") << u"CC:\\a.exe"_s << u"CC:\\a.exe"_s;
+}
+
+void tst_ProcessManager::readsPathsFromTheRegistry()
+{
+    QFETCH(QString, value);
+    QFETCH(QString, expected);
+    const QString begin =
+        u"I ProcessManager::readPathFromRegist REG:"_s + kTeamsUrlKey + u"\\Default, value:"_s;
+    QString found;
+    QVERIFY(!ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QCOMPARE(m_log->take(),
+             (QStringList{begin, u"E ProcessManager::readPathFromRegist value not exist!"_s}));
+
+    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, value));
+    QVERIFY(!ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QCOMPARE(found, expected);
+    QCOMPARE(m_log->take(),
+             (QStringList{begin + value, u"E ProcessManager::readPathFromRegist path:"_s +
+                                             expected + " not exist!"_L1}));
+
+    const QString existing = write(u"here"_s, "");
+    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, existing));
+    QVERIFY(ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QCOMPARE(found, existing);
+}
+
+void tst_ProcessManager::looksForTheZoomShortcut_data()
+{
+    QTest::addColumn<QStringList>("existing"); // below the home folder, in the order of preference
+    QTest::addColumn<int>("errors");
+    const QString menu = u"data/applications/Zoom/Zoom Workplace.desktop"_s;
+    const QString desktop = u"Desktop/Zoom Workplace.desktop"_s;
+    const QString ownMenu = u"data/applications/Zoom Workplace.desktop"_s;
+    const QString package = u"system/applications/Zoom.desktop"_s;
+    QTest::newRow("start menu") << QStringList{menu, desktop, ownMenu, package} << 0;
+    QTest::newRow("desktop") << QStringList{desktop, ownMenu, package} << 1;
+    QTest::newRow("menu without folder") << QStringList{ownMenu, package} << 2;
+    QTest::newRow("package") << QStringList{package} << 2;
+    QTest::newRow("none") << QStringList{} << 2;
+}
+
+void tst_ProcessManager::looksForTheZoomShortcut()
+{
+    QFETCH(QStringList, existing);
+    QFETCH(int, errors);
+    for (const QString& name : existing)
+        write(name, "");
+
+    QString shortcut;
+    QCOMPARE(ProcessManager::findZoomShortcut(shortcut), !existing.isEmpty());
+    QCOMPARE(shortcut, existing.isEmpty() ? QString() : path(existing.first()));
+
+    const QString function = u" ProcessManager::findZoomShortcut "_s;
+    const QStringList lines{u'I' + function + "findZoomShortcut"_L1,
+                            u'E' + function + "zoomAppDir:"_L1 +
+                                path(u"data/applications/Zoom not exist!"_s),
+                            u'E' + function + "desktopShortcut:"_L1 +
+                                path(u"Desktop/Zoom Workplace.desktop not exist!"_s)};
+    QCOMPARE(m_log->take(), lines.first(1 + errors));
+
+    // The folder alone is not enough.
+    QDir().mkpath(path(u"data/applications/Zoom"_s));
+    if (errors > 0) {
+        ProcessManager::findZoomShortcut(shortcut);
+        QCOMPARE(m_log->take().value(1),
+                 u'E' + function + "shortcut:"_L1 +
+                     path(u"data/applications/Zoom/Zoom Workplace.desktop not exist!"_s));
+    }
+}
+
+void tst_ProcessManager::resolvesShortcuts()
+{
+    const QString function = u"E ProcessManager::getShortcutTarget "_s;
+    const QString program = install(u"opt/my zoom"_s);
+    const QString good =
+        write(u"good.desktop"_s, "[Desktop Entry]\nExec=\"" + program.toUtf8() + "\" %U\n");
+    QString target;
+    QVERIFY(ProcessManager::getShortcutTarget(good, target));
+    QCOMPARE(target, program);
+    QVERIFY(m_log->take().isEmpty());
+
+    target.clear();
+    const QString stale = write(u"stale.desktop"_s, "[Desktop Entry]\nExec=/opt/gone %U\n");
+    QVERIFY(!ProcessManager::getShortcutTarget(stale, target));
+    QVERIFY(target.isEmpty());
+    QCOMPARE(m_log->take(), QStringList{function + "output:/opt/gone not exist!"_L1});
+
+    QVERIFY(!ProcessManager::getShortcutTarget(write(u"bad.desktop"_s, "?"), target));
+    const QStringList lines = m_log->take();
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.first(), function + "Script failed with code:1"_L1);
+    QVERIFY(lines.last().startsWith(function + "Error output:"_L1));
+}
+
+void tst_ProcessManager::startsZoom_data()
+{
+    QTest::addColumn<QString>("registered"); // "good", "broken" or empty
+    QTest::addColumn<bool>("hasShortcut");
+    QTest::addColumn<QString>("started");
+    QTest::newRow("registry") << u"good"_s << true << u"good 0 []"_s;
+    QTest::newRow("broken registry") << u"broken"_s << true << u"shortcut 0 []"_s;
+    QTest::newRow("shortcut") << QString() << true << u"shortcut 0 []"_s;
+    QTest::newRow("broken, no shortcut") << u"broken"_s << false << QString();
+    QTest::newRow("nothing") << QString() << false << QString();
+}
+
+void tst_ProcessManager::startsZoom()
+{
+    QFETCH(QString, registered);
+    QFETCH(bool, hasShortcut);
+    QFETCH(QString, started);
+    install(u"zoom/good"_s);
+    installBroken(u"zoom/broken"_s);
+    if (!registered.isEmpty())
+        QVERIFY(platform::writeRegistry(kZoomKey, u"DisplayIcon"_s, path(u"zoom/"_s + registered)));
+    if (hasShortcut)
+        write(u"Desktop/Zoom Workplace.desktop"_s,
+              "[Desktop Entry]\nExec=" + install(u"zoom/shortcut"_s).toUtf8() + '\n');
+
+    QCOMPARE(ProcessManager::startZoom(), !started.isEmpty());
+    if (!started.isEmpty())
+        QTRY_COMPARE(calls(), QStringList{started});
+}
+
+void tst_ProcessManager::startsTheFirstTeamsThatWill()
+{
+    QVERIFY(!ProcessManager::startTeams());
+
+    // Every candidate is there; each in turn turns out not to start.
+    const QStringList candidates{
+        u"registered/one"_s, u"registered/two"_s, u"data/Microsoft/WindowsApps/ms-teams"_s,
+        u"data/Microsoft/Teams/current/Teams"_s, u"data/Microsoft/Teams/previous/Teams"_s};
+    for (const QString& candidate : candidates)
+        install(candidate);
+    QVERIFY(platform::writeRegistry(kTeamsKey, kDefault, path(candidates[0])));
+    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, path(candidates[1])));
+    m_log->take();
+
+    for (qsizetype broken = 0; broken < candidates.size(); ++broken) {
+        QVERIFY(ProcessManager::startTeams());
+        const QString expected =
+            u"I ProcessManager::startProcess path:"_s + path(candidates[broken]);
+        QCOMPARE(m_log->take().filter(u"startProcess path:"_s).last(), expected);
+        QTRY_COMPARE(calls().size(), broken + 1); // it has read its file
+        QFile::remove(path(candidates[broken]));
+        installBroken(candidates[broken]);
+    }
+    QVERIFY(!ProcessManager::startTeams());
+}
+
+void tst_ProcessManager::logsWhereTeamsIsNot()
+{
+    const QString function = u"E ProcessManager::findTeamsPath "_s;
+    const QString folder = path(u"data/Microsoft/Teams/current"_s);
+    QString found;
+    QVERIFY(!ProcessManager::findTeamsPath(folder, u"Teams"_s, found));
+    QCOMPARE(m_log->take(), QStringList{function + "dir:"_L1 + folder + " not exist!"_L1});
+
+    QDir().mkpath(folder);
+    QVERIFY(!ProcessManager::findTeamsPath(folder, u"Teams"_s, found));
+    QCOMPARE(m_log->take(), QStringList{function + "path:"_L1 + folder + "/Teams not exist!"_L1});
+    const QString program = install(u"data/Microsoft/Teams/current/Teams"_s);
+    QVERIFY(ProcessManager::findTeamsPath(folder + "/../current"_L1, u"Teams"_s, found));
+    QCOMPARE(QFileInfo(found).canonicalFilePath(), QFileInfo(program).canonicalFilePath());
+}
+
+void tst_ProcessManager::readsVersions()
+{
+    QVERIFY(installedVersionValue(u"version"_s).isEmpty());
+    QVERIFY(
+        platform::writeRegistry(u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s,
+                                u"version"_s, u"1.2.10"_s));
+    QCOMPARE(installedVersionValue(u"version"_s), u"1.2.10"_s);
+    QVERIFY(installedVersionValue(u"newver"_s).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_ProcessManager)
+#include "tst_ProcessManager.moc"
