@@ -18,7 +18,7 @@ namespace
 constexpr int kDefaultInterval = 5000;
 constexpr int kLongestInterval = 24 * 60 * 60 * 1000;
 // A real file has a dozen lines. QSettings would load whatever size it finds.
-constexpr qint64 kLargestConfig = 1024 * 1024;
+constexpr qint64 kLargestConfig = 1 << 20;
 
 std::atomic<FileInfo*> s_instance{nullptr};
 

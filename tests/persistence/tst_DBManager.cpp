@@ -194,11 +194,11 @@ void TestDBManager::unusableFileIsLogged()
 
 void TestDBManager::otherUsersCannotRead()
 {
+    if (QSysInfo::kernelType() == u"winnt")
+        return; // Folders decide there.
     const DBManager db(m_path);
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-#ifndef Q_OS_WIN
     QVERIFY(!(QFile::permissions(m_path) & others));
-#endif
 }
 
 void TestDBManager::failedStatementIsLogged()

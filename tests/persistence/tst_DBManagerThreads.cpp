@@ -1,7 +1,8 @@
-#include "launch/MeetingLauncher.h"
 #include "persistence/DBManager.h"
 #include "persistence/FileInfo.h"
 #include "persistence/StandardTasks.h"
+#include "tests/persistence/FakeLauncher.h"
+#include "tests/persistence/Poster.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -11,7 +12,6 @@
 #include <QTest>
 #include <QThread>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -22,14 +22,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-class NoLauncher : public MeetingLauncher
-{
-public:
-    bool startZoom() override { return false; }
-    bool startTeams() override { return false; }
-    bool openGoogleMeeting() override { return true; }
-};
-
 int rows()
 {
     QSqlQuery query(u"SELECT count(*) FROM user_settings"_s);
@@ -37,36 +29,6 @@ int rows()
 }
 
 } // namespace
-
-/// Posts to a queue on a thread of its own, as the device state does.
-class Poster : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Poster(TaskQueue::Actions actions)
-    {
-        actions.emplace_back(u"drained"_s, [this](const QVariantList&) { emit drained(); });
-        m_queue = std::make_unique<TaskQueue>(std::move(actions));
-        m_queue->moveToThread(&m_thread);
-        connect(this, &Poster::addTask, m_queue.get(), &TaskQueue::addTask);
-        m_thread.start();
-    }
-    ~Poster() override
-    {
-        m_thread.quit();
-        m_thread.wait();
-    }
-    Q_DISABLE_COPY_MOVE(Poster)
-
-signals:
-    void addTask(QString task, QVariantList args);
-    void drained();
-
-private:
-    QThread m_thread;
-    std::unique_ptr<TaskQueue> m_queue;
-};
 
 class TestDBManagerThreads : public QObject
 {
@@ -134,7 +96,7 @@ void TestDBManagerThreads::connectionEndsWithItsThread()
 void TestDBManagerThreads::threadOutlivesStore()
 {
     std::unique_ptr<DBManager> db;
-    NoLauncher launcher;
+    FakeLauncher launcher;
     FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
     {
         Poster poster(standardTasks(
@@ -144,7 +106,7 @@ void TestDBManagerThreads::threadOutlivesStore()
             db = std::make_unique<DBManager>(path);
             emit poster.addTask(u"saveDB"_s, {u"path"_s, path});
             emit poster.addTask(u"drained"_s, {});
-            QVERIFY(drained.wait());
+            QVERIFY(drained.wait(30'000));
             QCOMPARE(db->getUserData(u"path"_s, {}).toString(), path);
             db.reset();
         }
@@ -156,14 +118,14 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
 {
     constexpr int kRounds = 100;
     DBManager db(m_path);
-    NoLauncher launcher;
+    FakeLauncher launcher;
     FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
     Poster poster(standardTasks(
         fileInfo, [&db]() -> UserSettings& { return db; }, launcher));
     QSignalSpy drained(&poster, &Poster::drained);
     for (int round = 0; round < kRounds; ++round) {
         const quint64 signIn = db.currentSignIn();
-        const int posted = QRandomGenerator::global()->bounded(1, 10);
+        const int posted = QRandomGenerator::global()->bounded(1, 7);
         for (int i = 0; i < posted; ++i)
             emit poster.addTask(u"saveDB"_s, {u"key%1"_s.arg(i), round, signIn});
         // Let the writer get anywhere between its first and its last write.
@@ -172,7 +134,7 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
         QVERIFY(db.clearUserData());
         emit poster.addTask(u"saveDB"_s, {u"next"_s, round, db.currentSignIn()});
         emit poster.addTask(u"drained"_s, {});
-        QVERIFY(drained.wait());
+        QVERIFY(drained.wait(30'000));
         QCOMPARE(rows(), 1);
         QCOMPARE(db.getUserData(u"next"_s, -1).toInt(), round);
     }

@@ -1,17 +1,20 @@
 #include "persistence/TaskQueue.h"
 
-#include "launch/MeetingLauncher.h"
 #include "persistence/FileInfo.h"
 #include "persistence/StandardTasks.h"
 #include "persistence/UserSettings.h"
 #include "platform/Registry.h"
+#include "tests/persistence/FakeLauncher.h"
 #include "tests/persistence/LogCapture.h"
+#include "tests/persistence/Poster.h"
 
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -37,23 +40,6 @@ public:
     QList<QVariantList> writes;
 };
 
-class FakeLauncher : public MeetingLauncher
-{
-public:
-    bool startZoom() override { return note(u"zoom"_s); }
-    bool startTeams() override { return note(u"teams"_s); }
-    bool openGoogleMeeting() override { return note(u"google"_s); }
-
-    QStringList started;
-
-private:
-    bool note(const QString& name)
-    {
-        started += name;
-        return false;
-    }
-};
-
 } // namespace
 
 class TestTaskQueue : public QObject
@@ -72,9 +58,6 @@ private slots:
     void runsOnItsThreadInPostingOrder();
     void standardTasksPassTheirArguments();
     void standardTasksTakeTooFewArguments();
-
-signals:
-    void addTask(QString task, QVariantList args);
 
 private:
     TaskQueue::Action note(const QString& name, std::function<void()> more = {})
@@ -185,23 +168,16 @@ void TestTaskQueue::runsOnItsThreadInPostingOrder()
     constexpr int kTasks = 1000;
     QList<int> order;
     QThread* ranOn = nullptr;
-    QThread thread;
-    {
-        const auto queue = std::make_unique<TaskQueue>(
-            TaskQueue::Actions{{u"number"_s, [&](const QVariantList& args) {
-                                    order += args.value(0).toInt();
-                                    ranOn = QThread::currentThread();
-                                    if (order.size() == kTasks)
-                                        thread.quit();
-                                }}});
-        queue->moveToThread(&thread);
-        connect(this, &TestTaskQueue::addTask, queue.get(), &TaskQueue::addTask);
-        thread.start();
-        for (int i = 0; i < kTasks; ++i)
-            emit addTask(u"number"_s, {i});
-        QVERIFY(thread.wait(QDeadlineTimer(30'000)));
-    }
-    QCOMPARE(ranOn, &thread);
+    Poster poster({{u"number"_s, [&](const QVariantList& args) {
+                        order += args.value(0).toInt();
+                        ranOn = QThread::currentThread();
+                    }}});
+    QSignalSpy drained(&poster, &Poster::drained);
+    for (int i = 0; i < kTasks; ++i)
+        emit poster.addTask(u"number"_s, {i});
+    emit poster.addTask(u"drained"_s, {});
+    QVERIFY(drained.wait(30'000));
+    QCOMPARE(ranOn, poster.queueThread());
     QCOMPARE(order.size(), kTasks);
     QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
 }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "persistence/TaskQueue.h"
+
+#include <QThread>
+
+#include <memory>
+
+/// Posts to a queue on a thread of its own, as the device state does.
+class Poster : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Poster(TaskQueue::Actions actions)
+    {
+        actions.emplace_back(QStringLiteral("drained"), [this](const QVariantList&) {
+            QMetaObject::invokeMethod(this, &Poster::drained, Qt::QueuedConnection);
+        });
+        m_queue = std::make_unique<TaskQueue>(std::move(actions));
+        m_queue->moveToThread(&m_thread);
+        connect(this, &Poster::addTask, m_queue.get(), &TaskQueue::addTask);
+        m_thread.start();
+    }
+    ~Poster() override
+    {
+        m_thread.quit();
+        m_thread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(Poster)
+
+    const QThread* queueThread() const { return &m_thread; }
+
+signals:
+    void addTask(QString task, QVariantList args);
+    /// A task "drained" was reached; emitted on the poster's own thread.
+    void drained();
+
+private:
+    QThread m_thread;
+    std::unique_ptr<TaskQueue> m_queue;
+};
