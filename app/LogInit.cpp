@@ -42,6 +42,7 @@ void InitLog(const QString& logDir, const QString& backupDir, const QString& fil
         google::InstallFailureSignalHandler();
         google::InstallFailureWriter([](const char* text, std::size_t length) {
             const std::string_view line(text, std::find(text, text + length, '\0'));
+            // NOLINTNEXTLINE(bugprone-lambda-function-name): the lambda's own name is wanted
             Log::write(Log::Severity::Error, __func__, line);
         });
     }
