@@ -22,8 +22,9 @@ namespace
 constexpr auto kFormType = "application/x-www-form-urlencoded"_L1;
 constexpr auto kJsonType = "application/json"_L1;
 
-// Room above the largest body, so that one byte too many is seen before the buffer is full.
-constexpr qint64 kReadBufferSize = NetworkManager::kMaxBodySize + 64 * 1024;
+// Bounds what Qt's own thread reads ahead. Well above the largest body: that thread may stop
+// somewhat short of this size, and a body that is too long has to be noticed before it does.
+constexpr qint64 kReadBufferSize = 2 * NetworkManager::kMaxBodySize;
 
 QString encodeCredential(const QString& text)
 {

