@@ -106,7 +106,7 @@ void report(Crash crash)
 void onFatalSignal(int signal, siginfo_t* info, void* context)
 {
     if (signal == SIGBUS)
-        platform::leaveGuardedAccess();
+        platform::leaveGuardedAccess(context);
     const int savedError = errno;
     Crash crash;
     crash.signal = signal;
@@ -183,8 +183,7 @@ void installCrashHandler(CrashLine writeLine)
     ensureAlternateStack();
     struct sigaction action = {};
     action.sa_sigaction = onFatalSignal;
-    // Not deferred, so that a handler that crashes itself comes here again, and so that the jump
-    // out of a guarded access leaves no signal blocked.
+    // Not deferred, so that a handler that crashes itself comes here again.
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < kFatalSignals.size(); ++i)

@@ -7,6 +7,9 @@
 #include <csignal>
 #include <mutex>
 
+#include <pthread.h>
+#include <ucontext.h>
+
 namespace
 {
 
@@ -16,7 +19,7 @@ struct sigaction g_previous;
 
 void onBusError(int signal, siginfo_t* info, void* context)
 {
-    platform::leaveGuardedAccess();
+    platform::leaveGuardedAccess(context);
     platform::passOn(signal, info, context, g_previous);
 }
 
@@ -28,7 +31,7 @@ namespace platform
 bool runGuarded(GuardedAccess access, void* context)
 {
     sigjmp_buf escape;
-    // The handler runs with the signal unblocked, hence no signal mask has to be restored.
+    // Saving the signal mask here would cost a system call each time; the handler restores it.
     if (sigsetjmp(escape, 0) != 0) {
         t_escape = nullptr;
         return false;
@@ -47,16 +50,19 @@ void installMemoryGuard()
     std::call_once(once, [] {
         struct sigaction action = {};
         action.sa_sigaction = onBusError;
-        action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
+        action.sa_flags = SA_SIGINFO | SA_ONSTACK;
         sigemptyset(&action.sa_mask);
         sigaction(SIGBUS, &action, &g_previous);
     });
 }
 
-void leaveGuardedAccess()
+void leaveGuardedAccess(const void* context)
 {
-    if (t_escape)
-        siglongjmp(*t_escape, 1);
+    if (!t_escape)
+        return;
+    const auto* const interrupted = static_cast<const ucontext_t*>(context);
+    pthread_sigmask(SIG_SETMASK, &interrupted->uc_sigmask, nullptr);
+    siglongjmp(*t_escape, 1);
 }
 
 } // namespace platform

@@ -32,6 +32,7 @@ void installMemoryGuard();
 
 /// For other handlers of SIGBUS, to be called first: does not return when the calling thread is in
 /// a guarded access.
-void leaveGuardedAccess();
+/// @param context  the handler's third argument
+void leaveGuardedAccess(const void* context);
 
 } // namespace platform

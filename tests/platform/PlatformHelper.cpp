@@ -76,10 +76,11 @@ void onEarlierHandler(int signal)
     std::raise(signal);
 }
 
-void dereferenceNull()
+// Not a null pointer, since some sanitizers map memory there.
+void touchForbiddenPage()
 {
-    int* volatile nowhere = nullptr;
-    *nowhere = 1;
+    void* const page = ::mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    *static_cast<volatile char*>(page) = 1;
 }
 
 int overflowStack(int depth)
@@ -101,8 +102,8 @@ void touchBeyondEnd()
 
 void crash(const QString& how)
 {
-    if (how == "null"_L1)
-        dereferenceNull();
+    if (how == "forbidden"_L1)
+        touchForbiddenPage();
     else if (how == "overflow"_L1)
         overflowStack(0);
     else if (how == "bus"_L1)
@@ -112,7 +113,7 @@ void crash(const QString& how)
     else if (how == "throw"_L1)
         throw std::runtime_error("boom");
     else if (how == "locked"_L1)
-        g_logLock.lock(), dereferenceNull();
+        g_logLock.lock(), touchForbiddenPage();
 }
 
 int runCrash(const QString& how, bool onWorker)

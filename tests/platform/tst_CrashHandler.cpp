@@ -64,9 +64,11 @@ void tst_CrashHandler::reports_data()
     QTest::addColumn<QStringList>("how");
     QTest::addColumn<QByteArray>("cause");
     QTest::addColumn<bool>("hasRegisters");
-    QTest::newRow("null") << QStringList{u"null"_s} << QByteArray("signal: 11 (SIGSEGV") << true;
-    QTest::newRow("null, worker") << QStringList{u"null"_s, u"worker"_s}
-                                  << QByteArray("(crashing worker)\nsignal: 11 (SIGSEGV") << true;
+    QTest::newRow("forbidden") << QStringList{u"forbidden"_s} << QByteArray("signal: 11 (SIGSEGV")
+                               << true;
+    QTest::newRow("forbidden, worker")
+        << QStringList{u"forbidden"_s, u"worker"_s}
+        << QByteArray("(crashing worker)\nsignal: 11 (SIGSEGV") << true;
     QTest::newRow("overflow") << QStringList{u"overflow"_s} << QByteArray("signal: 11 (SIGSEGV")
                               << true;
     QTest::newRow("overflow, worker")
@@ -112,7 +114,7 @@ void tst_CrashHandler::namesTheFileAfterTimeProcessAndThread()
 {
     const QTemporaryDir folder;
     const auto before = QDateTime::currentDateTimeUtc();
-    const Crashed crashed = crash({u"null"_s}, folder.path());
+    const Crashed crashed = crash({u"forbidden"_s}, folder.path());
     const auto after = QDateTime::currentDateTimeUtc();
 
     const QRegularExpression pattern(u"^platform_helper-(\\d{8}-\\d{6})-(\\d+)-(\\d+)\\.dmp$"_s);
@@ -127,7 +129,7 @@ void tst_CrashHandler::namesTheFileAfterTimeProcessAndThread()
 
 void tst_CrashHandler::saysThatTheFileCannotBeMade()
 {
-    const Crashed crashed = crash({u"null"_s}, u"/proc"_s); // not even root makes a file there
+    const Crashed crashed = crash({u"forbidden"_s}, u"/proc"_s); // not even root makes a file there
     QVERIFY(crashed.ended);
     const QStringList lines = crashed.errorOutput.split(u'\n');
     QCOMPARE(lines.value(0), u"Creating dump file..."_s);
