@@ -37,6 +37,7 @@ flags=(
     -std=c++20 -c -O0 -Wall -Wextra -Werror
     -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0A00
     -DGLOG_NO_ABBREVIATED_SEVERITIES -DGLOG_CUSTOM_PREFIX_SUPPORT=1
+    '-DVORN_ACCOUNT_URL="https://account.vornapp.example"'
     -I. -Isimulator/portalhub -isystem tools/windows-headers -isystem "$work/include" -isystem "$qt_headers"
 )
 for definition in $(grep -oE '^ +QT_NO_[A-Z_]+' cmake/VornSettings.cmake); do
