@@ -28,6 +28,8 @@ ErrorCode ChannelClient::initChannel(Callback callback)
 {
     std::shared_ptr<const Callback> replaced; // destroyed outside the lock
     const std::lock_guard lock(m_mutex);
+    if (m_thread && !m_worker)
+        return ErrorCode::NotAvailable;
     replaced = std::move(m_callback);
     if (callback) {
         m_callback = std::make_shared<const Callback>(std::move(callback));
@@ -41,13 +43,13 @@ void ChannelClient::start()
 {
     m_thread = std::make_unique<QThread>();
     m_thread->setObjectName(u"PortalHub"_s);
-    m_worker = new ChannelWorker(m_serverName, m_reconnectInterval, m_outgoing,
-                                 [this](int id, const std::string& text) { deliver(id, text); });
+    m_ended = std::make_shared<EndSignal>();
+    m_worker = new ChannelWorker(
+        m_serverName, m_reconnectInterval, m_outgoing,
+        [this](int id, const std::string& text) { deliver(id, text); }, m_ended);
     m_worker->moveToThread(m_thread.get());
     QObject::connect(m_thread.get(), &QThread::started, m_worker, &ChannelWorker::start);
     QObject::connect(m_thread.get(), &QThread::finished, m_worker, &QObject::deleteLater);
-    // Only matters to a thread that stop() had to leave to itself.
-    QObject::connect(m_thread.get(), &QThread::finished, m_thread.get(), &QObject::deleteLater);
     m_thread->start();
 }
 
@@ -88,19 +90,23 @@ bool ChannelClient::stop(QDeadlineTimer deadline)
 {
     std::unique_ptr<QThread> thread;
     std::shared_ptr<const Callback> callback;
+    std::shared_ptr<EndSignal> ended;
     {
         const std::lock_guard lock(m_mutex);
         thread = std::move(m_thread);
         callback = std::move(m_callback);
+        ended = std::move(m_ended);
         m_worker = nullptr;
     }
     if (!thread)
         return true;
     thread->requestInterruption();
     thread->quit();
-    if (QThread::currentThread() != thread.get() && thread->wait(deadline))
+    if (QThread::currentThread() != thread.get() && ended->wait(deadline) && thread->wait())
         return true;
-    // Still in the callback. The object has to outlive its thread, so it is left to the process.
-    (void)thread.release();
+    // Still in the callback. The next stop, at the latest the destructor's, waits for it again.
+    const std::lock_guard lock(m_mutex);
+    m_thread = std::move(thread);
+    m_ended = std::move(ended);
     return false;
 }

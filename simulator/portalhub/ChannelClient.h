@@ -18,6 +18,7 @@ namespace channel
 {
 
 class ChannelWorker;
+class EndSignal;
 
 /// One connection of the channel with a thread of its own: what PortalHub is made of, and what can
 /// be made several times in one process. Every operation may be called from any thread.
@@ -41,8 +42,9 @@ public:
     /// As PortalHub::PushMsg.
     PortalHubApi::ErrorCode pushMsg(int id, const std::string& msg);
 
-    /// Ends delivery, the connection and the thread. False when a callback did not return within
-    /// @p deadline, or when called from the callback: the thread then ends after it, on its own.
+    /// Ends delivery, the connection and the thread; initChannel() starts anew. False when a
+    /// callback did not return within @p deadline, or when called from the callback: the thread
+    /// then ends after it, and until a further stop() has waited for it nothing can be registered.
     bool stop(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
 
 private:
@@ -55,7 +57,8 @@ private:
     std::mutex m_mutex; // guards what follows
     std::shared_ptr<const Callback> m_callback;
     std::unique_ptr<QThread> m_thread;
-    ChannelWorker* m_worker = nullptr; // deletes itself at the end of m_thread
+    std::shared_ptr<EndSignal> m_ended; // of m_worker
+    ChannelWorker* m_worker = nullptr;  // deletes itself at the end of m_thread
 };
 
 } // namespace channel

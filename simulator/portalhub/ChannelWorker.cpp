@@ -25,11 +25,13 @@ bool endRequested()
 } // namespace
 
 ChannelWorker::ChannelWorker(QString serverName, std::chrono::milliseconds reconnectInterval,
-                             OutgoingQueue& outgoing, Deliver deliver)
+                             OutgoingQueue& outgoing, Deliver deliver,
+                             std::shared_ptr<EndSignal> ended)
     : m_serverName(std::move(serverName))
     , m_reconnectInterval(reconnectInterval)
     , m_outgoing(outgoing)
     , m_deliver(std::move(deliver))
+    , m_ended(std::move(ended))
     , m_reader(kMaxLineLength)
 {
     connect(this, &ChannelWorker::outgoingWaiting, this, &ChannelWorker::sendWaiting,
@@ -43,6 +45,7 @@ ChannelWorker::~ChannelWorker()
         sendWaiting(); // what was pushed just before the end
     }
     m_outgoing.close();
+    m_ended->set();
 }
 
 void ChannelWorker::start()

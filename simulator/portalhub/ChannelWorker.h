@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/portalhub/EndSignal.h"
 #include "simulator/portalhub/LineReader.h"
 #include "simulator/portalhub/OutgoingQueue.h"
 
@@ -7,6 +8,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 class QLocalSocket;
@@ -24,8 +26,9 @@ class ChannelWorker : public QObject
 public:
     using Deliver = std::function<void(int, const std::string&)>;
 
+    /// @p ended is set when the worker has used @p outgoing and @p deliver for the last time.
     ChannelWorker(QString serverName, std::chrono::milliseconds reconnectInterval,
-                  OutgoingQueue& outgoing, Deliver deliver);
+                  OutgoingQueue& outgoing, Deliver deliver, std::shared_ptr<EndSignal> ended);
     ~ChannelWorker() override;
 
     /// Makes the first attempt to connect.
@@ -48,6 +51,7 @@ private:
     const std::chrono::milliseconds m_reconnectInterval;
     OutgoingQueue& m_outgoing;
     const Deliver m_deliver;
+    const std::shared_ptr<EndSignal> m_ended;
     QLocalSocket* m_socket = nullptr;
     QTimer* m_reconnectTimer = nullptr;
     LineReader m_reader;

@@ -20,7 +20,7 @@ enum class ErrorCode : int {
     NotConnected = 1,   ///< there is no connection; the message was dropped
     BufferFull = 2,     ///< the peer does not read; the message was dropped
     MessageTooLong = 3, ///< longer than the channel carries; the message was dropped
-    NotAvailable = 4,   ///< there is no application object; nothing was registered
+    NotAvailable = 4,   ///< no application object, or it is going; nothing was registered
 };
 
 } // namespace PortalHubApi

@@ -8,6 +8,10 @@
 #include <string>
 #include <utility>
 
+/// How long a test waits for what must happen, on a machine busy with other things; in
+/// milliseconds.
+inline constexpr int kPatience = 60'000;
+
 /// Messages that a channel callback received, to be looked at from the test's thread.
 class Inbox
 {

@@ -40,7 +40,8 @@ void PortalHubTest::endsCleanly()
         QProcess program;
         program.setProcessChannelMode(QProcess::MergedChannels);
         program.start(QStringLiteral(PORTALHUB_USER), {mode});
-        QVERIFY(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 30'000));
+        QVERIFY(
+            QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, kPatience));
         const QByteArray output = program.readAll();
         QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0,
                  output.constData());

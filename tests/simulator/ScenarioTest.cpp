@@ -101,7 +101,7 @@ void ScenarioTest::run(const QByteArray& scenario)
 
 int ScenarioTest::exitCode()
 {
-    if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, 30'000))
+    if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, kPatience))
         return -1;
     return m_finished->first().first().toInt();
 }
@@ -174,7 +174,7 @@ void ScenarioTest::printsWhatHappens()
 {
     run("wait-client\nexpect 5\nexpect 6\nquit\n");
     Program program(m_folder->filePath(u"hub"_s));
-    QTRY_COMPARE(events(u"client-connected"_s).size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"client-connected"_s).size(), 1, kPatience);
     program.push(5, "{\"cmd\": 5}");
     program.push(6, "{\"cmd\":6,\xff");
     QCOMPARE(exitCode(), 0);
@@ -195,10 +195,11 @@ void ScenarioTest::inputRunsBesideAScenario()
 {
     run("wait-client\necho over\n");
     m_simulator->enterCommand(u"status"_s);
-    QTRY_COMPARE(events(u"status"_s).size(), 1); // though the scenario waits
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"status"_s).size(), 1,
+                              kPatience); // though the scenario waits
     QVERIFY(events(u"scenario-finished"_s).isEmpty());
     const Program program(m_folder->filePath(u"hub"_s));
-    QTRY_COMPARE(events(u"scenario-finished"_s).size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"scenario-finished"_s).size(), 1, kPatience);
     QCOMPARE(events(u"echo"_s).size(), 1);
     QVERIFY(m_finished->isEmpty());
     m_simulator->enterCommand(u"quit"_s);
