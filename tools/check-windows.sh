@@ -40,9 +40,9 @@ flags=(
     '-DVORN_ACCOUNT_URL="https://account.vornapp.example"'
     -I. -Isimulator/portalhub -isystem tools/windows-headers -isystem "$work/include" -isystem "$qt_headers"
 )
-for definition in $(grep -oE '^ +QT_NO_[A-Z_]+' cmake/VornSettings.cmake); do
+while read -r definition; do
     flags+=("-D$definition")
-done
+done < <(grep -oE '^ +QT_NO_[A-Z_]+' cmake/VornSettings.cmake)
 for module in "$qt_headers"/Qt*/; do
     flags+=(-isystem "${module%/}")
 done
@@ -52,9 +52,12 @@ command -v ccache >/dev/null && launcher=(ccache)
 
 compile() {
     local source=$1
+    local own=()
+    # The channel library exports what the program imports.
+    [[ $source == simulator/portalhub/* ]] && own=(-DPORTALHUB_BUILD)
     # The same name each time, so that a compiler cache finds the object again.
     local object="$work/${source//\//_}.o"
-    if "${launcher[@]}" "$compiler" "${flags[@]}" -o "$object" "$source" >"$object.log" 2>&1; then
+    if "${launcher[@]}" "$compiler" "${flags[@]}" "${own[@]}" -o "$object" "$source" >"$object.log" 2>&1; then
         echo "ok      $source"
     else
         echo "FAILED  $source"
@@ -70,6 +73,7 @@ export work compiler
 export -f compile
 # Arrays cannot be exported to the parallel shells, a file of settings can.
 declare -p flags launcher >"$work/settings"
+# shellcheck disable=SC2016 # expanded by the parallel shells
 printf '%s\0' "${sources[@]}" |
     xargs -0 -n 1 -P 2 bash -c 'source "$work/settings"; compile "$1"' check-windows
 status=$?
