@@ -2,6 +2,9 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# Compiled objects are found again from another checkout of the same sources.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+
 build_packages=(
   cmake ninja-build g++ ccache pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev

@@ -332,8 +332,9 @@ void tst_DeviceControl::readersAndLibraryCallbacksDoNotBlock()
     connect(
         &device, &DeviceControl::volumeChanged, &device, [&device] { device.volume(); },
         Qt::DirectConnection);
-    world.channel.onPush = [&device](int id, const std::string&) {
-        if (id == 1)
+    std::atomic_flag answered;
+    world.channel.onPush = [&](int id, const std::string&) {
+        if (id == 1 && !answered.test_and_set())
             std::thread([&device] {
                 device.handleChannelMessage(1, R"({"cmd":1,"type":2,"volume":50})");
             }).join();
