@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr std::size_t kStackSize = 128 * 1024; // unwinding needs some of it
+constexpr std::size_t kStackSize = std::size_t{128} * 1024; // unwinding needs some of it
 
 class AlternateStack
 {

@@ -111,7 +111,7 @@ private:
     {
         for (const auto name : {"id"_L1, "name"_L1}) {
             for (const QString& place : places) {
-                if (const QString value = attribute(place, name); !value.isEmpty())
+                if (QString value = attribute(place, name); !value.isEmpty())
                     return value;
             }
         }

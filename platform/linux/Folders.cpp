@@ -44,7 +44,7 @@ namespace platform
 
 QString programDataFolder()
 {
-    const QString folder = stateFolder() + "/VORNApp"_L1;
+    QString folder = stateFolder() + "/VORNApp"_L1;
     QDir().mkpath(folder);
     return folder;
 }
@@ -56,11 +56,11 @@ QString logBackupFolder()
 
 QString settingsFolder()
 {
-    const QString besideExecutable = QCoreApplication::applicationDirPath();
+    QString besideExecutable = QCoreApplication::applicationDirPath();
     if (canWrite(besideExecutable))
         return besideExecutable;
 
-    const QString folder = localDataFolder() + "/VORNApp"_L1;
+    QString folder = localDataFolder() + "/VORNApp"_L1;
     QDir().mkpath(folder);
     for (const auto name : {"/config.ini"_L1, "/config.json"_L1})
         copyOnce(besideExecutable + name, folder + name);

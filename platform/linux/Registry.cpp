@@ -27,8 +27,7 @@ namespace platform
 QVariant readRegistry(const QString& keyPath, const QString& name)
 {
     // A fresh object looks whether the file has changed since any other one read it.
-    const QVariant value =
-        QSettings(registryFile(), QSettings::IniFormat).value(iniKey(keyPath, name));
+    QVariant value = QSettings(registryFile(), QSettings::IniFormat).value(iniKey(keyPath, name));
 
     // A file written by hand may hold an unquoted comma, as in an icon reference.
     if (value.typeId() == QMetaType::QStringList)

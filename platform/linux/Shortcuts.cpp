@@ -52,7 +52,7 @@ QString shortcutFileName(const QString& title)
 QString packagedShortcut(const QStringList& titles)
 {
     for (const QString& title : titles) {
-        const QString path =
+        QString path =
             QStandardPaths::locate(QStandardPaths::ApplicationsLocation, shortcutFileName(title));
         if (!path.isEmpty())
             return path;

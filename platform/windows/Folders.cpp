@@ -11,7 +11,7 @@ namespace platform
 
 QString programDataFolder()
 {
-    const QString folder = u"C:\\ProgramData\\VORNApp"_s;
+    QString folder = u"C:\\ProgramData\\VORNApp"_s;
     QDir().mkpath(folder);
     return folder;
 }

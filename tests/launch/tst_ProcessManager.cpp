@@ -103,7 +103,7 @@ QString tst_ProcessManager::install(const QString& name, bool waits)
         m_waiting = QFileInfo(name).fileName();
         ::mkfifo(QFile::encodeName(path(u"calls.pipe"_s)).constData(), 0600);
     }
-    const QString program = write(
+    QString program = write(
         name, "#!/bin/sh\necho \"${0##*/} $#$(printf ' [%s]' \"$@\")\" >>\"$VORN_TEST_CALLS\"\n" +
                   QByteArray(waits ? "exec 3<>\"$VORN_TEST_CALLS.pipe\"\nread line <&3\n" : ""));
     QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);

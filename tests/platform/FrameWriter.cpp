@@ -83,6 +83,8 @@ private:
 
     bool post(long count) const
     {
+        if (!m_event)
+            return false;
         for (; count > 0; --count) {
             if (::sem_post(m_event) != 0)
                 return false;
@@ -103,7 +105,7 @@ private:
     std::string m_eventName;
     int m_fd = -1;
     long m_size = 0;
-    sem_t* m_event = SEM_FAILED;
+    sem_t* m_event = nullptr;
 };
 
 void say(const char* line)

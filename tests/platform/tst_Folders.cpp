@@ -78,7 +78,7 @@ QString tst_Folders::settingsFolderOf(const QString& folder) const
 
 QString tst_Folders::makeInstallation() const
 {
-    const QString folder = m_home->filePath(u"app"_s);
+    QString folder = m_home->filePath(u"app"_s);
     QDir().mkpath(folder);
     QFile::copy(HelperProcess::path(u"platform_helper"_s), folder + "/platform_helper"_L1);
     write(folder + "/config.ini"_L1, "[VORNApp]\n");

@@ -135,6 +135,7 @@ void tst_Registry::servesThreads()
 {
     std::atomic<int> failures = 0;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread, &failures] {
             const QString name = u"thread%1"_s.arg(thread);
