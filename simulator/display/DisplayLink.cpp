@@ -20,9 +20,9 @@ namespace
 constexpr int kProbeTimeoutMs = 1000;
 constexpr auto kFlushTimeout = std::chrono::milliseconds(500);
 // A client that does not read is dropped rather than let grow without end.
-constexpr qint64 kMaxUnwritten = 64 * 1024 * 1024;
+constexpr qint64 kMaxUnwritten = qint64{64} * 1024 * 1024;
 // While reading is off, so little is taken from the system that the client notices.
-constexpr qint64 kReadBufferSize = 256 * 1024;
+constexpr qint64 kReadBufferSize = qint64{256} * 1024;
 constexpr qint64 kHeldReadBufferSize = 1;
 
 // One lock a socket name; the name is no path on every system.

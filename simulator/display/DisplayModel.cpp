@@ -55,9 +55,9 @@ void DisplayModel::addHandlers()
     on(Cmd_StartSetup, MessageType::Report, [this](const auto&) { startSetup(); });
 }
 
-void DisplayModel::on(ChannelCommand command, MessageType type, Handler handler)
+void DisplayModel::on(ChannelCommand command, MessageType type, const Handler& handler)
 {
-    m_handlers.insert({int(command), int(type)}, std::move(handler));
+    m_handlers.insert({int(command), int(type)}, handler);
 }
 
 void DisplayModel::receive(int id, const QByteArray& text)

@@ -33,7 +33,7 @@ public:
     QJsonObject status() const override;
 
     /// Names what happens with one kind of message from the program.
-    void on(ChannelCommand command, MessageType type, Handler handler);
+    void on(ChannelCommand command, MessageType type, const Handler& handler);
     /// Takes a message from the program. Without a connected display nothing happens.
     void receive(int id, const QByteArray& text);
     /// A program has come: a connected display reports itself.

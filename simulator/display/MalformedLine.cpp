@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qsizetype kMegabyte = 1024 * 1024;
+constexpr qsizetype kMegabyte = qsizetype{1024} * 1024;
 
 struct Kind {
     QLatin1StringView name;

@@ -30,7 +30,7 @@ public:
     /// @p capacity bounds what waits for a peer that does not read, in bytes.
     explicit ChannelClient(QString serverName,
                            std::chrono::milliseconds reconnectInterval = std::chrono::seconds(1),
-                           qsizetype capacity = 64 * 1024 * 1024);
+                           qsizetype capacity = qsizetype{64} * 1024 * 1024);
     /// Waits for the callback if it is under way.
     ~ChannelClient();
 

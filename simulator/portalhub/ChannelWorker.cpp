@@ -15,7 +15,7 @@ namespace
 {
 
 // Bounds what a peer that sends faster than the callback takes can make us hold.
-constexpr qint64 kReadBufferSize = 256 * 1024;
+constexpr qint64 kReadBufferSize = qint64{256} * 1024;
 
 bool endRequested()
 {

@@ -32,7 +32,7 @@ QString CommandArguments::word(const QString& what)
         return {};
     }
     const qsizetype length = wordLength();
-    const QString word = m_rest.left(length);
+    QString word = m_rest.left(length);
     m_rest = m_rest.sliced(length).trimmed();
     return word;
 }

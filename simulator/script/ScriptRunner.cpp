@@ -44,7 +44,7 @@ QStringList ScriptRunner::load(const QString& text)
 
 QString ScriptRunner::append(const QString& text)
 {
-    const QString error = take(++m_lines, text, m_entries);
+    QString error = take(++m_lines, text, m_entries);
     m_idle = false;
     recheck();
     return error;

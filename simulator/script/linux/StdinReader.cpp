@@ -14,7 +14,7 @@ using namespace simulator;
 namespace
 {
 
-constexpr qsizetype kMaxLineLength = 8 * 1024 * 1024;
+constexpr qsizetype kMaxLineLength = qsizetype{8} * 1024 * 1024;
 
 } // namespace
 
