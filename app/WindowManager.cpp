@@ -53,15 +53,15 @@ WindowManager::~WindowManager()
         s_instance = nullptr;
 }
 
+/// With access options Qt puts the new socket file over one that is there already, so whether
+/// another process listens has to be asked first. A file that nobody answers behind is a crash's
+/// leftover.
 bool WindowManager::listen()
 {
-    m_localServer->setSocketOptions(QLocalServer::UserAccessOption);
-    if (m_localServer->listen(serverName()))
-        return true;
-    // A crashed instance leaves its socket file behind; one that answers belongs to somebody alive.
-    if (m_localServer->serverError() != QAbstractSocket::AddressInUseError || isServerAnswering())
+    if (isServerAnswering())
         return false;
     QLocalServer::removeServer(serverName());
+    m_localServer->setSocketOptions(QLocalServer::UserAccessOption);
     return m_localServer->listen(serverName());
 }
 

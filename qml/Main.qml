@@ -14,6 +14,7 @@ Window {
             return;
         }
         mainWindow.visibility = Window.Windowed;
+        mainWindow.visible = true;
         // Staying on top for one turn of the event loop brings the window before those of other
         // programs.
         mainWindow.flags |= Qt.WindowStaysOnTopHint;
@@ -28,6 +29,7 @@ Window {
 
     width: 968
     height: 666
+    visible: true
     visibility: Window.Windowed
     color: "transparent"
     flags: Qt.Window | Qt.FramelessWindowHint

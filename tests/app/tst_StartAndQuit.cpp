@@ -63,7 +63,7 @@ void tst_StartAndQuit::quitsCleanlyAHundredTimes()
         const bool isOnScreen = round % 10 == 0;
         const auto program = home.start(isOnScreen ? u"xcb"_s : u"offscreen"_s);
         QLocalSocket* const connection = display.nextProgram();
-        QVERIFY2(connection, program->readAll().constData());
+        QVERIFY(connection);
         // Messages under way while it quits.
         for (int i = 0; i < 50; ++i)
             connection->write(

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int Patience = 60000;
+constexpr int Patience = 30000;
 
 /// What a command prints, trimmed.
 QString output(const QString& program, const QStringList& arguments)
@@ -44,7 +44,7 @@ private:
     QString mainWindow() const;
     QString trayWindow() const;
     void click(int x, int y) const;
-    bool isViewable() const;
+    bool isViewable();
     QByteArray log();
 
     std::optional<ProgramHome> m_home;
@@ -61,8 +61,6 @@ void tst_Window::init()
     m_log.clear();
     m_program = m_home->start(u"xcb"_s);
     QVERIFY2(m_display->nextProgram(), log().constData());
-    QTRY_VERIFY_WITH_TIMEOUT(!mainWindow().isEmpty(), Patience);
-    m_window = mainWindow();
     QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
 }
 
@@ -104,9 +102,14 @@ void tst_Window::click(int x, int y) const
              QString::number(y), u"click"_s, u"1"_s});
 }
 
-bool tst_Window::isViewable() const
+/// Showing a hidden window again makes a new one of the window system.
+bool tst_Window::isViewable()
 {
-    return output(u"xwininfo"_s, {u"-id"_s, m_window}).contains(u"Map State: IsViewable"_s);
+    const QString visible = mainWindow();
+    if (visible.isEmpty())
+        return false;
+    m_window = visible;
+    return true;
 }
 
 void tst_Window::hasNoFrameAndTheRightSize()
@@ -129,7 +132,7 @@ void tst_Window::hidesToTheTrayAndComesBackByDoubleClick()
 {
     click(968 - 10 - 15, 6 + 15);
     QTRY_VERIFY_WITH_TIMEOUT(!isViewable(), Patience);
-    QVERIFY(log().contains("[WindowManager::hideToTray]hide to tray"));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("[WindowManager::hideToTray]hide to tray"), Patience);
 
     QTRY_VERIFY_WITH_TIMEOUT(!trayWindow().isEmpty(), Patience);
     const QString icon = trayWindow();
@@ -145,7 +148,7 @@ void tst_Window::closingByTheSystemHidesToo()
 {
     xdotool({u"windowfocus"_s, u"--sync"_s, m_window, u"key"_s, u"alt+F4"_s});
     QTRY_VERIFY_WITH_TIMEOUT(!isViewable(), Patience);
-    QVERIFY(log().contains("[WindowManager::hideToTray]hide to tray"));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("[WindowManager::hideToTray]hide to tray"), Patience);
 }
 
 void tst_Window::secondStartBringsItForward()

@@ -44,11 +44,14 @@ void tst_UdpClient::exchangesDatagrams()
 
     peer.writeDatagram("first", received.senderAddress(), quint16(received.senderPort()));
     peer.writeDatagram("", received.senderAddress(), quint16(received.senderPort()));
-    QNetworkDatagram datagram;
-    QTRY_VERIFY(client.waitForDatagram(datagram, 0ms));
-    QCOMPARE(datagram.data(), QByteArray("first"));
-    QTRY_VERIFY(client.waitForDatagram(datagram, 0ms));
-    QVERIFY(datagram.data().isEmpty());
+    QByteArrayList datagrams;
+    const auto taken = [&] {
+        QNetworkDatagram datagram;
+        if (client.waitForDatagram(datagram, 0ms))
+            datagrams.append(datagram.data());
+        return datagrams;
+    };
+    QTRY_COMPARE(taken(), (QByteArrayList{"first", ""}));
 }
 
 void tst_UdpClient::takenPortIsReported()
