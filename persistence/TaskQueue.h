@@ -10,8 +10,9 @@
 #include <vector>
 
 /// Runs slow jobs one at a time, in posting order, each in its own turn of the event loop of the
-/// thread it was moved to, so that the user interface never waits for disk, registry or process start.
-/// Both slots run on that thread only; other threads post through a queued connection to addTask().
+/// thread it was moved to, so that the user interface never waits for disk, registry or process
+/// start. Both slots run on that thread only; other threads post through a queued connection to
+/// addTask().
 class TaskQueue : public QObject
 {
     Q_OBJECT

@@ -5,9 +5,9 @@
 
 /// The signed-in user's data, kept across restarts as key and value.
 ///
-/// Reading and clearing happen on the main thread, writing on the task thread. Writes are posted long
-/// before they run, so each carries the number of the sign-in it belongs to: clearUserData() ends that
-/// sign-in, and whatever was posted before cannot bring the account back.
+/// Reading and clearing happen on the main thread, writing on the task thread. Writes are posted
+/// long before they run, so each carries the number of the sign-in it belongs to: clearUserData()
+/// ends that sign-in, and whatever was posted before cannot bring the account back.
 class UserSettings
 {
 public:

@@ -62,8 +62,17 @@ check "its source arrived" appears 'm_byodSwitch:0, newByodSwitch:' "$out/progra
 check "its firmware version arrived" appears 'm_remoteVer:, newRemoteVer:4\.1\.0' "$out/program.log"
 check "the program's replies reached the display" appears '"type":3' "$out/display.jsonl"
 
-window=$(xdotool search --sync --onlyvisible --name '^VORNApp$' | head -n 1)
-xdotool windowmove --sync "$window" 150 100
+# A display that connects brings the window forward, which may replace the window system's one.
+window_is_placed() {
+  local tries=0
+  until window=$(xdotool search --onlyvisible --name '^VORNApp$' 2>/dev/null | head -n 1) && [ -n "$window" ] &&
+    xdotool windowmove --sync "$window" 150 100 2>/dev/null; do
+    sleep 0.1
+    tries=$((tries + 1))
+    [ $tries -lt 300 ] || return 1
+  done
+}
+check "its window is on the screen" window_is_placed
 shot 1-connected
 
 step "The user turns the volume up"
