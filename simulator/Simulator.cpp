@@ -1,5 +1,6 @@
 #include "simulator/Simulator.h"
 
+#include "simulator/devices/DevicesFeature.h"
 #include "simulator/display/DisplayCamera.h"
 #include "simulator/display/DisplayLink.h"
 #include "simulator/display/DisplayModel.h"
@@ -39,11 +40,13 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
 {
     auto* const display = new DisplayModel(m_log, this);
     auto* const expectations = new Expectations(this);
+    m_devices = new DevicesFeature(m_log, this);
     m_flow = new FlowCommands(m_log, this);
     addFeature(display);
     addFeature(new DisplayCamera(*display, m_log, this));
     addFeature(new LinkCommands(*m_link, m_log, this));
     addFeature(expectations);
+    addFeature(m_devices);
     addFeature(m_flow);
     addOwnCommands();
 
@@ -137,6 +140,14 @@ bool Simulator::loadScenario(const QString& fileName)
     for (const QString& mistake : mistakes)
         tell(mistake);
     return mistakes.isEmpty();
+}
+
+bool Simulator::openDeviceTree(const QString& folder)
+{
+    const QString error = m_devices->setRoot(folder);
+    if (!error.isEmpty())
+        tell(error);
+    return error.isEmpty();
 }
 
 bool Simulator::listen()

@@ -14,6 +14,7 @@
 namespace simulator
 {
 
+class DevicesFeature;
 class DisplayLink;
 class Expectations;
 class Feature;
@@ -40,6 +41,8 @@ public:
     /// Checks a scenario file, which starts to run with the event loop. False, with its mistakes
     /// told, when it cannot be read or has any.
     bool loadScenario(const QString& fileName);
+    /// Keeps the tree of devices in that folder. False, with the reason told, when it cannot.
+    bool openDeviceTree(const QString& folder);
     /// Starts to listen. False, with the reason told, when that fails.
     bool listen();
     /// Takes one command as from standard input.
@@ -62,6 +65,7 @@ private:
     CommandInterpreter m_interpreter;
     std::unique_ptr<DisplayLink> m_link;
     QList<Feature*> m_features; // children
+    DevicesFeature* m_devices = nullptr;
     FlowCommands* m_flow = nullptr;
     ScriptRunner* m_scenario = nullptr;
     ScriptRunner* m_input = nullptr;

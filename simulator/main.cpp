@@ -18,7 +18,7 @@ const QString kDescription =
 
 It listens on the socket, prints everything that happens as one JSON object a line
 ("event" says what: listening, client-connected, client-disconnected, message, sent,
-malformed-line, display, camera, camera-command, command, failed, ...) and takes commands
+malformed-line, display, camera, camera-command, devices, command, failed, ...) and takes commands
 from standard input and from a scenario file, one a line. Lines beginning with # are comments.
 
 What the display sends:
@@ -54,8 +54,12 @@ int main(int argc, char* argv[])
         u"Listens on this socket instead of the one that VORN_PORTALHUB_SOCKET names or the "
         "default, vorn-portalhub in XDG_RUNTIME_DIR or /tmp."_s,
         u"name"_s);
+    const QCommandLineOption sysfs(u"sysfs"_s,
+                                   u"Keeps a tree of the display's devices in this folder, as the "
+                                   "command \"devices root\" does."_s,
+                                   u"folder"_s);
     const QCommandLineOption noStdin(u"no-stdin"_s, u"Reads no commands from standard input."_s);
-    parser.addOptions({help, scenario, socket, noStdin});
+    parser.addOptions({help, scenario, socket, sysfs, noStdin});
 
     const bool parsed = parser.parse(QCoreApplication::arguments());
     if (!parsed || !parser.positionalArguments().isEmpty()) {
@@ -72,6 +76,8 @@ int main(int argc, char* argv[])
     }
     if (parser.isSet(scenario) && !display.loadScenario(parser.value(scenario)))
         return Simulator::Exit_BadUsage;
+    if (parser.isSet(sysfs) && !display.openDeviceTree(parser.value(sysfs)))
+        return Simulator::Exit_Failed;
     if (!display.listen())
         return Simulator::Exit_Failed;
 
