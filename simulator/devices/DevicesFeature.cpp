@@ -57,11 +57,10 @@ QString DevicesFeature::name() const
 void DevicesFeature::addCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
-        {u"devices"_s, u"root <folder>"_s,
+        {u"devices root"_s, u"<folder>"_s,
          u"Keeps a tree of devices in that folder, laid out as /sys, for a program started with\n"
          "VORN_SYSFS_ROOT set to it. The tree goes when the simulator ends. Linux only."_s,
          [this](CommandArguments& arguments) -> CommandAction {
-             arguments.choice({u"root"_s});
              const QString folder = arguments.rest(u"the folder"_s);
              return [this, folder] { return outcomeOf(setRoot(folder)); };
          }});

@@ -1,30 +1,11 @@
 #include "simulator/display/Expectations.h"
 
-#include "simulator/display/MessagePattern.h"
 #include "simulator/script/CommandInterpreter.h"
 
 #include <QJsonDocument>
 
-#include <algorithm>
-
 using namespace simulator;
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-constexpr size_t kMaxRemembered = 10'000;
-constexpr auto kDefaultLimit = std::chrono::seconds(5);
-
-std::chrono::milliseconds parseLimit(CommandArguments& arguments)
-{
-    if (arguments.atEnd())
-        return kDefaultLimit;
-    arguments.word({}); // "within": a pattern ends nowhere else
-    return arguments.seconds(u"the time"_s);
-}
-
-} // namespace
 
 QString Expectations::name() const
 {
@@ -45,29 +26,24 @@ void Expectations::addCommands(CommandInterpreter& interpreter)
     addExpectNone(interpreter);
     interpreter.add({u"forget"_s,
                      {},
-                     u"Makes later expectations look only at messages from now on."_s,
+                     u"Makes later expectations look only at messages and requests from now on."_s,
                      [this](CommandArguments&) {
                          return simpleAction([this] {
-                             m_received.clear();
-                             m_sent.clear();
+                             m_received.forget();
+                             m_sent.forget();
+                             emit forgotten();
                          });
                      }});
 }
 
 void Expectations::addExpect(CommandInterpreter& interpreter, const QString& name,
-                             const QString& help, Memory& memory)
+                             const QString& help, MessageMemory& memory)
 {
-    interpreter.add(
-        {name, u"<id> [<condition> ...] [within <seconds>]"_s, help,
-         [&memory](CommandArguments& arguments) -> CommandAction {
-             const MessagePattern pattern = MessagePattern::parse(arguments);
-             const auto limit = parseLimit(arguments);
-             return [&memory, pattern, limit] {
-                 return CommandOutcome::until(
-                     [&memory, pattern] { return take(memory, pattern); }, limit,
-                     u"no such message within %1 s"_s.arg(double(limit.count()) / 1000));
-             };
-         }});
+    interpreter.add({name, u"<id> [<condition> ...] [within <seconds>]"_s, help,
+                     [&memory](CommandArguments& arguments) -> CommandAction {
+                         const MessagePattern pattern = MessagePattern::parse(arguments);
+                         return memory.expect(pattern, arguments);
+                     }});
 }
 
 void Expectations::addExpectNone(CommandInterpreter& interpreter)
@@ -76,40 +52,18 @@ void Expectations::addExpectNone(CommandInterpreter& interpreter)
                      u"Fails when such a message has come or comes within that time (5)."_s,
                      [this](CommandArguments& arguments) -> CommandAction {
                          const MessagePattern pattern = MessagePattern::parse(arguments);
-                         const auto limit = parseLimit(arguments);
-                         return [this, pattern, limit] {
-                             return CommandOutcome::unless(
-                                 [this, pattern] { return take(m_received, pattern); }, limit,
-                                 u"such a message came"_s);
-                         };
+                         return m_received.expectNone(pattern, arguments);
                      }});
 }
 
 void Expectations::noteReceived(int id, const QByteArray& text)
 {
-    note(m_received, id, text);
+    m_received.note(id, QJsonDocument::fromJson(text).object());
+    emit changed();
 }
 
 void Expectations::noteSent(int id, const QByteArray& text)
 {
-    note(m_sent, id, text);
-}
-
-void Expectations::note(Memory& memory, int id, const QByteArray& text)
-{
-    memory.push_back({id, QJsonDocument::fromJson(text).object()});
-    if (memory.size() > kMaxRemembered)
-        memory.pop_front();
+    m_sent.note(id, QJsonDocument::fromJson(text).object());
     emit changed();
-}
-
-bool Expectations::take(Memory& memory, const MessagePattern& pattern)
-{
-    const auto found = std::find_if(memory.begin(), memory.end(), [&](const Noted& noted) {
-        return pattern.matches(noted.id, noted.message);
-    });
-    if (found == memory.end())
-        return false;
-    memory.erase(found);
-    return true;
 }

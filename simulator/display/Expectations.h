@@ -1,18 +1,14 @@
 #pragma once
 
 #include "simulator/script/Feature.h"
+#include "simulator/script/MessageMemory.h"
 
 #include <QByteArray>
-
-#include <deque>
 
 namespace simulator
 {
 
-class MessagePattern;
-
-/// Remembers the messages of both directions and holds scripts to what they expect of them. Each
-/// message satisfies one expectation at most; messages that came before it count, until forgotten.
+/// Remembers the messages of both directions and holds scripts to what they expect of them.
 class Expectations : public Feature
 {
     Q_OBJECT
@@ -26,21 +22,17 @@ public:
     void noteReceived(int id, const QByteArray& text);
     void noteSent(int id, const QByteArray& text);
 
+signals:
+    /// Later expectations, also those of other features, are to look only at what is yet to come.
+    void forgotten();
+
 private:
-    struct Noted {
-        int id;
-        QJsonObject message;
-    };
-    using Memory = std::deque<Noted>;
-
     void addExpect(CommandInterpreter& interpreter, const QString& name, const QString& help,
-                   Memory& memory);
+                   MessageMemory& memory);
     void addExpectNone(CommandInterpreter& interpreter);
-    void note(Memory& memory, int id, const QByteArray& text);
-    static bool take(Memory& memory, const MessagePattern& pattern);
 
-    Memory m_received;
-    Memory m_sent;
+    MessageMemory m_received{QStringLiteral("message")};
+    MessageMemory m_sent{QStringLiteral("message")};
 };
 
 } // namespace simulator

@@ -1,10 +1,19 @@
 #include "simulator/script/CommandArguments.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <cmath>
 #include <utility>
 
 using namespace simulator;
 using namespace Qt::StringLiterals;
+
+QString simulator::unquoted(const QString& word)
+{
+    const QJsonArray parsed = QJsonDocument::fromJson("[" + word.toUtf8() + "]").array();
+    return parsed.size() == 1 ? parsed.first().toString(word) : word;
+}
 
 qsizetype CommandArguments::wordLength() const
 {

@@ -8,6 +8,9 @@
 namespace simulator
 {
 
+/// A word without the double quotes around it, or as it stands when there are none.
+QString unquoted(const QString& word);
+
 /// The words after a command's name, taken one by one. What a command cannot use is noted as the
 /// error; the first one stays, and everything taken after it is a harmless default.
 ///

@@ -1,5 +1,6 @@
 #include "simulator/script/CommandInterpreter.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace simulator;
@@ -45,7 +46,9 @@ CommandInterpreter::Line CommandInterpreter::parse(const QString& text) const
     if (text.trimmed().isEmpty() || text.trimmed().startsWith(u'#'))
         return {};
     CommandArguments arguments(text);
-    const QString name = arguments.word(u"the command"_s);
+    QString name = arguments.word(u"the command"_s);
+    if (isFamily(name) && !arguments.atEnd())
+        name += u' ' + arguments.word({});
     const Command* command = find(name);
     if (!command)
         return {{}, u"there is no command \"%1\" (see --help)"_s.arg(name)};
@@ -56,6 +59,15 @@ CommandInterpreter::Line CommandInterpreter::parse(const QString& text) const
     if (arguments.error().isEmpty())
         return {std::move(action), {}};
     return {{}, u"%1: %2 (usage: %3)"_s.arg(name, arguments.error(), withUsage(*command))};
+}
+
+bool CommandInterpreter::isFamily(const QString& word) const
+{
+    return std::ranges::any_of(m_sections, [&](const Section& section) {
+        return std::ranges::any_of(section.commands, [&](const Command& command) {
+            return command.name.startsWith(word + u' ');
+        });
+    });
 }
 
 QString CommandInterpreter::helpText() const

@@ -18,7 +18,7 @@ using CommandAction = std::function<CommandOutcome()>;
 CommandAction simpleAction(std::function<void()> function);
 
 struct Command {
-    QString name;
+    QString name;  ///< one word, or a family and a word, as in "account add"
     QString usage; ///< the arguments, as the help shows them
     QString help;
     /// Checks the arguments and binds them to the action; runs nothing yet.
@@ -49,6 +49,7 @@ private:
     };
 
     const Command* find(const QString& name) const;
+    bool isFamily(const QString& word) const;
 
     QList<Section> m_sections;
 };

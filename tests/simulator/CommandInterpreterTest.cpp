@@ -1,6 +1,6 @@
 #include "simulator/script/CommandInterpreter.h"
 #include "simulator/Simulator.h"
-#include "simulator/display/MessagePattern.h"
+#include "simulator/script/MessagePattern.h"
 #include "tests/simulator/ChannelRig.h"
 
 #include <QFile>
@@ -51,6 +51,9 @@ void CommandInterpreterTest::refuses_data()
     };
     row(u"dance"_s, u"there is no command \"dance\" (see --help)"_s);
     row(u"Volume 1"_s, u"there is no command \"Volume\" (see --help)"_s);
+    row(u"devices"_s, u"there is no command \"devices\" (see --help)"_s);
+    row(u"devices  tree x"_s, u"there is no command \"devices tree\" (see --help)"_s);
+    row(u"devices root"_s, u"devices root: the folder is missing (usage: devices root <folder>)"_s);
     row(u"volume"_s, u"volume: the volume is missing (usage: volume <0..100>)"_s);
     row(u"volume 101"_s, u"volume: the volume must be a whole number from 0 to 100, not \"101\" "
                          "(usage: volume <0..100>)"_s);
@@ -106,6 +109,9 @@ void CommandInterpreterTest::takesWordsApart()
     QCOMPARE(arguments.rest({}), u"all  the rest");
     QVERIFY(arguments.atEnd());
     QVERIFY(arguments.error().isEmpty());
+    QCOMPARE(unquoted(u"\"two \\\" words\""_s), u"two \" words");
+    QCOMPARE(unquoted(u"a\"b"_s), u"a\"b");
+    QCOMPARE(unquoted(u"12"_s), u"12");
     // The first mistake is the one that is told.
     arguments.word(u"more"_s);
     arguments.integer(u"a number"_s, 0, 1);

@@ -1,4 +1,4 @@
-#include "simulator/display/MessagePattern.h"
+#include "simulator/script/MessagePattern.h"
 
 #include "simulator/script/CommandArguments.h"
 
@@ -27,9 +27,15 @@ QJsonValue parseValue(const QString& text)
 
 MessagePattern MessagePattern::parse(CommandArguments& arguments)
 {
-    MessagePattern pattern;
-    pattern.m_id = arguments.integer(u"the id"_s, std::numeric_limits<int>::min(),
+    const int id = arguments.integer(u"the id"_s, std::numeric_limits<int>::min(),
                                      std::numeric_limits<int>::max());
+    return parseConditions(id, arguments);
+}
+
+MessagePattern MessagePattern::parseConditions(int id, CommandArguments& arguments)
+{
+    MessagePattern pattern;
+    pattern.m_id = id;
     while (!arguments.atEnd() && arguments.peek() != "within"_L1)
         pattern.m_conditions.append(parseCondition(arguments.word(u"a condition"_s), arguments));
     return pattern;

@@ -16,6 +16,8 @@ class MessagePattern
 public:
     /// Takes "<id> [key=value|key!=value|key ...]" up to the end or the word "within".
     static MessagePattern parse(CommandArguments& arguments);
+    /// The same for messages of a known id, without it.
+    static MessagePattern parseConditions(int id, CommandArguments& arguments);
 
     bool matches(int id, const QJsonObject& message) const;
 
