@@ -91,6 +91,7 @@ int main(int argc, char* argv[])
     if (engine->rootObjects().isEmpty()) {
         Log::error("main") << "QQmlApplicationEngine load error";
         QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);
+        engine.reset(); // before the objects that its context names
         return LoadFailure;
     }
     program.openChannel();
