@@ -48,6 +48,8 @@ void write(Severity severity, const char* function, std::string_view text, const
     if (t_function) {
         // A crash handler interrupted this thread inside glog, whose lock it still holds.
         std::fwrite(text.data(), 1, text.size(), stderr);
+        if (!text.ends_with('\n'))
+            std::fputc('\n', stderr);
         return;
     }
     // glog cuts here too, but it would look at every byte beyond.
