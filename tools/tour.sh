@@ -18,7 +18,7 @@ export VORN_PORTALHUB_SOCKET=$home/run/portalhub
 mkdir -m 700 "$XDG_RUNTIME_DIR" "$TMPDIR"
 pids=()
 clean_up() {
-  [ ${#pids[@]} -gt 0 ] && kill "${pids[@]}" 2>/dev/null
+  [ ${#pids[@]} -gt 0 ] && kill -KILL "${pids[@]}" 2>/dev/null || true
   cp -r "$XDG_STATE_HOME" "$out/state" 2>/dev/null || true
   rm -rf "$home"
 }
@@ -44,7 +44,8 @@ appears() {
     [ $tries -lt 600 ] || return 1
   done
 }
-ends_with_0() { wait "$1"; }
+# 60 s at most.
+ends_with_0() { timeout 60 tail --pid="$1" -s 0.05 -f /dev/null && wait "$1"; }
 shot() { import -window root "$out/$1.png"; }
 
 step "A display and the program meet"
