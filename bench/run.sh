@@ -7,7 +7,12 @@ cd "$root"
 mkdir -p build
 configure_and_build build/release --preset release -DVORN_BUILD_TESTS=OFF
 bin=$root/build/release/bin
-trap stop_screen EXIT
+home=$(mktemp -d)
+clean_up() {
+  stop_screen
+  rm -rf "$home" "$bin/PatchPilot"
+}
+trap clean_up EXIT
 start_screen
 
 # The updater that the program looks after; without one each look would start a process.
@@ -22,11 +27,11 @@ step "Ratios"
 dbus-run-session -- "$bin/bench_program"
 
 step "Processes spawned by the status loop"
-home=$(mktemp -d)
 env HOME="$home" XDG_STATE_HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR="$home" TMPDIR="$home" \
   QT_QPA_PLATFORM=offscreen timeout -s TERM 20 \
   strace -f -qq -e trace=execve,fork,vfork -o "$home/trace" "$bin/VORNApp" >/dev/null 2>&1 || true
+grep -rqs 'DetectProgramStatusProc\]thread start' "$home/VORNApp" ||
+  fail "the program did not come up" "run $bin/VORNApp by hand to see why"
 spawned=$(($(grep -cE 'execve|v?fork\(' "$home/trace") - 1))
-rm -rf "$home" "$bin/PatchPilot"
 echo "processes spawned by some 20 status passes: $spawned (aim 0)"
 [ "$spawned" -eq 0 ]
