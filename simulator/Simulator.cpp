@@ -1,5 +1,6 @@
 #include "simulator/Simulator.h"
 
+#include "simulator/account/AccountFeature.h"
 #include "simulator/devices/DevicesFeature.h"
 #include "simulator/display/DisplayCamera.h"
 #include "simulator/display/DisplayLink.h"
@@ -40,18 +41,21 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
 {
     auto* const display = new DisplayModel(m_log, this);
     auto* const expectations = new Expectations(this);
+    auto* const account = new AccountFeature(m_log, this);
     m_devices = new DevicesFeature(m_log, this);
     m_flow = new FlowCommands(m_log, this);
     addFeature(display);
     addFeature(new DisplayCamera(*display, m_log, this));
     addFeature(new LinkCommands(*m_link, m_log, this));
     addFeature(expectations);
+    addFeature(account);
     addFeature(m_devices);
     addFeature(m_flow);
     addOwnCommands();
 
     connect(display, &DisplayModel::send, m_link.get(), &DisplayLink::send);
     connectLink(expectations);
+    connect(expectations, &Expectations::forgotten, account, &AccountFeature::forgetRequests);
     // What came is noted before the display acts on it.
     connect(m_link.get(), &DisplayLink::messageReceived, display, &DisplayModel::receive);
     connect(m_link.get(), &DisplayLink::clientConnected, display, &DisplayModel::greet);

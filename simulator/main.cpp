@@ -14,12 +14,14 @@ namespace
 {
 
 const QString kDescription =
-    uR"(Plays a meeting-room display for the program, over the socket of the channel library.
+    uR"(Plays a meeting-room display for the program, over the socket of the channel library; on demand
+also the account service and the display's microphone, camera and speaker.
 
 It listens on the socket, prints everything that happens as one JSON object a line
 ("event" says what: listening, client-connected, client-disconnected, message, sent,
-malformed-line, display, camera, camera-command, devices, command, failed, ...) and takes commands
-from standard input and from a scenario file, one a line. Lines beginning with # are comments.
+malformed-line, display, camera, camera-command, account-listening, account-request, devices,
+command, failed, ...) and takes commands from standard input and from a scenario file, one a line.
+Lines beginning with # are comments.
 
 What the display sends:
   when it connects, and to a program that comes while it is connected:

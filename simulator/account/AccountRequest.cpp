@@ -20,6 +20,12 @@ QByteArray AccountRequest::header(QByteArrayView name) const
     return {};
 }
 
+QString decodeAccountCredential(const QString& text)
+{
+    return QString::fromUtf8(
+        QByteArray::fromBase64(text.toLatin1(), QByteArray::Base64UrlEncoding));
+}
+
 std::optional<AccountRequest> takeAccountRequest(QByteArray& received)
 {
     const auto headEnd = received.indexOf("\r\n\r\n");

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
+#include <QString>
 
 #include <optional>
 #include <utility>
@@ -20,6 +21,9 @@ struct AccountRequest {
     /// First header of that name, in any case; empty when there is none.
     [[nodiscard]] QByteArray header(QByteArrayView name) const;
 };
+
+/// An e-mail address or password in clear; the service is sent them as Base64url text.
+[[nodiscard]] QString decodeAccountCredential(const QString& text);
 
 /// Takes one complete request off the front of what was received. Nothing while it is incomplete;
 /// a request without Content-Length has no body.

@@ -1,5 +1,6 @@
 #include "simulator/account/AccountRoutes.h"
 
+#include "simulator/account/AccountRequest.h"
 #include "simulator/account/AccountStore.h"
 
 #include <QHttpServerRequest>
@@ -18,15 +19,9 @@ namespace
 
 using Method = QHttpServerRequest::Method;
 
-QString decodeCredential(const QString& text)
-{
-    return QString::fromUtf8(
-        QByteArray::fromBase64(text.toLatin1(), QByteArray::Base64UrlEncoding));
-}
-
 QString credential(const QUrlQuery& query, const QString& name)
 {
-    return decodeCredential(query.queryItemValue(name));
+    return decodeAccountCredential(query.queryItemValue(name));
 }
 
 QString token(const QHttpServerRequest& request)
@@ -79,18 +74,18 @@ void AccountRoutes::addSignInRoutes()
         return response(
             m_store.signIn(credential(query, u"username"_s), credential(query, u"password"_s)));
     });
-    m_server.route(u"/nc/users/register"_s, Method::Post,
-                   [this](const QHttpServerRequest& request) {
-                       const auto fields = jsonBody(request);
-                       if (!fields)
-                           return notJson();
-                       Account account;
-                       account.firstName = fields->value("firstName"_L1).toString();
-                       account.lastName = fields->value("lastName"_L1).toString();
-                       account.email = decodeCredential(fields->value("email"_L1).toString());
-                       account.password = decodeCredential(fields->value("password"_L1).toString());
-                       return response(m_store.registerAccount(account));
-                   });
+    m_server.route(
+        u"/nc/users/register"_s, Method::Post, [this](const QHttpServerRequest& request) {
+            const auto fields = jsonBody(request);
+            if (!fields)
+                return notJson();
+            Account account;
+            account.firstName = fields->value("firstName"_L1).toString();
+            account.lastName = fields->value("lastName"_L1).toString();
+            account.email = decodeAccountCredential(fields->value("email"_L1).toString());
+            account.password = decodeAccountCredential(fields->value("password"_L1).toString());
+            return response(m_store.registerAccount(account));
+        });
     m_server.route(
         u"/nc/users/forgot-password"_s, Method::Post, [this](const QHttpServerRequest& request) {
             return response(m_store.requestPasswordReset(credential(request.query(), u"email"_s)));

@@ -3,7 +3,6 @@
 #include <QMetaEnum>
 #include <QTcpSocket>
 
-#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -12,21 +11,6 @@ namespace
 {
 
 constexpr qsizetype kMaxRequestSize = 32 * 1024 * 1024;
-
-std::optional<AccountFault::Endpoint> endpointOf(const AccountRequest& request)
-{
-    using AccountFault::Endpoint;
-    const QByteArray path = request.path();
-    if (path == "/nc/auth/login")
-        return Endpoint::Login;
-    if (path == "/nc/users/register")
-        return Endpoint::Register;
-    if (path == "/nc/users/forgot-password")
-        return Endpoint::ForgotPassword;
-    if (path.startsWith("/nc/users/"))
-        return request.method == "PUT" ? Endpoint::ProfileUpdate : Endpoint::ProfileRead;
-    return std::nullopt;
-}
 
 QByteArray serialise(const AccountRequest& request)
 {
@@ -107,6 +91,20 @@ void AccountService::setCannedReply(Endpoint endpoint, const QByteArray& body)
 AccountFault::Kind AccountService::fault(Endpoint endpoint) const
 {
     return m_behaviours.value(endpoint).kind;
+}
+
+std::optional<AccountFault::Endpoint> AccountService::endpointOf(const AccountRequest& request)
+{
+    const QByteArray path = request.path();
+    if (path == "/nc/auth/login")
+        return Endpoint::Login;
+    if (path == "/nc/users/register")
+        return Endpoint::Register;
+    if (path == "/nc/users/forgot-password")
+        return Endpoint::ForgotPassword;
+    if (path.startsWith("/nc/users/"))
+        return request.method == "PUT" ? Endpoint::ProfileUpdate : Endpoint::ProfileRead;
+    return std::nullopt;
 }
 
 void AccountService::acceptConnection()

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QTcpServer>
 
+#include <optional>
+
 class QTcpSocket;
 
 /// The simulated account service: one address, a working service behind it, and a switch for each
@@ -46,6 +48,9 @@ public:
     /// Answers with status 200 and this body, whatever was asked.
     void setCannedReply(Endpoint endpoint, const QByteArray& body);
     [[nodiscard]] Kind fault(Endpoint endpoint) const;
+
+    /// Which of its jobs a request asks for; nothing for an address that it does not know.
+    [[nodiscard]] static std::optional<Endpoint> endpointOf(const AccountRequest& request);
 
     /// Bytes handed to the network in faulty replies so far.
     [[nodiscard]] qint64 faultBytesSent() const { return m_faultBytesSent; }

@@ -38,6 +38,7 @@ public:
     /// Adds an account and returns its user id.
     QString addAccount(Account account);
 
+    [[nodiscard]] const QList<Account>& accounts() const { return m_accounts; }
     /// Null when there is none; valid until the next account is added.
     [[nodiscard]] const Account* accountByEmail(const QString& email) const;
     [[nodiscard]] const Account* accountById(const QString& userId) const;
