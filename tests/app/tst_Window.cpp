@@ -61,7 +61,8 @@ void tst_Window::init()
     m_log.clear();
     m_program = m_home->start(u"xcb"_s);
     QVERIFY2(m_display->nextProgram(), log().constData());
-    QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
+    if (!QTest::qWaitFor([this] { return isViewable(); }, Patience))
+        QFAIL((log() + output(u"xwininfo"_s, {u"-root"_s, u"-tree"_s}).toUtf8()).constData());
 }
 
 void tst_Window::cleanup()

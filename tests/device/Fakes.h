@@ -63,10 +63,25 @@ private:
 class FakeWindows : public WindowRequests
 {
 public:
-    void askToShow(bool show) override { asked.append(show ? "show" : "hide"); }
-    void askToShowCheckRemote(bool show) override { asked.append(show ? "warn" : "no warning"); }
+    void askToShow(bool show) override { note(show ? "show" : "hide"); }
+    void askToShowCheckRemote(bool show) override { note(show ? "warn" : "no warning"); }
 
-    QByteArrayList asked;
+    /// What was asked since the last take.
+    QByteArrayList take()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return std::exchange(m_asked, {});
+    }
+
+private:
+    void note(const char* what)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_asked.append(what);
+    }
+
+    std::mutex m_mutex;
+    QByteArrayList m_asked;
 };
 
 class FakePrograms : public ProgramControl
@@ -127,13 +142,29 @@ private:
 class FakeCamera : public CameraReports
 {
 public:
-    void setAutoFraming(bool on, int direction) override { autoFraming = {on, direction}; }
-    void setSmartFraming(bool on, int direction) override { smartFraming = {on, direction}; }
-    void setCameraSwitch(int sw) override { cameraSwitch = sw; }
+    void setAutoFraming(bool on, int direction) override
+    {
+        const std::scoped_lock lock(m_mutex);
+        autoFraming = {on, direction};
+    }
+    void setSmartFraming(bool on, int direction) override
+    {
+        const std::scoped_lock lock(m_mutex);
+        smartFraming = {on, direction};
+    }
+    void setCameraSwitch(int sw) override
+    {
+        const std::scoped_lock lock(m_mutex);
+        cameraSwitch = sw;
+    }
 
+    // To be read when no other thread reports.
     std::pair<bool, int> autoFraming{};
     std::pair<bool, int> smartFraming{};
     int cameraSwitch = -1;
+
+private:
+    std::mutex m_mutex;
 };
 
 /// Reports the three statuses that the test sets, once a pass.
