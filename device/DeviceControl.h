@@ -134,11 +134,11 @@ public:
     Q_INVOKABLE void launchTeams();
     Q_INVOKABLE void launchGoogleMeeting();
     Q_INVOKABLE void startBYOD();
-    Q_INVOKABLE void loginSuccess(QJsonObject root);
-    Q_INVOKABLE void profileUpdateSuccess(QJsonObject root);
-    Q_INVOKABLE void profileRequestSuccess(QJsonObject root);
+    Q_INVOKABLE void loginSuccess(const QJsonObject& root);
+    Q_INVOKABLE void profileUpdateSuccess(const QJsonObject& root);
+    Q_INVOKABLE void profileRequestSuccess(const QJsonObject& root);
     Q_INVOKABLE void setLogin(bool newLogin);
-    Q_INVOKABLE void setVideoSink(QVariant sinkVariant);
+    Q_INVOKABLE void setVideoSink(const QVariant& sinkVariant);
     /// Whether the monitor window wants frames.
     Q_INVOKABLE void monitorPlay(bool play);
     /// @param type  0 press, 1 release, 2 move

@@ -189,7 +189,7 @@ void DeviceControl::saveUserValue(const QString& key, const QString& value)
     emit addTask(u"saveDB"_s, {key, value, signIn});
 }
 
-void DeviceControl::loginSuccess(QJsonObject root)
+void DeviceControl::loginSuccess(const QJsonObject& root)
 {
     constexpr auto Function = "DeviceControl::loginSuccess";
     setLogin(true);
@@ -227,7 +227,7 @@ void DeviceControl::loginSuccess(QJsonObject root)
     saveUserValue(u"title"_s, title());
 }
 
-void DeviceControl::profileUpdateSuccess(QJsonObject root)
+void DeviceControl::profileUpdateSuccess(const QJsonObject& root)
 {
     if (!root["data"_L1].isObject()) {
         Log::error("DeviceControl::profileUpdateSuccess") << "not contains data";
@@ -237,7 +237,7 @@ void DeviceControl::profileUpdateSuccess(QJsonObject root)
 }
 
 /// The service answers a read with the user object itself, without the level that an edit has.
-void DeviceControl::profileRequestSuccess(QJsonObject root)
+void DeviceControl::profileRequestSuccess(const QJsonObject& root)
 {
     adoptProfile(root);
 }

@@ -58,7 +58,7 @@ void DeviceControl::launchGoogleMeeting()
     emit addTask(u"launchGoogleMeeting"_s, {});
 }
 
-void DeviceControl::setVideoSink(QVariant sinkVariant)
+void DeviceControl::setVideoSink(const QVariant& sinkVariant)
 {
     QVideoSink* const sink = sinkVariant.value<QVideoSink*>();
     m_videoSource.setVideoSink(sink);
