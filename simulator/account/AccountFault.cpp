@@ -13,7 +13,8 @@ namespace
 {
 
 constexpr auto kDripInterval = 20ms;
-constexpr qint64 kStreamAhead = 256 * 1024; // unsent bytes kept in the socket of an endless reply
+constexpr qint64 kStreamAhead =
+    qint64{256} * 1024; // unsent bytes kept in the socket of an endless reply
 
 constexpr auto kWrongTypes = R"({
     "success": true, "message": [], "userId": {}, "firstName": 1, "lastName": [], "email": {},
@@ -40,7 +41,7 @@ QByteArray success(qsizetype paddingSize)
 
 QByteArray compressedBomb()
 {
-    constexpr qsizetype unpackedSize = 64 * 1024 * 1024;
+    constexpr qsizetype unpackedSize = qsizetype{64} * 1024 * 1024;
     const QByteArray packed = qCompress(QByteArray(unpackedSize, ' ')).sliced(4); // Qt's own prefix
     return head("200 OK", packed.size(), "Content-Encoding: deflate\r\n") + packed;
 }
@@ -69,7 +70,7 @@ void stream(QTcpSocket* socket, const QByteArray& start, const QByteArray& chunk
 
 void drip(QTcpSocket* socket)
 {
-    const QByteArray body = success(1024 * 1024);
+    const QByteArray body = success(qsizetype{1024} * 1024);
     socket->write(head("200 OK", body.size()));
     auto* timer = new QTimer(socket);
     QObject::connect(timer, &QTimer::timeout, socket,
@@ -123,11 +124,11 @@ void reply(QTcpSocket* socket, Kind kind, const QByteArray& canned)
     case Kind::SlowDrip:
         return drip(socket);
     case Kind::LargeBody:
-        return sendJson(socket, success(5 * 1024 * 1024));
+        return sendJson(socket, success(qsizetype{5} * 1024 * 1024));
     case Kind::EndlessBody:
         return stream(socket,
                       "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n\r\n{\"padding\":\"",
-                      QByteArray(64 * 1024, ' '));
+                      QByteArray(qsizetype{64} * 1024, ' '));
     case Kind::CompressedBomb:
         return send(socket, compressedBomb());
     case Kind::ShortBody:

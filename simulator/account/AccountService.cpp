@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qsizetype kMaxRequestSize = 32 * 1024 * 1024;
+constexpr qsizetype kMaxRequestSize = qsizetype{32} * 1024 * 1024;
 
 QByteArray serialise(const AccountRequest& request)
 {
