@@ -3,6 +3,7 @@
 #include "simulator/account/AccountRequest.h"
 #include "simulator/account/AccountStore.h"
 
+#include <QHttpServer>
 #include <QHttpServerRequest>
 #include <QHttpServerResponse>
 #include <QJsonDocument>
@@ -49,13 +50,33 @@ QHttpServerResponse notJson()
 
 } // namespace
 
+class AccountRoutes::Server
+{
+public:
+    explicit Server(AccountStore& store)
+        : m_store(store)
+    {
+        addSignInRoutes();
+        addProfileRoutes();
+    }
+
+    [[nodiscard]] QHttpServer& http() { return m_http; }
+
+private:
+    void addSignInRoutes();
+    void addProfileRoutes();
+
+    AccountStore& m_store;
+    QHttpServer m_http;
+};
+
 AccountRoutes::AccountRoutes(AccountStore& store, QObject* parent)
     : QObject(parent)
-    , m_store(store)
+    , m_server(std::make_unique<Server>(store))
 {
-    addSignInRoutes();
-    addProfileRoutes();
 }
+
+AccountRoutes::~AccountRoutes() = default;
 
 bool AccountRoutes::listen()
 {
@@ -63,46 +84,45 @@ bool AccountRoutes::listen()
     if (!server->listen(QHostAddress::LocalHost))
         return false;
     m_port = server->serverPort();
-    static_cast<void>(m_server.bind(server.release())); // the HTTP server takes ownership
+    static_cast<void>(m_server->http().bind(server.release())); // the HTTP server takes ownership
     return true;
 }
 
-void AccountRoutes::addSignInRoutes()
+void AccountRoutes::Server::addSignInRoutes()
 {
-    m_server.route(u"/nc/auth/login"_s, Method::Post, [this](const QHttpServerRequest& request) {
+    m_http.route(u"/nc/auth/login"_s, Method::Post, [this](const QHttpServerRequest& request) {
         const QUrlQuery query = request.query();
         return response(
             m_store.signIn(credential(query, u"username"_s), credential(query, u"password"_s)));
     });
-    m_server.route(
-        u"/nc/users/register"_s, Method::Post, [this](const QHttpServerRequest& request) {
-            const auto fields = jsonBody(request);
-            if (!fields)
-                return notJson();
-            Account account;
-            account.firstName = fields->value("firstName"_L1).toString();
-            account.lastName = fields->value("lastName"_L1).toString();
-            account.email = decodeAccountCredential(fields->value("email"_L1).toString());
-            account.password = decodeAccountCredential(fields->value("password"_L1).toString());
-            return response(m_store.registerAccount(account));
-        });
-    m_server.route(
+    m_http.route(u"/nc/users/register"_s, Method::Post, [this](const QHttpServerRequest& request) {
+        const auto fields = jsonBody(request);
+        if (!fields)
+            return notJson();
+        Account account;
+        account.firstName = fields->value("firstName"_L1).toString();
+        account.lastName = fields->value("lastName"_L1).toString();
+        account.email = decodeAccountCredential(fields->value("email"_L1).toString());
+        account.password = decodeAccountCredential(fields->value("password"_L1).toString());
+        return response(m_store.registerAccount(account));
+    });
+    m_http.route(
         u"/nc/users/forgot-password"_s, Method::Post, [this](const QHttpServerRequest& request) {
             return response(m_store.requestPasswordReset(credential(request.query(), u"email"_s)));
         });
 }
 
-void AccountRoutes::addProfileRoutes()
+void AccountRoutes::Server::addProfileRoutes()
 {
-    m_server.route(u"/nc/users/<arg>"_s, Method::Get,
-                   [this](const QString& userId, const QHttpServerRequest& request) {
-                       return response(m_store.readProfile(userId, token(request)));
-                   });
-    m_server.route(u"/nc/users/<arg>"_s, Method::Put,
-                   [this](const QString& userId, const QHttpServerRequest& request) {
-                       const auto fields = jsonBody(request);
-                       if (!fields)
-                           return notJson();
-                       return response(m_store.updateProfile(userId, token(request), *fields));
-                   });
+    m_http.route(u"/nc/users/<arg>"_s, Method::Get,
+                 [this](const QString& userId, const QHttpServerRequest& request) {
+                     return response(m_store.readProfile(userId, token(request)));
+                 });
+    m_http.route(u"/nc/users/<arg>"_s, Method::Put,
+                 [this](const QString& userId, const QHttpServerRequest& request) {
+                     const auto fields = jsonBody(request);
+                     if (!fields)
+                         return notJson();
+                     return response(m_store.updateProfile(userId, token(request), *fields));
+                 });
 }
