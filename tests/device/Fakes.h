@@ -219,7 +219,7 @@ struct DeviceWorld {
                                             return versions.value(name);
                                         },
                                     .userSettings = [this]() -> UserSettings& { return settings; },
-                                    .camera = [this]() -> CameraReports& { return camera; },
+                                    .camera = [this]() -> CameraReports& { return *cameraReports; },
                                     .localDevices = std::move(fakeDevices),
                                     .rulesPath = folder.filePath(QStringLiteral("config.json")),
                                     .executablePath = QStringLiteral("/opt/VORNApp")},
@@ -240,6 +240,8 @@ struct DeviceWorld {
     FakePrograms programs;
     MemorySettings settings;
     FakeCamera camera;
+    /// Who hears the display's camera reports.
+    CameraReports* cameraReports = &camera;
     FakeDevices* devices = nullptr;
     std::mutex versionsMutex;
     QMap<QString, QString> versions;

@@ -1,0 +1,99 @@
+#include "PageRig.h"
+
+#include <QQmlContext>
+
+PageRig::PageRig()
+    : m_camera(m_world.channel)
+{
+    m_world.cameraReports = &m_camera;
+    DeviceControl& device = m_world.start();
+    connect(&device, &DeviceControl::addTask, this,
+            [this](const QString& task, const QVariantList& arguments) {
+                QStringList words{task};
+                for (const QVariant& argument : arguments)
+                    words += argument.toString();
+                m_tasks += words.join(u' ');
+            });
+    connect(&m_service, &AccountService::requestReceived, this,
+            [this](const AccountRequest& request) {
+                m_requests += QString::fromLatin1(request.method + ' ' + request.target);
+            });
+    if (!m_service.listen())
+        qFatal("The account service could not listen");
+    m_network.emplace(m_service.baseUrl(), m_identity);
+}
+
+void PageRig::publish(QQmlContext* context)
+{
+    context->setContextProperty(u"deviceControl"_s, &*m_world.device);
+    context->setContextProperty(u"ptz"_s, &m_camera);
+    context->setContextProperty(u"network"_s, &*m_network);
+    context->setContextProperty(u"windowManager"_s, &m_windows);
+    context->setContextProperty(u"rig"_s, this);
+}
+
+QVariantList PageRig::takeMessages()
+{
+    QVariantList messages;
+    for (const FakeChannel::Sent& sent : m_world.channel.take())
+        messages += QVariantMap{{u"id"_s, sent.id}, {u"text"_s, QString::fromStdString(sent.text)}};
+    return messages;
+}
+
+QStringList PageRig::takeMessageTexts()
+{
+    QStringList texts;
+    for (const FakeChannel::Sent& sent : m_world.channel.take())
+        texts += QString::fromStdString(sent.text);
+    return texts;
+}
+
+void PageRig::report(int id, const QString& json)
+{
+    m_world.device->handleChannelMessage(id, json.toStdString());
+}
+
+void PageRig::plug(bool microphone, bool speaker, bool camera)
+{
+    m_world.devices->mic = microphone ? 1 : 0;
+    m_world.devices->spk = speaker ? 1 : 0;
+    m_world.devices->cam = camera ? 1 : 0;
+}
+
+QStringList PageRig::takeTasks()
+{
+    return std::exchange(m_tasks, {});
+}
+
+void PageRig::setInstalledVersion(const QString& name, const QString& value)
+{
+    m_world.setVersion(name, value);
+}
+
+void PageRig::addAccount(const QVariantMap& account)
+{
+    m_service.store().addAccount({.userId = account.value(u"userId"_s).toString(),
+                                  .email = account.value(u"email"_s).toString(),
+                                  .password = account.value(u"password"_s).toString(),
+                                  .firstName = account.value(u"firstName"_s).toString(),
+                                  .lastName = account.value(u"lastName"_s).toString(),
+                                  .company = account.value(u"company"_s).toString(),
+                                  .title = account.value(u"title"_s).toString(),
+                                  .picture = account.value(u"picture"_s).toString()});
+}
+
+QVariantMap PageRig::account(const QString& email)
+{
+    const Account* found = m_service.store().accountByEmail(email);
+    if (!found)
+        return {};
+    return {{u"userId"_s, found->userId},       {u"email"_s, found->email},
+            {u"firstName"_s, found->firstName}, {u"lastName"_s, found->lastName},
+            {u"company"_s, found->company},     {u"title"_s, found->title},
+            {u"picture"_s, found->picture}};
+}
+
+QStringList PageRig::takeRequests()
+{
+    return std::exchange(m_requests, {});
+}
