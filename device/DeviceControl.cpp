@@ -75,6 +75,7 @@ DeviceControl::~DeviceControl()
     m_videoWorker->requestStop();
     m_videoReceiver->interrupt();
     m_applyTimer.stop();
+    m_taskThread.requestInterruption();
     m_taskThread.quit();
     m_taskThread.wait();
 }

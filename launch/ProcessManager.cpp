@@ -24,6 +24,8 @@ namespace
 {
 
 constexpr std::chrono::seconds kCommandPatience{30};
+// The main thread ends a companion program on its way out, when nobody should have to wait.
+constexpr std::chrono::milliseconds kMainThreadPatience{1'500};
 constexpr std::chrono::seconds kShortcutPatience{3};
 // Short, because the main thread may be waiting for this one to end.
 constexpr std::chrono::seconds kOpenPatience{1};
@@ -43,6 +45,12 @@ bool isExistingPath(const QString& path)
     return !path.isEmpty() && QFileInfo::exists(path);
 }
 
+bool isMainThread()
+{
+    const QCoreApplication* const application = QCoreApplication::instance();
+    return application && QThread::currentThread() == application->thread();
+}
+
 // The desktop's services may be asked on the main thread only. Whoever ends the program waits there
 // for this thread, so the answer is awaited for a bounded time and then given up.
 bool openInBrowser(const QUrl& address)
@@ -50,7 +58,7 @@ bool openInBrowser(const QUrl& address)
     QCoreApplication* const application = QCoreApplication::instance();
     if (!application)
         return false;
-    if (QThread::currentThread() == application->thread())
+    if (isMainThread())
         return QDesktopServices::openUrl(address);
 
     const auto promise = std::make_shared<std::promise<bool>>();
@@ -91,7 +99,8 @@ bool ProcessManager::startProcess(const QString& name, const QStringList& argume
 bool ProcessManager::killProcess(const QString& name)
 {
     constexpr auto kFunction = "ProcessManager::killProcess";
-    const auto outcome = platform::killByImageName(name, kCommandPatience);
+    const auto outcome =
+        platform::killByImageName(name, isMainThread() ? kMainThreadPatience : kCommandPatience);
     if (!outcome.finished) {
         Log::error(kFunction) << "kill " << name << " Failed to execute taskkill command!";
         return false;

@@ -17,7 +17,7 @@ public:
     /// Starts the program of this name beside the application, detached. The log names two
     /// arguments.
     static bool startProcess(const QString& name, const QStringList& arguments);
-    /// Ends every process of this image name; at most 30 s.
+    /// Ends every process of this image name; at most 30 s, on the main thread 1.5 s.
     static bool killProcess(const QString& name);
     /// Starts the program of this name beside the application unless it is running; at most 30 s.
     static void keepProcessAlive(const QString& name);

@@ -5,7 +5,8 @@
 #include <chrono>
 
 /// The processes of this computer, found by image name ("Zoom.exe"). Any thread; the calls block
-/// for at most the given patience.
+/// for at most the given patience, and on Windows, where they wait for the system's own tools, end
+/// unfinished when the thread is asked to stop.
 namespace platform
 {
 
@@ -15,7 +16,7 @@ struct KillOutcome {
     QString errorText;     ///< why not, in the system's words
 };
 
-/// Ends every process of this name but our own, without asking it.
+/// Ends every process of this name, on Linux but our own, without asking it.
 [[nodiscard]] KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience);
 
 struct RunningOutcome {

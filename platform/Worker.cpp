@@ -2,6 +2,15 @@
 
 #include "platform/ThreadName.h"
 
+#include <QThread>
+
+namespace
+{
+
+thread_local const StopRequest* t_request = nullptr;
+
+} // namespace
+
 bool StopRequest::isMade() const
 {
     const std::scoped_lock lock(m_mutex);
@@ -23,10 +32,17 @@ void StopRequest::make()
     m_changed.notify_all();
 }
 
+bool StopRequest::isMadeToThisThread()
+{
+    return t_request ? t_request->isMade() : QThread::currentThread()->isInterruptionRequested();
+}
+
 Worker::Worker(const char* name, Body body)
     : m_thread([this, name, body = std::move(body)] {
         platform::nameCurrentThread(name);
+        t_request = &m_stop;
         body(m_stop);
+        t_request = nullptr;
     })
 {
 }

@@ -16,6 +16,10 @@ public:
     /// Wakes whoever waits. May be called repeatedly.
     void make();
 
+    /// Whether the thread this is called on, a Worker's or a QThread that was interrupted, should
+    /// come to its end. For waits so deep in a call that no request reaches them.
+    [[nodiscard]] static bool isMadeToThisThread();
+
 private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;

@@ -1,5 +1,7 @@
 #include "platform/Shortcuts.h"
 
+#include "platform/windows/ChildCommand.h"
+
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -16,9 +18,8 @@ ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds pat
         u"(New-Object -ComObject WScript.Shell).CreateShortcut('%1').TargetPath"_s.arg(quotedPath);
 
     QProcess process;
-    process.start(u"powershell"_s, {u"-Command"_s, script});
     ShortcutTarget result;
-    result.finished = process.waitForFinished(static_cast<int>(patience.count()));
+    result.finished = runCommand(process, u"powershell"_s, {u"-Command"_s, script}, patience);
     if (!result.finished) {
         result.processError = process.errorString();
         return result;

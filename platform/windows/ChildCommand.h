@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+
+#include <chrono>
+
+class QProcess;
+
+namespace platform
+{
+
+/// Runs one of the system's command-line tools to its end. False when it could not start, crashed,
+/// did not end in time, or the calling thread was asked to stop meanwhile; it is killed then.
+bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
+                std::chrono::milliseconds patience);
+
+} // namespace platform
