@@ -5,6 +5,8 @@
 
 #include <QVideoFrameFormat>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -59,9 +61,11 @@ void VideoReceiver::run(const StopRequest& stop)
 {
     Log::info(Function) << "thread start";
     while (!stop.isMade()) {
+        if (!m_playing)
+            m_frames.rest();
         const bool isReady = m_playing && (m_channel->isOpen() || connectChannel());
         if (isReady)
-            waitForFrame();
+            waitForFrame(stop);
         else
             stop.waitFor(m_timing.pause);
     }
@@ -90,7 +94,7 @@ bool VideoReceiver::connectChannel()
     return true;
 }
 
-void VideoReceiver::waitForFrame()
+void VideoReceiver::waitForFrame(const StopRequest& stop)
 {
     using Outcome = platform::FrameChannel::WaitOutcome;
     const auto result = m_channel->wait(m_timing.frameWait);
@@ -103,21 +107,31 @@ void VideoReceiver::waitForFrame()
         break;
     case Outcome::Failed:
         Log::error(Function) << "wait [" << EventName << "] failed:" << result.error;
+        stop.waitFor(m_timing.pause); // or a wait that fails at once would fill the log
         break;
     case Outcome::Interrupted:
         break;
     }
 }
 
+/// Fails when the writer has cut the memory short. Opening the channel again then says so.
+bool VideoReceiver::read(std::size_t offset, void* target, std::size_t length)
+{
+    if (m_channel->copyOut(offset, target, length))
+        return true;
+    m_channel->close();
+    return false;
+}
+
 /// Reads the header once into a copy, since the writer may change it at any time.
 bool VideoReceiver::readHeader(FrameHeader& header)
 {
-    if (!m_channel->copyOut(0, &header.index, sizeof header.index))
+    if (!read(0, &header.index, sizeof header.index))
         return false;
     if (!FrameHeader::isInView(header.index))
         return true;
     std::array<uchar, FrameHeader::HeaderSize> bytes;
-    if (!m_channel->copyOut(FrameHeader::slotOffset(header.index), bytes.data(), bytes.size()))
+    if (!read(FrameHeader::slotOffset(header.index), bytes.data(), bytes.size()))
         return false;
     header.parse(bytes);
     return true;
@@ -139,36 +153,31 @@ void VideoReceiver::processFrame()
         appendHeader(message, header);
     }
 
-    QVideoFrame frame(frameFormat(header));
-    if (!frame.map(QVideoFrame::WriteOnly))
-        return;
     const std::size_t luma = FrameHeader::slotOffset(header.index) + FrameHeader::HeaderSize;
-    const bool isCopied = copyPlane(frame, 0, luma, header.w, header.h) &&
-                          copyPlane(frame, 1, luma + header.lumaSize(), header.chromaBytesPerRow(),
-                                    header.chromaRows());
-    frame.unmap();
-    if (!isCopied)
+    const QVideoFrame frame = m_frames.make(frameFormat(header), [&](const auto& planes) {
+        return copyRows(planes[0], luma, header.w, header.h) &&
+               copyRows(planes[1], luma + header.lumaSize(), header.chromaBytesPerRow(),
+                        header.chromaRows());
+    });
+    if (!frame.isValid())
         return;
     m_sink(frame);
     m_delivered();
 }
 
 /// The frame's rows may be padded while the shared memory's are not; without padding one block
-/// does.
-bool VideoReceiver::copyPlane(QVideoFrame& frame, int plane, std::size_t offset, int bytesPerRow,
-                              int rows)
+/// does. For a picture of odd height the frame may have no room for the last row of chroma.
+bool VideoReceiver::copyRows(const FrameFactory::Plane& target, std::size_t offset, int bytesPerRow,
+                             int rows)
 {
-    const int stride = frame.bytesPerLine(plane);
-    const std::size_t size = std::size_t(bytesPerRow) * rows;
-    if (stride < bytesPerRow || frame.mappedBytes(plane) < stride * (rows - 1) + bytesPerRow)
+    if (target.bytesPerLine < bytesPerRow)
         return false;
-    uchar* target = frame.bits(plane);
-    if (stride == bytesPerRow)
-        return m_channel->copyOut(offset, target, size);
-    for (int row = 0; row < rows; ++row) {
-        if (!m_channel->copyOut(offset + std::size_t(row) * bytesPerRow, target, bytesPerRow))
+    const std::size_t count = std::min(rows, target.rows);
+    if (target.bytesPerLine == bytesPerRow)
+        return read(offset, target.data, count * bytesPerRow);
+    for (std::size_t row = 0; row < count; ++row) {
+        if (!read(offset + row * bytesPerRow, target.data + row * target.bytesPerLine, bytesPerRow))
             return false;
-        target += stride;
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/FrameFactory.h"
 #include "platform/FrameChannel.h"
 #include "platform/Worker.h"
 
@@ -44,10 +45,11 @@ public:
 
 private:
     bool connectChannel();
-    void waitForFrame();
+    void waitForFrame(const StopRequest& stop);
     void processFrame();
+    bool read(std::size_t offset, void* target, std::size_t length);
     bool readHeader(FrameHeader& header);
-    bool copyPlane(QVideoFrame& frame, int plane, std::size_t offset, int bytesPerRow, int rows);
+    bool copyRows(const FrameFactory::Plane& target, std::size_t offset, int bytesPerRow, int rows);
 
     const FrameSink m_sink;
     const Delivered m_delivered;
@@ -55,5 +57,6 @@ private:
     const Timing m_timing;
     std::atomic_bool m_playing = false;
     // Video worker only.
+    FrameFactory m_frames;
     quint64 m_validFrames = 0;
 };

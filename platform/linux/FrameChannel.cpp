@@ -1,9 +1,9 @@
 #include "platform/FrameChannel.h"
 
+#include "platform/StreamCopy.h"
 #include "platform/linux/MemoryGuard.h"
 
 #include <cerrno>
-#include <cstring>
 #include <mutex>
 #include <utility>
 
@@ -92,7 +92,7 @@ public:
         if (!isOpen() || offset > m_viewSize || length > m_viewSize - offset)
             return false;
         const auto* source = static_cast<const std::byte*>(m_view) + offset;
-        return platform::guarded([=] { std::memcpy(target, source, length); });
+        return platform::guarded([=] { platform::streamCopy(target, source, length); });
     }
 
     void interrupt() override

@@ -1,9 +1,10 @@
 #include "platform/FrameChannel.h"
 
+#include "platform/StreamCopy.h"
+
 #include <qt_windows.h>
 
 #include <array>
-#include <cstring>
 #include <utility>
 
 namespace
@@ -84,7 +85,7 @@ public:
     {
         if (!isOpen() || offset > m_viewSize || length > m_viewSize - offset)
             return false;
-        std::memcpy(target, static_cast<const std::byte*>(m_view.get()) + offset, length);
+        platform::streamCopy(target, static_cast<const std::byte*>(m_view.get()) + offset, length);
         return true;
     }
 

@@ -1,0 +1,103 @@
+#include "device/FrameFactory.h"
+
+#include "device/FrameHeader.h"
+#include "platform/LargeBlocks.h"
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QAbstractVideoBuffer>
+#endif
+
+namespace
+{
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+
+using Planes = std::array<FrameFactory::Plane, 2>;
+
+/// Lines begin where graphics interfaces like them to, and hold whole pairs of chroma.
+constexpr int LineAlignment = 16;
+
+/// Its memory goes back when the buffer is destroyed and not before, as a picture may be read by
+/// the graphics card after it was unmapped.
+class PooledBuffer final : public QAbstractVideoBuffer
+{
+public:
+    PooledBuffer(QVideoFrameFormat format, FrameMemory::Block block, const Planes& planes)
+        : m_format(std::move(format))
+        , m_block(std::move(block))
+        , m_planes(planes)
+    {
+    }
+
+    MapData map(QVideoFrame::MapMode) override
+    {
+        MapData mapped;
+        mapped.planeCount = int(m_planes.size());
+        for (std::size_t i = 0; i < m_planes.size(); ++i) {
+            const auto& plane = m_planes[i];
+            mapped.data[i] = plane.data;
+            mapped.bytesPerLine[i] = plane.bytesPerLine;
+            mapped.dataSize[i] = plane.bytesPerLine * plane.rows;
+        }
+        return mapped;
+    }
+
+    QVideoFrameFormat format() const override { return m_format; }
+
+private:
+    const QVideoFrameFormat m_format;
+    const FrameMemory::Block m_block;
+    const Planes m_planes;
+};
+
+#endif
+
+} // namespace
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+
+FrameFactory::FrameFactory() = default;
+
+QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill)
+{
+    const int width = format.frameWidth();
+    const int height = format.frameHeight();
+    const int bytesPerLine = (width + LineAlignment - 1) / LineAlignment * LineAlignment;
+    const int chromaRows = (height + 1) / 2;
+    FrameMemory::Block block = m_memory.take(std::size_t(bytesPerLine) * (height + chromaRows));
+    uchar* const luma = block.data();
+    const Planes planes{{{luma, bytesPerLine, height},
+                         {luma + std::size_t(bytesPerLine) * height, bytesPerLine, chromaRows}}};
+    if (!fill(planes))
+        return {};
+    return QVideoFrame(std::make_unique<PooledBuffer>(format, std::move(block), planes));
+}
+
+#else
+
+FrameFactory::FrameFactory()
+{
+    platform::keepLargeBlocks(FrameHeader::MaximumDataSize, FrameMemory::BlockCount);
+}
+
+QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill)
+{
+    QVideoFrame frame(format);
+    if (!frame.map(QVideoFrame::WriteOnly))
+        return {};
+    std::array<Plane, 2> planes;
+    for (int i = 0; i < int(planes.size()); ++i) {
+        const int bytesPerLine = frame.bytesPerLine(i);
+        planes[i] = {frame.bits(i), bytesPerLine, frame.mappedBytes(i) / bytesPerLine};
+    }
+    const bool isFilled = fill(planes);
+    frame.unmap();
+    return isFilled ? frame : QVideoFrame();
+}
+
+#endif
+
+void FrameFactory::rest()
+{
+    m_memory.clear();
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "device/FrameHeader.h"
+#include "platform/FrameChannel.h"
+
+#include <QtEndian>
+
+#include <cstring>
+#include <functional>
+#include <vector>
+
+/// Shared memory without another process. The test plays the writer: it is asked each time the
+/// receiver waits, on the receiver's thread.
+class FakeFrameChannel : public platform::FrameChannel
+{
+public:
+    using Writer = std::function<WaitResult(FakeFrameChannel& channel)>;
+
+    explicit FakeFrameChannel(Writer writer)
+        : m_writer(std::move(writer))
+        , m_view(FrameHeader::ViewSize)
+    {
+    }
+
+    OpenResult open() override
+    {
+        const OpenResult result = onOpen ? onOpen() : OpenResult{};
+        m_isOpen = result.failedAt == OpenStep::Done;
+        return result;
+    }
+    bool isOpen() const override { return m_isOpen; }
+    void close() override { m_isOpen = false; }
+    WaitResult wait(std::chrono::milliseconds) override { return m_writer(*this); }
+    std::size_t size() const override { return m_isOpen ? m_view.size() : 0; }
+    void interrupt() override {}
+
+    bool copyOut(std::size_t offset, void* target, std::size_t length) override
+    {
+        if (offset > m_view.size() || length > m_view.size() - offset) {
+            ++readsOutside;
+            return false;
+        }
+        if (isCutShort)
+            return false;
+        std::memcpy(target, m_view.data() + offset, length);
+        if (afterRead)
+            afterRead();
+        return true;
+    }
+
+    uchar* view() { return m_view.data(); }
+    uchar* data() { return view() + 1 + FrameHeader::HeaderSize; }
+
+    void putHeader(const FrameHeader& header)
+    {
+        m_view[0] = header.index;
+        uchar* const slot = view() + 1;
+        qToLittleEndian(header.frame_idx, slot);
+        qToLittleEndian(header.w, slot + 4);
+        qToLittleEndian(header.h, slot + 6);
+        qToLittleEndian(header.len, slot + 8);
+    }
+
+    std::function<OpenResult()> onOpen;
+    std::function<void()> afterRead;
+    bool isCutShort = false;
+    int readsOutside = 0;
+
+private:
+    const Writer m_writer;
+    std::vector<uchar> m_view; // of the exact size, so that a sanitizer sees the first byte beyond
+    bool m_isOpen = false;
+};

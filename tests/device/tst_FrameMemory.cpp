@@ -1,0 +1,101 @@
+#include "device/FrameFactory.h"
+
+#include <QTest>
+
+#include <set>
+#include <thread>
+
+/// Memory that goes from frame to frame.
+class tst_FrameMemory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void usesBlocksAgain();
+    void givesMoreWhenAllAreInUse();
+    void growsToTheLargestFrame();
+    void outlivesItsOwner();
+    void blocksComeBackOnAnyThread();
+    void aFrameGivenUpIsNull();
+};
+
+void tst_FrameMemory::usesBlocksAgain()
+{
+    FrameMemory memory;
+    std::set<uchar*> seen;
+    for (int i = 0; i < 1000; ++i) {
+        const FrameMemory::Block first = memory.take(10'000);
+        const FrameMemory::Block second = memory.take(9'000);
+        QVERIFY(first.data() != second.data());
+        std::memset(first.data(), 1, 10'000);
+        seen.insert({first.data(), second.data()});
+    }
+    QVERIFY(seen.size() <= FrameMemory::BlockCount);
+}
+
+void tst_FrameMemory::givesMoreWhenAllAreInUse()
+{
+    FrameMemory memory;
+    std::vector<FrameMemory::Block> held;
+    std::set<uchar*> seen;
+    for (int i = 0; i < 3 * FrameMemory::BlockCount; ++i) {
+        held.push_back(memory.take(4096));
+        seen.insert(held.back().data());
+    }
+    QCOMPARE(seen.size(), held.size());
+}
+
+void tst_FrameMemory::growsToTheLargestFrame()
+{
+    FrameMemory memory;
+    std::optional<FrameMemory::Block> small(memory.take(100));
+    const FrameMemory::Block large = memory.take(100'000);
+    std::memset(large.data(), 1, 100'000);
+    small.reset(); // too small to be used again
+    std::vector<FrameMemory::Block> held;
+    for (int i = 0; i < FrameMemory::BlockCount; ++i) {
+        held.push_back(memory.take(100'000));
+        std::memset(held.back().data(), 1, 100'000);
+    }
+}
+
+void tst_FrameMemory::outlivesItsOwner()
+{
+    auto memory = std::make_unique<FrameMemory>();
+    const FrameMemory::Block block = memory->take(100);
+    std::optional<FrameMemory::Block> another(memory->take(100));
+    memory->clear();
+    another.reset();
+    memory.reset();
+    std::memset(block.data(), 1, 100);
+}
+
+void tst_FrameMemory::blocksComeBackOnAnyThread()
+{
+    FrameMemory memory;
+    for (int i = 0; i < 200; ++i) {
+        auto block = std::make_unique<FrameMemory::Block>(memory.take(100'000));
+        std::memset(block->data(), i, 100'000);
+        std::thread([block = std::move(block), i] {
+            QCOMPARE(int(block->data()[99'999]), i);
+        }).join();
+    }
+}
+
+void tst_FrameMemory::aFrameGivenUpIsNull()
+{
+    FrameFactory factory;
+    const QVideoFrameFormat format(QSize(34, 20), QVideoFrameFormat::Format_NV12);
+    QVERIFY(!factory.make(format, [](const auto&) { return false; }).isValid());
+    QVideoFrame frame = factory.make(format, [](const auto& planes) {
+        planes[0].data[planes[0].bytesPerLine] = 7;
+        return planes[0].rows >= 20 && planes[1].rows >= 10;
+    });
+    factory.rest();
+    QVERIFY(frame.map(QVideoFrame::ReadOnly));
+    QCOMPARE(int(frame.bits(0)[frame.bytesPerLine(0)]), 7);
+    frame.unmap();
+}
+
+QTEST_GUILESS_MAIN(tst_FrameMemory)
+#include "tst_FrameMemory.moc"

@@ -1,0 +1,89 @@
+#include "device/NV12VideoSource.h"
+
+#include <QTest>
+#include <QVideoFrameFormat>
+
+#include <atomic>
+#include <thread>
+
+/// Frames pushed by a worker while sinks come and go.
+class tst_NV12VideoSource : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sinksComeAndGo();
+    void slowSinkGetsTheNewestFrame();
+    void endsWhileFramesFlow();
+
+private:
+    static QVideoFrame frame(int width)
+    {
+        return QVideoFrame(QVideoFrameFormat(QSize(width, 2), QVideoFrameFormat::Format_NV12));
+    }
+};
+
+void tst_NV12VideoSource::sinksComeAndGo()
+{
+    NV12VideoSource source;
+    std::atomic_bool isOver = false;
+    std::thread worker([&] {
+        for (int i = 1; !isOver; ++i)
+            source.pushFrame(frame(2 * (i % 50 + 1)));
+    });
+    int shown = 0;
+    for (int i = 0; i < 5000; ++i) {
+        auto sink = std::make_unique<QVideoSink>();
+        connect(sink.get(), &QVideoSink::videoFrameChanged, this, [&] { ++shown; });
+        source.setVideoSink(sink.get());
+        QCoreApplication::processEvents();
+        if (i % 2 == 0) // as a window closes; otherwise the sink just goes
+            source.setVideoSink(nullptr);
+    }
+    QVideoSink last;
+    source.setVideoSink(&last);
+    isOver = true;
+    worker.join();
+    source.pushFrame(frame(1000));
+    QTRY_COMPARE(last.videoFrame().width(), 1000);
+    QVERIFY(shown > 0);
+}
+
+void tst_NV12VideoSource::slowSinkGetsTheNewestFrame()
+{
+    NV12VideoSource source;
+    QVideoSink sink;
+    source.setVideoSink(&sink);
+    QList<int> shown;
+    connect(&sink, &QVideoSink::videoFrameChanged, this,
+            [&](const QVideoFrame& frame) { shown.append(frame.width()); });
+    for (int i = 0; i < 10; ++i) {
+        std::thread([&] { // the main thread is busy meanwhile
+            for (int k = 1; k <= 100; ++k)
+                source.pushFrame(frame(2 * (100 * i + k)));
+        })
+            .join();
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(shown, (QList<int>{200, 400, 600, 800, 1000, 1200, 1400, 1600, 1800, 2000}));
+}
+
+void tst_NV12VideoSource::endsWhileFramesFlow()
+{
+    for (int i = 0; i < 200; ++i) {
+        QVideoSink sink;
+        auto source = std::make_unique<NV12VideoSource>();
+        source->setVideoSink(&sink);
+        std::thread worker([&] {
+            for (int k = 1; k < 50; ++k)
+                source->pushFrame(frame(2 * k));
+        });
+        QCoreApplication::processEvents();
+        worker.join(); // as the program's worker is, before the source goes
+        source.reset();
+        QCoreApplication::processEvents();
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_NV12VideoSource)
+#include "tst_NV12VideoSource.moc"
