@@ -10,14 +10,13 @@ bin=$root/build/release/bin
 home=$(mktemp -d)
 clean_up() {
   stop_screen
-  rm -rf "$home" "$bin/PatchPilot"
+  rm -rf "$home"
 }
 trap clean_up EXIT
 start_screen
 
-# The updater that the program looks after; without one each look would start a process.
-cp "$(command -v sleep)" "$bin/PatchPilot"
-"$bin/PatchPilot" 1000 &
+# The updater that the program looks after; without one the first look would start it.
+XDG_CONFIG_HOME=$home "$bin/PatchPilot" &
 screen_pids+=($!)
 
 step "Ratios"
