@@ -247,7 +247,8 @@ private:
 
     void loadVersion();
     void loadNewVersion();
-    void reportVersions();
+    /// True when there is a newer version.
+    bool reportVersions(const char* function);
     void queryFirmwareVersion();
 
     void requestWindow(int mode);

@@ -20,7 +20,7 @@ void DeviceControl::DetectProgramStatusProc(const StopRequest& stop)
         m_upgrade.watchdogPass();
         loadVersion();
         loadNewVersion();
-        reportVersions();
+        reportVersions(Function);
         m_services.localDevices->checkDevices(*this);
         queryFirmwareVersion();
         stop.waitFor(m_timing.statusPass);
@@ -46,32 +46,31 @@ void DeviceControl::loadNewVersion()
     setNewVersion(value);
 }
 
-void DeviceControl::reportVersions()
+bool DeviceControl::reportVersions(const char* function)
 {
     const QString installed = version();
     const QString newest = newVersion();
     if (installed.isEmpty() || newest.isEmpty())
-        return;
+        return false;
+    const bool isUpdating = m_upgrade.isUpdating();
     if (installed != newest) {
-        if (!m_upgrade.isUpdating())
+        if (!isUpdating)
             emit hasNewVersion(true);
-        return;
+        return true;
     }
     emit hasNewVersion(false);
-    if (!m_upgrade.isUpdating())
-        return;
-    Log::info("DeviceControl::checkUpdate") << "emit updateCompleted()";
-    emit updateCompleted();
+    if (isUpdating) {
+        Log::info(function) << "emit updateCompleted()";
+        emit updateCompleted();
+    }
+    return false;
 }
 
 bool DeviceControl::checkUpdate(int)
 {
     loadVersion();
     loadNewVersion();
-    reportVersions();
-    const QString installed = version();
-    const QString newest = newVersion();
-    return !installed.isEmpty() && !newest.isEmpty() && installed != newest;
+    return reportVersions("DeviceControl::checkUpdate");
 }
 
 void DeviceControl::startUpdate()

@@ -16,6 +16,9 @@ const QString& updaterName()
 
 constexpr int PassesPerCheck = 5;
 
+constexpr auto StartFunction = "DeviceControl::startUpdate";
+constexpr auto TimeOutFunction = "DeviceControl::updateTimeout";
+
 } // namespace
 
 UpgradeControl::UpgradeControl(ProgramControl& programs, QString executablePath,
@@ -38,11 +41,13 @@ UpgradeControl::~UpgradeControl()
 
 void UpgradeControl::start()
 {
+    Log::info(StartFunction) << "Execute upgrade tasks";
     post(Step::Upgrade);
 }
 
 void UpgradeControl::timeOut()
 {
+    Log::info(TimeOutFunction) << "update timeout";
     post(Step::TimeOut);
 }
 
@@ -88,26 +93,22 @@ void UpgradeControl::run(const StopRequest& stop)
 
 void UpgradeControl::upgrade(const StopRequest& stop)
 {
-    constexpr auto Function = "DeviceControl::startUpdate";
-    Log::info(Function) << "Execute upgrade tasks";
     const std::scoped_lock lock(m_updateMutex);
     m_updateStarted = true;
     m_keepUpdaterAlive = false;
-    Log::info(Function) << "kill:" << updaterName();
+    Log::info(StartFunction) << "kill:" << updaterName();
     m_programs.killProcess(updaterName());
     if (stop.waitFor(m_pauseAfterKill))
         return;
-    Log::info(Function) << "start:" << updaterName();
+    Log::info(StartFunction) << "start:" << updaterName();
     m_programs.startProcess(updaterName(), {u"update"_s, m_executablePath});
 }
 
 void UpgradeControl::giveUp()
 {
-    constexpr auto Function = "DeviceControl::updateTimeout";
-    Log::info(Function) << "update timeout";
     const std::scoped_lock lock(m_updateMutex);
     m_updateStarted = false;
-    Log::info(Function) << "kill:" << updaterName();
+    Log::info(TimeOutFunction) << "kill:" << updaterName();
     m_programs.killProcess(updaterName());
     m_keepUpdaterAlive = true;
 }

@@ -16,8 +16,17 @@ class ProgramControl;
 /// Deals with the updater program: keeps it running in the background, and for an upgrade stops it
 /// and starts it again with the path of the application to replace.
 ///
-/// start() and timeOut() return at once; their steps run in order on a worker thread. The watchdog
-/// never restarts the background updater between the kill and the start of an upgrade.
+/// start() and timeOut() return at once; their steps run in order on a worker thread, and take as
+/// long as the killing and the pause. After them:
+///
+///                  isUpdating()   watchdog keeps the background updater
+///     at first     false          yes
+///     start()      true           no, from before the kill on
+///     timeOut()    false          yes
+///
+/// A completed upgrade changes neither: the program quits then. What the updater does, or that it
+/// cannot be killed or started, is logged and otherwise ignored; whoever waits for the upgrade sets
+/// the time-out.
 class UpgradeControl
 {
 public:
