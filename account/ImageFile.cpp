@@ -42,7 +42,8 @@ QImage load(const QString& path)
     if (!QFileInfo(path).isFile())
         return {};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // Some formats are read into memory whole before they are looked at.
+    if (!file.open(QIODevice::ReadOnly) || file.size() > ImageFile::kMaxFileSize)
         return {};
 
     QImageReader reader(&file);

@@ -13,6 +13,8 @@ namespace ImageFile
 /// Largest decoded picture, in bytes at 4 a pixel; larger ones are refused before any pixel is
 /// decoded.
 inline constexpr qint64 kMaxDecodedSize = 128LL * 1024 * 1024;
+/// Largest file that is opened as a picture, in bytes.
+inline constexpr qint64 kMaxFileSize = 128LL * 1024 * 1024;
 
 /// Turns a file URL ("file:///...", "file://host/...") or a resource URL ("qrc:/...") into the path
 /// it names; anything else is a path already and comes back unchanged. Escapes such as "%20" are

@@ -152,6 +152,8 @@ void ImageFileTest::encodes_data()
     QTest::newRow("truncated jpeg head") << u"cut.jpg"_s << jpeg.first(64) << QByteArray();
     QTest::newRow("png bomb") << u"bomb.png"_s << pngBomb() << QByteArray();
     QTest::newRow("bitmap bomb") << u"bomb.bmp"_s << bitmapBomb() << QByteArray();
+    QTest::newRow("truncated jpeg body")
+        << u"half.jpg"_s << jpeg.first(jpeg.size() / 2) << "JPG"_ba;
     QTest::newRow("drawing")
         << u"drawing.png"_s
         << R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)"_ba << QByteArray();
@@ -179,6 +181,12 @@ void ImageFileTest::refusesWhatIsNoFile()
     QCOMPARE(ImageFile::encode(m_folder.filePath(u"gone.png"_s)).status, Status::NotLoaded);
     QCOMPARE(ImageFile::encode(m_folder.path()).status, Status::NotLoaded);
     QCOMPARE(ImageFile::encode({}).status, Status::NotLoaded);
+    // A good picture with an endless tail: a hole, which takes no room on the disk.
+    QFile file(m_folder.filePath(u"endless.png"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(pictureBytes("PNG"));
+    QVERIFY(file.resize(5LL * 1024 * 1024 * 1024));
+    QCOMPARE(ImageFile::encode(file.fileName()).status, Status::NotLoaded);
 #ifdef Q_OS_UNIX
     const QString pipe = m_folder.filePath(u"pipe.png"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
