@@ -234,6 +234,12 @@ void tst_DeviceControl::updaterIsWatchedAndUpgraded()
     int completed = 0;
     QObject receiver;
     connect(&device, &DeviceControl::updateCompleted, &receiver, [&completed] { ++completed; });
+    int news = 0;
+    connect(&device, &DeviceControl::hasNewVersion, &receiver, [&news] { ++news; });
+    const auto threePasses = [&world] {
+        const int from = world.devices->passes;
+        return QTest::qWaitFor([&] { return world.devices->passes >= from + 3; });
+    };
     const auto count = [&world](const QString& call) { return world.programs.calls().count(call); };
     QTRY_VERIFY(count(u"keep PatchPilot.exe"_s) >= 2);
 
@@ -243,6 +249,11 @@ void tst_DeviceControl::updaterIsWatchedAndUpgraded()
     const QStringList calls = world.programs.calls();
     QCOMPARE(calls.mid(calls.indexOf(u"kill PatchPilot.exe"_s)),
              (QStringList{u"kill PatchPilot.exe"_s, start}));
+    // Until it is complete there is nothing new to tell.
+    QVERIFY(threePasses());
+    news = 0;
+    QVERIFY(threePasses());
+    QCOMPARE(news + completed, 0);
     world.setVersion(u"version"_s, u"2.0"_s);
     QTRY_VERIFY(completed > 1);
 
