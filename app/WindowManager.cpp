@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QIcon>
 #include <QLocalSocket>
 #include <QTimer>
@@ -131,6 +132,11 @@ void WindowManager::hideToTray()
     if (m_trayIcon)
         m_trayIcon->setVisible(true);
     emit requestShow(false);
+}
+
+QPoint WindowManager::cursorPosition() const
+{
+    return QCursor::pos();
 }
 
 void WindowManager::askToShow(bool show)

@@ -5,6 +5,7 @@
 #include <QLocalServer>
 #include <QMenu>
 #include <QObject>
+#include <QPoint>
 #include <QSystemTrayIcon>
 
 #include <chrono>
@@ -30,6 +31,8 @@ public:
     static WindowManager& instance();
 
     Q_INVOKABLE void hideToTray();
+    /// Where the pointer is on the screens, in device-independent pixels.
+    Q_INVOKABLE QPoint cursorPosition() const;
 
     /// Gives the server's name up, so that a start from now on becomes the first instance.
     void closeServer();

@@ -7,6 +7,9 @@ Window {
     // The monitor window while one exists.
     property Window monitorWindow: null
 
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property var windows: windowManager // qmllint disable unqualified
+
     function showAndRaise(): void {
         if (monitorWindow !== null && monitorWindow.visibility !== Window.Minimized) {
             monitorWindow.raise();
@@ -38,11 +41,11 @@ Window {
     Component.onCompleted: showAndRaise()
     onClosing: close => {
         close.accepted = false;
-        windowManager.hideToTray(); // qmllint disable unqualified
+        mainWindow.windows.hideToTray();
     }
 
     Connections {
-        target: windowManager // qmllint disable unqualified
+        target: mainWindow.windows
 
         function onRequestShow(show: bool): void {
             if (show)
@@ -61,19 +64,30 @@ Window {
 
         MouseArea {
             property point pressPoint
+            property point windowPoint
 
             anchors.fill: parent
-            onPressed: mouse => {
-                pressPoint = Qt.point(mouse.x, mouse.y);
+            // Positions on the screen: those in the window lag behind while it moves, and it would jump.
+            onPressed: {
+                pressPoint = mainWindow.windows.cursorPosition();
+                windowPoint = Qt.point(mainWindow.x, mainWindow.y);
             }
-            onPositionChanged: mouse => {
-                mainWindow.x += mouse.x - pressPoint.x;
-                mainWindow.y += mouse.y - pressPoint.y;
+            onPositionChanged: {
+                const cursor = mainWindow.windows.cursorPosition();
+                mainWindow.x = windowPoint.x + cursor.x - pressPoint.x;
+                mainWindow.y = windowPoint.y + cursor.y - pressPoint.y;
             }
         }
 
-        StatePanel {
+        LoginPage {
             anchors.fill: parent
+            visible: !mainWindow.device.login
+        }
+
+        MainPage {
+            anchors.fill: parent
+            visible: mainWindow.device.login
+            onVisibleChanged: currentPage = page_id_meetings
         }
 
         Row {
@@ -99,7 +113,7 @@ Window {
                 width: 30
                 height: 30
                 accessibleName: qsTr("Close")
-                onClicked: windowManager.hideToTray() // qmllint disable unqualified
+                onClicked: mainWindow.windows.hideToTray()
 
                 Image {
                     source: "qrc:/images/close_30x120.png"

@@ -1,9 +1,12 @@
 #include "PageRig.h"
 
+#include <QImage>
 #include <QQmlContext>
+#include <QUrl>
 
 PageRig::PageRig()
     : m_camera(m_world.channel)
+    , m_screen(m_world)
 {
     m_world.cameraReports = &m_camera;
     DeviceControl& device = m_world.start();
@@ -30,6 +33,7 @@ void PageRig::publish(QQmlContext* context)
     context->setContextProperty(u"network"_s, &*m_network);
     context->setContextProperty(u"windowManager"_s, &m_windows);
     context->setContextProperty(u"rig"_s, this);
+    context->setContextProperty(u"screen"_s, &m_screen);
 }
 
 QVariantList PageRig::takeMessages()
@@ -96,4 +100,26 @@ QVariantMap PageRig::account(const QString& email)
 QStringList PageRig::takeRequests()
 {
     return std::exchange(m_requests, {});
+}
+
+void PageRig::endSessions(const QString& email)
+{
+    m_service.store().revokeTokens(account(email).value(u"userId"_s).toString());
+}
+
+QString PageRig::makePicture(const QString& name, int size)
+{
+    truncatePicture(name);
+    QFile file(m_world.folder.filePath(name));
+    if (!file.open(QIODevice::Append) || !file.resize(size))
+        qFatal("The picture could not be written");
+    return QUrl::fromLocalFile(file.fileName()).toString(QUrl::FullyEncoded);
+}
+
+void PageRig::truncatePicture(const QString& name)
+{
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    if (!image.save(m_world.folder.filePath(name), "PNG"))
+        qFatal("The picture could not be written");
 }

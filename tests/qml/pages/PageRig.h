@@ -5,6 +5,7 @@
 #include "peripherals/CameraControl.h"
 #include "simulator/account/AccountService.h"
 
+#include "ScreenRig.h"
 #include "account/NetworkManager.h"
 
 #include <QPoint>
@@ -64,6 +65,12 @@ public:
     Q_INVOKABLE void addAccount(const QVariantMap& account);
     /// The service's own record of an account, without its password.
     Q_INVOKABLE QVariantMap account(const QString& email);
+    /// Ends the account's sessions, as an expiry would.
+    Q_INVOKABLE void endSessions(const QString& email);
+    /// Writes a PNG file padded to that many bytes and returns its URL.
+    Q_INVOKABLE QString makePicture(const QString& name, int size);
+    /// Cuts a picture that was made down to what it shows.
+    Q_INVOKABLE void truncatePicture(const QString& name);
     /// The requests that the service has had since the last call, each "METHOD path?query".
     Q_INVOKABLE QStringList takeRequests();
     /// Takes the service off the network.
@@ -72,6 +79,7 @@ public:
 private:
     DeviceWorld m_world;
     CameraControl m_camera;
+    ScreenRig m_screen;
     SignedInAccount m_identity;
     AccountService m_service;
     std::optional<NetworkManager> m_network;

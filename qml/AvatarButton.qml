@@ -1,0 +1,46 @@
+import QtQuick
+
+// The user's picture, ringed while it is current, and first name.
+ControlButton {
+    id: button
+
+    required property bool current
+    property alias imageSource: picture.imageSource
+    property alias text: label.text
+    // Right edge of the name at the most.
+    property real maximumWidth: 208
+
+    width: ring.width + (text !== "" ? 16 + label.width : 0)
+    height: ring.height
+    accessibleName: text !== "" ? qsTr("Profile of %1").arg(text) : qsTr("Profile")
+
+    Rectangle {
+        id: ring
+
+        width: 52
+        height: 52
+        radius: 26
+        color: "transparent"
+        border.width: 2
+        border.color: button.current ? "#4DAF4E" : "transparent"
+
+        CircularImage {
+            id: picture
+
+            anchors.centerIn: parent
+            width: 48
+        }
+    }
+
+    LatoRegularLabel {
+        id: label
+
+        x: ring.width + 16
+        anchors.verticalCenter: ring.verticalCenter
+        width: Math.min(implicitWidth, button.maximumWidth - x)
+        elide: Text.ElideRight
+        textFormat: Text.PlainText
+        font.pixelSize: 16
+        font.weight: Font.Medium
+    }
+}

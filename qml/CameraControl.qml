@@ -1,0 +1,70 @@
+import QtQuick
+
+// The camera page: asks for the display's camera while that is off, and steers it while it is in use.
+Item {
+    id: page
+
+    readonly property int page_id_open_camera: 0
+    readonly property int page_id_ptz: 1
+    property int currentPage: page_id_open_camera
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property var camera: ptz // qmllint disable unqualified
+    readonly property int connectMode: device.connectMode
+
+    onConnectModeChanged: {
+        if (page.connectMode === 0)
+            page.currentPage = page.page_id_open_camera;
+        else
+            page.camera.requestStatus();
+    }
+
+    Connections {
+        target: page.camera
+
+        function onCameraSwitch(sw: int): void {
+            page.currentPage = sw !== 0 ? page.page_id_ptz : page.page_id_open_camera;
+        }
+    }
+
+    FacePanel {
+        id: frame
+
+        LatoRegularLabel {
+            id: openCameraFace
+
+            objectName: "openCameraFace"
+            anchors.centerIn: parent
+            visible: page.currentPage === page.page_id_open_camera
+            text: qsTr("Please turn on your camera in any app\nto make adjustments")
+            color: "#BBC7CE"
+            font.pixelSize: 24
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
+        PTZ {
+            id: ptzFace
+
+            objectName: "ptzFace"
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_ptz
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 20
+            spacing: 8
+
+            PageDot {
+                current: openCameraFace.visible
+            }
+
+            PageDot {
+                current: ptzFace.visible
+            }
+        }
+    }
+}

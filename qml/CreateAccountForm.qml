@@ -1,0 +1,116 @@
+import QtQuick
+
+// Creates an account for a work address.
+LoginForm {
+    id: form
+
+    readonly property string firstName: firstNameField.text
+    readonly property string lastName: lastNameField.text
+    readonly property string email: emailField.text
+    readonly property string password: passwordField.text
+    // Domains of mail services that anybody can use; their sub-domains count too.
+    required property list<string> notCompanyEmail
+
+    signal accepted
+
+    function isNotCompanyEmail(email: string): bool {
+        const parts = email.toLowerCase().split("@");
+        if (parts.length !== 2)
+            return false;
+        const domain = parts[1];
+        return form.notCompanyEmail.some(listed => domain === listed || domain.endsWith("." + listed));
+    }
+
+    function fields(): var {
+        return [firstNameField, lastNameField, emailField, passwordField, confirmField];
+    }
+
+    function reset(): void {
+        for (const field of form.fields())
+            field.reset();
+    }
+
+    function focusFirstField(): void {
+        firstNameField.forceActiveFocus();
+    }
+
+    function submit(): void {
+        for (const field of form.fields())
+            field.checkInputComplete();
+        if (form.fields().every(field => field.valid) && passwordField.text === confirmField.text)
+            form.accepted();
+    }
+
+    title: qsTr("Create an Account")
+    subline: qsTr("Already have an account?")
+    linkText: qsTr("Sign In")
+    submitText: qsTr("Create Account")
+    submitY: 470
+
+    Column {
+        y: 201
+        spacing: 25
+
+        Row {
+            spacing: 15
+
+            QuickTextField {
+                id: firstNameField
+
+                objectName: "firstName"
+                width: 180
+                placeholderText: qsTr("First Name")
+                allowedChars: regexNoSpecialChars
+                errorMessage: qsTr("The format is incorrect")
+                nextFocusItem: lastNameField
+            }
+
+            QuickTextField {
+                id: lastNameField
+
+                objectName: "lastName"
+                width: 180
+                placeholderText: qsTr("Last Name")
+                allowedChars: regexNoSpecialChars
+                errorMessage: qsTr("The format is incorrect")
+                nextFocusItem: emailField
+            }
+        }
+
+        QuickTextField {
+            id: emailField
+
+            objectName: "email"
+            placeholderText: qsTr("Email")
+            allowedChars: regexEmail
+            errorMessage: contentValid ? qsTr("The format is incorrect")
+                                       : qsTr("Please use a work email address to register.")
+            nextFocusItem: passwordField
+            Component.onCompleted: onContentCheck = () => !form.isNotCompanyEmail(text)
+        }
+
+        QuickTextField {
+            id: passwordField
+
+            objectName: "password"
+            placeholderText: qsTr("Password")
+            maximumLength: 32
+            enablePasswordMode: true
+            nextFocusItem: confirmField
+        }
+
+        QuickTextField {
+            id: confirmField
+
+            objectName: "confirmPassword"
+            placeholderText: qsTr("Confirm Password")
+            maximumLength: 32
+            enablePasswordMode: true
+            errorMessage: text !== "" ? qsTr("Password do not match") : ""
+            Component.onCompleted: {
+                onContentCheck = () => text === passwordField.text;
+                onEnterAction = () => form.submitted();
+            }
+        }
+    }
+}

@@ -1,0 +1,9 @@
+import QtQuick
+
+// A line of text across the middle of a face.
+LatoRegularLabel {
+    anchors.horizontalCenter: parent?.horizontalCenter
+    horizontalAlignment: Text.AlignHCenter
+    font.pixelSize: 24
+    color: "#BBC7CE"
+}

@@ -1,0 +1,227 @@
+import QtQuick
+
+// The program's version, the search for a newer one and the update.
+Item {
+    id: page
+
+    readonly property int page_id_root: 0
+    readonly property int page_id_update: 1
+    readonly property int page_id_updating: 2
+    readonly property int page_id_update_failed: 3
+    property int currentPage: page_id_root
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property string currentVersion: device.version
+    readonly property string newVersion: device.newVersion
+    property bool hasNewVerion: false
+    // How long a completed update is shown before the program ends, in milliseconds.
+    property int quitDelay: 2000
+    property alias progress: progress
+
+    // The program is to end, so that the new version can start.
+    signal quitRequested
+
+    function startUpdating(): void {
+        progress.start();
+        page.currentPage = page.page_id_updating;
+        page.device.startUpdate();
+    }
+
+    function checkForUpdate(): void {
+        if (page.hasNewVerion)
+            page.currentPage = page.page_id_update;
+        else
+            upToDateLabel.visible = true;
+    }
+
+    onQuitRequested: Qt.quit()
+
+    Connections {
+        target: page.device
+
+        function onHasNewVersion(checked: bool): void {
+            page.hasNewVerion = checked;
+        }
+        // Comes again every second until the program ends.
+        function onUpdateCompleted(): void {
+            newVersionLabel.visible = false;
+            progress.complete();
+            if (!quitTimer.running)
+                quitTimer.start();
+        }
+    }
+
+    Timer {
+        id: quitTimer
+
+        interval: page.quitDelay
+        onTriggered: page.quitRequested()
+    }
+
+    LatoRegularLabel {
+        id: versionLabel
+
+        x: 68
+        y: 186
+        text: qsTr("Current Version:  %1").arg(page.currentVersion)
+        font.pixelSize: 16
+    }
+
+    LatoRegularLabel {
+        id: newVersionLabel
+
+        objectName: "newVersionLabel"
+        anchors.left: versionLabel.right
+        anchors.leftMargin: 20
+        y: versionLabel.y
+        text: qsTr("New Version:  %1").arg(page.newVersion)
+        font.pixelSize: 16
+        font.italic: true
+        color: "#4DAF4E"
+        visible: page.hasNewVerion
+        onVisibleChanged: {
+            if (visible)
+                upToDateLabel.visible = false;
+        }
+    }
+
+    LatoBoldLabel {
+        id: upToDateLabel
+
+        objectName: "upToDateLabel"
+        anchors.left: versionLabel.right
+        anchors.leftMargin: 20
+        y: versionLabel.y
+        text: qsTr("You're up to date.")
+        font.pixelSize: 16
+        font.italic: true
+        color: "#4DAF4E"
+        visible: false
+    }
+
+    TextLink {
+        x: 68
+        y: 230
+        text: qsTr("Term of Use and Privacy Policy")
+        textColor: "#BBC7CE"
+        font.pixelSize: 12
+    }
+
+    QuickButton {
+        objectName: "updateButton"
+        anchors.right: parent.right
+        anchors.rightMargin: 59
+        y: 180
+        width: page.hasNewVerion ? 118 : 156
+        height: 36
+        radius: 18
+        enabled: page.currentPage === page.page_id_root
+        onClicked: page.checkForUpdate()
+
+        LatoRegularLabel {
+            anchors.centerIn: parent
+            text: page.hasNewVerion ? qsTr("Update") : qsTr("Check for Update")
+            font.pixelSize: 16
+        }
+    }
+
+    UpdatePanel {
+        objectName: "offerPanel"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 280
+        visible: page.currentPage === page.page_id_update
+        onCloseClicked: page.currentPage = page.page_id_root
+
+        Image {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 70
+            width: 42
+            height: 42
+            source: "qrc:/images/update.png"
+        }
+
+        PanelLabel {
+            y: 140
+            text: qsTr("New Version (%1) Found").arg(page.newVersion)
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 190
+            spacing: 40
+
+            PanelButton {
+                objectName: "laterButton"
+                normalColor: "#FFFFFF"
+                border.width: 1
+                border.color: "#9B9B9B"
+                text: qsTr("Later")
+                textColor: "#6D6E71"
+                onClicked: page.currentPage = page.page_id_root
+            }
+
+            PanelButton {
+                objectName: "updateNowButton"
+                text: qsTr("Update Now")
+                onClicked: page.startUpdating()
+            }
+        }
+    }
+
+    UpdatePanel {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 280
+        visible: page.currentPage === page.page_id_updating
+        closable: false
+
+        Image {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 60
+            source: "qrc:/images/VORN_big.png"
+        }
+
+        UpdateProgress {
+            id: progress
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 140
+            onTimedOut: {
+                page.currentPage = page.page_id_update_failed;
+                page.device.updateTimeout();
+            }
+        }
+
+        PanelLabel {
+            y: 190
+            text: qsTr("Updating your VORN APP to New Version (%1)…").arg(page.newVersion)
+        }
+    }
+
+    UpdatePanel {
+        objectName: "failedPanel"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 280
+        visible: page.currentPage === page.page_id_update_failed
+        onCloseClicked: page.currentPage = page.page_id_root
+
+        Image {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 70
+            source: "qrc:/images/error_42x42.png"
+        }
+
+        PanelLabel {
+            y: 140
+            text: qsTr("Updating your VORN APP to New Version (%1) failed!").arg(page.newVersion)
+        }
+
+        PanelButton {
+            objectName: "retryButton"
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 190
+            width: 167
+            text: qsTr("Retry Update Now")
+            onClicked: page.startUpdating()
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+
+// Which meeting apps the launcher shows; at least one stays.
+Item {
+    id: page
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property int shownApps: (zoomBox.checked ? 1 : 0) + (teamsBox.checked ? 1 : 0)
+                                     + (googleBox.checked ? 1 : 0)
+
+    // What a click on a box makes of it.
+    function toggled(checked: bool): bool {
+        return !checked || page.shownApps === 1;
+    }
+
+    LatoRegularLabel {
+        x: 68
+        y: 183
+        text: qsTr("Select which apps appear on your launcher. Only checked apps will be shown.")
+        font.pixelSize: 16
+    }
+
+    Column {
+        x: 72
+        y: 232
+        spacing: 24
+
+        CircularCheckBox {
+            id: zoomBox
+
+            text: qsTr("Zoom")
+            checked: page.device.supportLaunchZoom
+            onClicked: page.device.supportLaunchZoom = page.toggled(checked)
+        }
+
+        CircularCheckBox {
+            id: teamsBox
+
+            text: qsTr("Teams")
+            checked: page.device.supportLaunchTeams
+            onClicked: page.device.supportLaunchTeams = page.toggled(checked)
+        }
+
+        CircularCheckBox {
+            id: googleBox
+
+            text: qsTr("Google")
+            checked: page.device.supportLaunchGoogle
+            onClicked: page.device.supportLaunchGoogle = page.toggled(checked)
+        }
+    }
+}

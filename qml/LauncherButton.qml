@@ -1,0 +1,23 @@
+import QtQuick
+
+// Launches one meeting app.
+QuickButton {
+    id: button
+
+    property alias text: label.text
+
+    width: 126
+    height: 126
+    radius: 25
+    normalColor: "#0DECF3F8"
+    hoverColor: "#2DECF3F8"
+    pressedColor: "#4DECF3F8"
+
+    LatoRegularLabel {
+        id: label
+
+        anchors.centerIn: parent
+        font.pixelSize: 21
+        color: "#BBC7CE"
+    }
+}

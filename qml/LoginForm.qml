@@ -1,0 +1,78 @@
+import QtQuick
+
+// The frame of a login form: title, sub-line, the service's answer and the button that submits.
+Item {
+    id: form
+
+    property alias title: titleLabel.text
+    property alias subline: sublineLabel.text
+    // The link after the sub-line; none when empty.
+    property alias linkText: link.text
+    property alias submitText: submitLabel.text
+    property alias submitY: submitButton.y
+    property alias submitButton: submitButton
+    property alias serverResponse: responseLabel.text
+    property alias serverResponseColor: responseLabel.color
+    // Room for the service's answer beside what else stands above the button.
+    property real responseWidth: width - responseLabel.x
+
+    signal linkClicked
+    signal submitted
+
+    width: 375
+
+    LatoBoldLabel {
+        id: titleLabel
+
+        y: 84
+        font.pixelSize: 36
+        Accessible.role: Accessible.Heading
+    }
+
+    LatoRegularLabel {
+        id: sublineLabel
+
+        y: 143
+        color: "#BBC7CE"
+        font.pixelSize: 14
+    }
+
+    TextLink {
+        id: link
+
+        x: sublineLabel.width + 5
+        y: sublineLabel.y
+        visible: text !== ""
+        onClicked: form.linkClicked()
+    }
+
+    LatoRegularLabel {
+        id: responseLabel
+
+        x: 15
+        y: submitButton.y - height - 5
+        width: Math.min(implicitWidth, form.responseWidth)
+        elide: Text.ElideRight
+        maximumLineCount: 1
+        textFormat: Text.PlainText
+        font.pixelSize: 14
+        visible: text !== ""
+        Accessible.role: Accessible.AlertMessage
+    }
+
+    QuickButton {
+        id: submitButton
+
+        width: 375
+        height: 36
+        radius: 18
+        onClicked: form.submitted()
+
+        LatoRegularLabel {
+            id: submitLabel
+
+            anchors.centerIn: parent
+            font.pixelSize: 16
+        }
+    }
+}

@@ -1,0 +1,160 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// What the window shows to a signed-in user: navigation on the left, one of four pages on the right.
+Item {
+    id: page
+
+    readonly property int page_id_meetings: 0
+    readonly property int page_id_camera_control: 1
+    readonly property int page_id_personal: 2
+    readonly property int page_id_settings: 3
+    property int currentPage: page_id_meetings
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property var service: network // qmllint disable unqualified
+
+    function showNavigationPage(index: int, id: int): void {
+        page.currentPage = id;
+        navigation.currentIndex = index;
+    }
+
+    // Pages without an entry leave none highlighted.
+    function showOtherPage(id: int): void {
+        page.currentPage = id;
+        navigation.currentIndex = -1;
+    }
+
+    Component.onCompleted: page.service.requestUserProfile()
+
+    Image {
+        x: 54
+        y: 64
+        source: "qrc:/images/vorn_logo_105x32.png"
+        smooth: true
+    }
+
+    AvatarButton {
+        objectName: "avatarButton"
+        x: 54
+        y: 133
+        maximumWidth: contentArea.x - x
+        current: page.currentPage === page.page_id_personal
+        imageSource: page.device.userImage
+        text: page.device.firstName
+        onClicked: {
+            page.showOtherPage(page.page_id_personal);
+            page.service.requestUserProfile();
+        }
+    }
+
+    ListView {
+        id: navigation
+
+        x: 45
+        y: 211
+        width: 168
+        height: parent.height - y
+        spacing: 12
+        interactive: false
+        currentIndex: 0
+        // The arrow keys would move the highlight without the page.
+        keyNavigationEnabled: false
+        model: [
+            { text: qsTr("Meetings"), icon: "qrc:/images/meetings.png", id: page.page_id_meetings },
+            { text: qsTr("Camera Control"), icon: "qrc:/images/camera_control.png", id: page.page_id_camera_control }
+        ]
+        delegate: NavigationEntry {
+            required property int index
+            required property var modelData
+
+            current: ListView.isCurrentItem
+            icon: modelData.icon
+            text: modelData.text
+            onClicked: page.showNavigationPage(index, modelData.id)
+        }
+    }
+
+    QuickButton {
+        objectName: "settingsButton"
+        x: 45
+        y: 593
+        width: 168
+        height: 36
+        radius: 18
+        normalColor: settings.visible ? "#4DAF4E" : "transparent"
+        Accessible.selectable: true
+        Accessible.selected: settings.visible
+        onClicked: page.showOtherPage(page.page_id_settings)
+
+        Image {
+            x: 12
+            anchors.verticalCenter: parent.verticalCenter
+            source: "qrc:/images/settings_16x14.png"
+        }
+
+        LatoRegularLabel {
+            x: 40
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Settings")
+            font.pixelSize: 16
+        }
+    }
+
+    Item {
+        id: contentArea
+
+        x: 262
+        width: parent.width - x
+        height: parent.height
+
+        // Reaches past the left edge, so that only the right corners are round.
+        Item {
+            anchors.fill: parent
+            clip: true
+
+            Rectangle {
+                x: -radius
+                width: parent.width + radius
+                height: parent.height
+                radius: 10
+                color: page.currentPage === page.page_id_settings ? "#0DBBC7CE" : "transparent"
+            }
+        }
+
+        Meetings {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_meetings
+        }
+
+        CameraControl {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_camera_control
+        }
+
+        Personal {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_personal
+        }
+
+        Settings {
+            id: settings
+
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_settings
+        }
+    }
+
+    // After the pages, which would cover it otherwise.
+    LatoRegularLabel {
+        x: 871
+        y: 621
+        width: 61
+        height: 15
+        text: page.device.version
+        color: "#AEC1C3"
+        font.pixelSize: 12
+        font.italic: true
+    }
+}

@@ -1,0 +1,185 @@
+import QtQuick
+import Qt5Compat.GraphicalEffects
+
+// An overview of the display: the time, its volume, and what it shows.
+Item {
+    id: page
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    // Whether the display has told its volume.
+    property bool volumeKnown: false
+    property date now: new Date()
+
+    width: 1092
+    height: 835
+
+    Timer {
+        interval: 1000
+        repeat: true
+        triggeredOnStart: true
+        running: page.visible
+        onTriggered: page.now = new Date()
+    }
+
+    Connections {
+        target: page.device
+
+        function onVolumeReady(): void {
+            page.volumeKnown = true;
+        }
+    }
+
+    // A notification that not every device object has.
+    Connections {
+        target: page.device
+        ignoreUnknownSignals: true
+
+        function onDeviceNotConnected(): void {
+            page.volumeKnown = false;
+        }
+    }
+
+    LatoBoldLabel {
+        x: 60
+        y: 80
+        text: qsTr("Hello!\nWelcome to VORN!")
+        font.pixelSize: 30
+    }
+
+    LatoBoldLabel {
+        id: time
+
+        objectName: "time"
+        x: 938
+        y: 100
+        text: Qt.formatTime(page.now, "hh:mm AP")
+        font.pixelSize: 21
+        horizontalAlignment: Text.AlignRight
+    }
+
+    LatoRegularLabel {
+        objectName: "date"
+        anchors.right: time.right
+        y: 133
+        text: Qt.formatDate(page.now, "ddd, MMM dd, yyyy")
+        font.pixelSize: 16
+    }
+
+    Rectangle {
+        x: 60
+        y: 192
+        width: 972
+        height: 1
+        color: "#D3D8DC"
+    }
+
+    LatoBoldLabel {
+        x: 60
+        y: 242
+        text: qsTr("Device Control")
+        font.pixelSize: 21
+    }
+
+    Item {
+        id: badge
+
+        objectName: "volumeBadge"
+        x: 60
+        y: 297
+        width: 82
+        height: 82
+        layer.enabled: !page.volumeKnown
+        layer.effect: Desaturate {
+            desaturation: 1
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: 41
+            color: "#264EB857"
+        }
+
+        Image {
+            anchors.centerIn: parent
+            source: "qrc:/images/volume_green.png"
+        }
+    }
+
+    LatoRegularLabel {
+        id: volumeTitle
+
+        x: 162
+        y: 314
+        text: qsTr("VORN K4V\nVolume")
+        font.pixelSize: 16
+    }
+
+    VolumeSlider {
+        id: slider
+
+        objectName: "volumeSlider"
+        x: 281
+        y: 312
+        enabled: page.volumeKnown
+        value: page.device.volume
+        layer.enabled: !page.volumeKnown
+        layer.effect: Desaturate {
+            desaturation: 1
+        }
+        Accessible.name: volumeTitle.text.replace("\n", " ")
+        onPicked: volume => page.device.setVolume(volume)
+    }
+
+    LatoRegularLabel {
+        objectName: "volumeValue"
+        x: 941
+        y: 329
+        text: qsTr("%1%").arg(slider.value)
+        font.pixelSize: 16
+    }
+
+    Rectangle {
+        x: 60
+        y: 419
+        width: 972
+        height: 1
+        color: "#D3D8DC"
+    }
+
+    LatoBoldLabel {
+        x: 60
+        y: 460
+        text: qsTr("Device Source Mode")
+        font.pixelSize: 21
+    }
+
+    SourceCard {
+        objectName: "byodCard"
+        x: 60
+        y: 515
+        value: page.device.byodSwitch
+        title: qsTr("Smart Connect Mode")
+        text: qsTr("Utilize VORN’s Camera, Mic, Touch as\nlaptop’s peripherals")
+        greySource: "qrc:/images/byod_gray.png"
+        greenSource: "qrc:/images/byod_green.png"
+        onClicked: {
+            page.device.setByodSwitch(2);
+            page.device.setZoomSwitch(0);
+        }
+    }
+
+    SourceCard {
+        objectName: "zoomCard"
+        x: 510
+        y: 515
+        value: page.device.zoomSwitch
+        title: qsTr("Screen Share")
+        text: qsTr("Mirror screen from your desktop to the\nZoom Room screen")
+        greySource: "qrc:/images/zoom_gray.png"
+        greenSource: "qrc:/images/zoom_green.png"
+        onClicked: {
+            page.device.setByodSwitch(0);
+            page.device.setZoomSwitch(2);
+        }
+    }
+}

@@ -1,0 +1,289 @@
+import QtQuick
+import Qt5Compat.GraphicalEffects
+
+// Follows the cable to the display, from plugging it in to the launch of a meeting, and the display's
+// first set-up.
+Item {
+    id: page
+
+    readonly property int page_id_typec_plug: 0
+    readonly property int page_id_connecting: 1
+    readonly property int page_id_connected: 2
+    readonly property int page_id_launch_meeting: 3
+    readonly property int page_id_oobe_detected: 4
+    readonly property int page_id_oobe_setuping: 5
+    property int currentPage: page_id_typec_plug
+
+    readonly property color connectedColor: "#4DAF4E"
+    readonly property color timeoutColor: "#DB4747"
+    readonly property color defaultColor: "transparent"
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property int connectMode: device.connectMode
+    readonly property bool vornMicConnect: device.vornMicStatus && connectMode === 1
+    readonly property bool vornSpkConnect: device.vornSpkStatus && connectMode === 1
+    readonly property bool vornCamConnect: device.vornCamStatus && connectMode === 1
+
+    property alias showMicConnected: staging.showMicConnected
+    property alias showSpkConnected: staging.showSpkConnected
+    property alias showCamConnected: staging.showCamConnected
+    readonly property bool connectComplete: staging.connectComplete
+    property alias connectTimeout: staging.connectTimeout
+    property alias deviceShowInterval: staging.deviceShowInterval
+    property alias firstShowInterval: staging.firstShowInterval
+    property alias connectionTimeout: staging.connectionTimeout
+    property alias blinkOnInterval: staging.blinkOnInterval
+    property alias blinkOffInterval: staging.blinkOffInterval
+    property alias blinkState: staging.blinkState
+    property alias staging: staging
+
+    // The window that knows of the monitor window; it may be another one in a tool.
+    property var mainWindow: Window.window
+
+    function handleConnectModeChanged(mode: int): void {
+        if (mode === 1) {
+            page.currentPage = page.page_id_connecting;
+        } else if (mode === 2) {
+            page.currentPage = page.page_id_oobe_detected;
+        } else {
+            page.currentPage = page.page_id_typec_plug;
+            staging.reset();
+        }
+    }
+
+    // The colour of a device's sign: `turn` while it is the one being connected.
+    function tint(shown: bool, turn: bool): color {
+        if (shown)
+            return page.connectedColor;
+        if (page.connectTimeout)
+            return page.timeoutColor;
+        return turn && staging.blinking && page.blinkState ? page.connectedColor : page.defaultColor;
+    }
+
+    function go(): void {
+        page.currentPage = page.page_id_launch_meeting;
+        page.device.setByodSwitch(2);
+        page.device.startBYOD();
+    }
+
+    function startSetup(): void {
+        page.device.startSetupBarOOBE();
+        page.showMonitorWindow();
+        page.currentPage = page.page_id_oobe_setuping;
+    }
+
+    function showMonitorWindow(): void {
+        if (page.mainWindow.monitorWindow) {
+            page.mainWindow.monitorWindow.raise();
+            page.mainWindow.monitorWindow.requestActivate();
+            return;
+        }
+        const component = Qt.createComponent("Monitor.qml");
+        if (component.status === Component.Error) {
+            console.warn(component.errorString());
+            return;
+        }
+        const monitor = component.createObject(null);
+        page.mainWindow.monitorWindow = monitor;
+        monitor.closing.connect(() => page.dropMonitorWindow());
+    }
+
+    function dropMonitorWindow(): void {
+        page.mainWindow.monitorWindow.destroy();
+        page.mainWindow.monitorWindow = null;
+        page.handleConnectModeChanged(page.connectMode);
+    }
+
+    onConnectModeChanged: handleConnectModeChanged(connectMode)
+
+    ConnectionStaging {
+        id: staging
+
+        micConnected: page.vornMicConnect
+        spkConnected: page.vornSpkConnect
+        camConnected: page.vornCamConnect
+        active: page.currentPage === page.page_id_connecting
+        onFinished: page.currentPage = page.page_id_connected
+    }
+
+    FacePanel {
+        // Plug in the cable.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_typec_plug
+
+            Image {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 149
+                source: "qrc:/images/typec_plug_444x100.png"
+            }
+
+            FaceLabel {
+                y: 399
+                text: qsTr("Plug in the Type-C cable into your laptop.")
+            }
+        }
+
+        // The devices come up.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_connecting
+
+            Image {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 99
+                source: "qrc:/images/vorn_141x140.png"
+            }
+
+            FaceLabel {
+                objectName: "connectionStatus"
+                y: 331
+                text: staging.status
+                Accessible.role: Accessible.AlertMessage
+            }
+
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 404
+                spacing: 72
+
+                StagingIcon {
+                    objectName: "micIcon"
+                    source: "qrc:/images/mic_16x25.png"
+                    accessibleName: qsTr("Microphone")
+                    tint: page.tint(page.showMicConnected, true)
+                }
+
+                StagingIcon {
+                    objectName: "spkIcon"
+                    source: "qrc:/images/spk_27x21.png"
+                    accessibleName: qsTr("Speaker")
+                    tint: page.tint(page.showSpkConnected, page.showMicConnected)
+                }
+
+                StagingIcon {
+                    objectName: "camIcon"
+                    source: "qrc:/images/cam_27x17.png"
+                    accessibleName: qsTr("Camera")
+                    tint: page.tint(page.showCamConnected, page.showMicConnected && page.showSpkConnected)
+                }
+            }
+        }
+
+        // Ready.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_connected
+
+            Image {
+                id: readyLogo
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 99
+                source: "qrc:/images/vorn_141x140.png"
+            }
+
+            Glow {
+                anchors.fill: readyLogo
+                source: readyLogo
+                radius: 16
+                samples: 32
+                color: "#804DAF4E"
+                transparentBorder: true
+            }
+
+            FaceLabel {
+                y: 277
+                text: qsTr("You are ready on Air")
+            }
+
+            FaceButton {
+                objectName: "goButton"
+                y: 364
+                width: 163
+                text: qsTr("Go")
+                onClicked: page.go()
+            }
+        }
+
+        // The launcher.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_launch_meeting
+
+            FaceLabel {
+                y: 74
+                text: qsTr("Launch your meeting")
+            }
+
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 195
+                spacing: 60
+
+                LauncherButton {
+                    objectName: "launchZoom"
+                    text: qsTr("ZOOM")
+                    visible: page.device.supportLaunchZoom
+                    onClicked: page.device.launchZoom()
+                }
+
+                LauncherButton {
+                    objectName: "launchTeams"
+                    text: qsTr("Teams")
+                    visible: page.device.supportLaunchTeams
+                    onClicked: page.device.launchTeams()
+                }
+
+                LauncherButton {
+                    objectName: "launchGoogle"
+                    text: qsTr("Google\n  Meet")
+                    visible: page.device.supportLaunchGoogle
+                    onClicked: page.device.launchGoogleMeeting()
+                }
+            }
+        }
+
+        // A display that has not been set up yet.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_oobe_detected
+
+            FaceLabel {
+                y: 94
+                text: qsTr("VORN Bar detected")
+            }
+
+            Image {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 203
+                source: "qrc:/images/VORNBar_360x45.png"
+            }
+
+            FaceButton {
+                objectName: "startSetupButton"
+                y: 318
+                width: 160
+                text: qsTr("Start Setup")
+                onClicked: page.startSetup()
+            }
+        }
+
+        // It is being set up in the monitor window.
+        Item {
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_oobe_setuping
+
+            FaceLabel {
+                y: 124
+                text: qsTr("VORN Bar is being set up...")
+            }
+
+            Image {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: 233
+                source: "qrc:/images/VORNBar_360x45.png"
+            }
+        }
+    }
+}

@@ -1,0 +1,130 @@
+import QtQuick
+import QtMultimedia
+
+// The display's screen, live, during its first set-up, and the pointer on it. Its creator destroys it
+// when it closes.
+Window {
+    id: monitor
+
+    readonly property int page_id_monitor: 0
+    readonly property int page_id_waiting: 1
+    readonly property int page_id_failed: 2
+    readonly property int page_id_complete: 3
+    property int currentPage: page_id_waiting
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property int connectMode: device.connectMode
+    readonly property int frameIndex: device.frameIndex
+    // At least one frame has come since the last failure.
+    property bool isPlayed: false
+    // Milliseconds without a frame that count as a failure, and that the complete face stays.
+    property int frameTimeout: 5000
+    property int completeTimeout: 3000
+
+    function start(): void {
+        monitor.isPlayed = false;
+        monitor.currentPage = monitor.page_id_waiting;
+        frameTimer.restart();
+        monitor.device.setVideoSink(video.videoSink);
+        monitor.device.monitorPlay(true);
+    }
+
+    function stop(): void {
+        monitor.device.monitorPlay(false);
+        monitor.device.setVideoSink(null);
+    }
+
+    minimumWidth: 1440
+    minimumHeight: 810
+    width: minimumWidth
+    height: minimumHeight
+    title: qsTr("VORN Bar")
+    color: "#282828"
+    visible: true
+
+    onFrameIndexChanged: {
+        monitor.isPlayed = true;
+        if (monitor.currentPage === monitor.page_id_complete)
+            return;
+        monitor.currentPage = monitor.page_id_monitor;
+        frameTimer.restart();
+    }
+    onConnectModeChanged: {
+        if (monitor.connectMode === 1 && monitor.isPlayed)
+            monitor.currentPage = monitor.page_id_complete;
+        else if (monitor.connectMode === 0 || monitor.connectMode === 1)
+            monitor.close();
+    }
+    onVisibilityChanged: {
+        if (monitor.visibility === Window.Hidden || monitor.visibility === Window.Minimized)
+            pointer.letGo();
+    }
+    onClosing: pointer.letGo()
+
+    Timer {
+        id: frameTimer
+
+        interval: monitor.frameTimeout
+        onTriggered: {
+            if (monitor.currentPage === monitor.page_id_complete)
+                return;
+            monitor.currentPage = monitor.page_id_failed;
+            monitor.isPlayed = false;
+        }
+    }
+
+    Timer {
+        interval: monitor.completeTimeout
+        running: monitor.currentPage === monitor.page_id_complete
+        onTriggered: monitor.close()
+    }
+
+    VideoOutput {
+        id: video
+
+        objectName: "video"
+        anchors.fill: parent
+        fillMode: VideoOutput.PreserveAspectFit
+        smooth: true
+        visible: monitor.currentPage === monitor.page_id_monitor
+        Component.onCompleted: monitor.start()
+        Component.onDestruction: {
+            pointer.letGo();
+            monitor.stop();
+        }
+
+        MonitorPointer {
+            id: pointer
+
+            objectName: "pointer"
+            anchors.fill: parent
+            focus: monitor.visible
+            frame: video.sourceRect
+            onTold: (type, place) => monitor.device.getMouseEvent(type, place.x, place.y)
+        }
+    }
+
+    LatoBoldLabel {
+        objectName: "waitingFace"
+        anchors.centerIn: parent
+        visible: monitor.currentPage === monitor.page_id_waiting
+        text: qsTr("Connecting, please wait.")
+        font.pixelSize: 32
+    }
+
+    MonitorFace {
+        objectName: "failedFace"
+        anchors.fill: parent
+        visible: monitor.currentPage === monitor.page_id_failed
+        source: "qrc:/images/oobe_error_74x74.png"
+        text: qsTr("Connection failed, please reconnect.")
+    }
+
+    MonitorFace {
+        objectName: "completeFace"
+        anchors.fill: parent
+        visible: monitor.currentPage === monitor.page_id_complete
+        source: "qrc:/images/oobe_complete_95x66.png"
+        text: qsTr("Setup complete. You may now close this page.")
+    }
+}

@@ -1,0 +1,22 @@
+import QtQuick
+
+// A picture above a text, in the middle of the monitor window.
+Item {
+    property alias source: picture.source
+    property alias text: label.text
+
+    Image {
+        id: picture
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: label.top
+        anchors.bottomMargin: 60
+    }
+
+    LatoBoldLabel {
+        id: label
+
+        anchors.centerIn: parent
+        font.pixelSize: 32
+    }
+}

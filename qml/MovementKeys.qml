@@ -1,0 +1,81 @@
+import QtQuick
+import VORNApp as Vorn
+
+// Turns the arrow, plus and minus keys into camera movements that last as long as a key is held. The
+// panel forwards its keys here. One movement goes on at a time: another key takes it over.
+Item {
+    id: keys
+
+    // Whether the keys' releases come here too.
+    required property bool focused
+    // The movement under way, none when below 0.
+    property int heldMovement: -1
+
+    signal started(movement: int)
+    signal ended(movement: int)
+
+    // A key and its shifted sign mean the same, since a release may bring either.
+    function movementOf(key: int): int {
+        switch (key) {
+        case Qt.Key_Plus:
+        case Qt.Key_Equal:
+            return Vorn.CameraControl.Manual_ZoomIn;
+        case Qt.Key_Minus:
+        case Qt.Key_Underscore:
+            return Vorn.CameraControl.Manual_ZoomOut;
+        case Qt.Key_Up:
+            return Vorn.CameraControl.Manual_Up;
+        case Qt.Key_Down:
+            return Vorn.CameraControl.Manual_Down;
+        case Qt.Key_Left:
+            return Vorn.CameraControl.Manual_Left;
+        case Qt.Key_Right:
+            return Vorn.CameraControl.Manual_Right;
+        default:
+            return -1;
+        }
+    }
+
+    function end(): void {
+        if (keys.heldMovement < 0)
+            return;
+        const movement = keys.heldMovement;
+        keys.heldMovement = -1;
+        keys.ended(movement);
+    }
+
+    // A movement whose release goes elsewhere would never end.
+    onFocusedChanged: {
+        if (!keys.focused)
+            keys.end();
+    }
+    onVisibleChanged: {
+        if (!keys.visible)
+            keys.end();
+    }
+    onEnabledChanged: {
+        if (!keys.enabled)
+            keys.end();
+    }
+
+    Keys.onPressed: event => {
+        const movement = keys.movementOf(event.key);
+        const chord = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier);
+        if (!keys.enabled || !keys.visible || chord || movement < 0)
+            return;
+        event.accepted = true;
+        if (event.isAutoRepeat || movement === keys.heldMovement)
+            return;
+        keys.end();
+        keys.heldMovement = movement;
+        keys.started(movement);
+    }
+    Keys.onReleased: event => {
+        const movement = keys.movementOf(event.key);
+        if (movement < 0 || movement !== keys.heldMovement)
+            return;
+        event.accepted = true;
+        if (!event.isAutoRepeat)
+            keys.end();
+    }
+}

@@ -1,0 +1,27 @@
+import QtQuick
+
+// A button that is only an outline and a text.
+QuickButton {
+    id: button
+
+    property alias text: label.text
+    property alias textSize: label.font.pixelSize
+    property color outlineColor: "#B0B5C4"
+
+    width: 100
+    height: 36
+    radius: 18
+    normalColor: "transparent"
+    hoverColor: "#20B0B5C4"
+    pressedColor: "#40B0B5C4"
+    border.width: 1
+    border.color: outlineColor
+
+    LatoRegularLabel {
+        id: label
+
+        anchors.centerIn: parent
+        font.pixelSize: 16
+        color: button.outlineColor
+    }
+}

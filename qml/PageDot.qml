@@ -1,0 +1,19 @@
+import QtQuick
+
+// A dot for one of several faces, ringed while that face shows.
+Rectangle {
+    required property bool current
+
+    width: 14
+    height: 14
+    radius: 7
+    color: current ? "#33FFFFFF" : "transparent"
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: 8
+        height: 8
+        radius: 4
+        color: "#CCFFFFFF"
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick
+
+// A button on a white panel.
+QuickButton {
+    id: button
+
+    property alias text: label.text
+    property alias textColor: label.color
+
+    width: 124
+    height: 36
+    radius: 4
+    normalColor: "#4EB857"
+    hoverColor: Qt.darker(normalColor, 1.3)
+    pressedColor: Qt.darker(normalColor, 1.6)
+
+    LatoBoldLabel {
+        id: label
+
+        anchors.centerIn: parent
+        font.pixelSize: 16
+    }
+}

@@ -1,0 +1,9 @@
+import QtQuick
+
+// A line of text across the middle of a white panel.
+LatoRegularLabel {
+    anchors.horizontalCenter: parent?.horizontalCenter
+    horizontalAlignment: Text.AlignHCenter
+    font.pixelSize: 16
+    color: "#2C2C2C"
+}

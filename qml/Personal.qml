@@ -1,0 +1,159 @@
+import QtQuick
+import QtQuick.Dialogs
+
+// The signed-in user's profile and picture, and the way to sign out.
+Item {
+    id: page
+
+    readonly property int page_id_personal_info: 0
+    readonly property int page_id_personal_edit: 1
+    property int currentPage: page_id_personal_info
+    property string serverResponse: ""
+    property color serverResponseColor: "#DB4747"
+    // Bytes; a picture has to be smaller.
+    readonly property int pictureLimit: 2097152
+
+    readonly property var device: deviceControl // qmllint disable unqualified
+    readonly property var service: network // qmllint disable unqualified
+    property alias fileDialog: fileDialog
+    property alias picturePopup: picturePopup
+
+    function signOut(): void {
+        page.currentPage = page.page_id_personal_info;
+        page.device.setLogin(false);
+    }
+
+    function reload(): void {
+        edit.company = page.device.company;
+        edit.firstName = page.device.firstName;
+        edit.lastName = page.device.lastName;
+        edit.title = page.device.title;
+        edit.imageSource = page.device.userImage;
+        edit.settle();
+    }
+
+    // A refused file stays the dialog's selection, and is what a later save sends.
+    function adoptPicture(file: string): void {
+        if (page.service.imageSize(file) >= page.pictureLimit) {
+            picturePopup.error = qsTr("The file must be under 2MB.");
+            return;
+        }
+        picturePopup.preview = file;
+        edit.imageSource = file;
+    }
+
+    function save(): void {
+        page.serverResponse = "";
+        if (edit.check())
+            page.service.profileUpdate(edit.firstName, edit.lastName, edit.company, edit.title,
+                                       String(fileDialog.selectedFile));
+    }
+
+    onCurrentPageChanged: {
+        page.serverResponse = "";
+        page.reload();
+        if (page.currentPage === page.page_id_personal_edit)
+            edit.focusFirstField();
+        else
+            view.forceActiveFocus(); // away from the hidden fields
+    }
+    onVisibleChanged: {
+        if (!visible)
+            picturePopup.close();
+    }
+
+    Connections {
+        target: page.service
+
+        function onProfileUpdateSuccess(userData: var): void {
+            page.currentPage = page.page_id_personal_info;
+            page.device.profileUpdateSuccess(userData);
+        }
+        function onProfileUpdateFailed(error: string): void {
+            page.serverResponse = error;
+        }
+        function onProfileRequestSuccess(userData: var): void {
+            page.device.profileRequestSuccess(userData);
+        }
+    }
+
+    FileDialog {
+        id: fileDialog
+
+        title: qsTr("select picture")
+        nameFilters: [qsTr("picture file") + " (*.jpg *.jpeg *.png )"]
+        onAccepted: page.adoptPicture(String(selectedFile))
+    }
+
+    FacePanel {
+        TextLink {
+            objectName: "signOutLink"
+            x: 60
+            y: 428
+            text: qsTr("Sign Out")
+            textColor: "#6D6E71"
+            font.pixelSize: 16
+            font.underline: true
+            onClicked: page.signOut()
+        }
+
+        Row {
+            x: 375
+            y: 432
+
+            LatoRegularLabel {
+                text: qsTr("Digital Namecard Service ")
+                font.pixelSize: 12
+                font.italic: true
+                color: "#BBC7CE"
+            }
+
+            LatoRegularLabel {
+                text: qsTr("coming soon")
+                font.pixelSize: 12
+                font.italic: true
+            }
+        }
+
+        ProfileView {
+            id: view
+
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_personal_info
+            imageSource: page.device.userImage
+            name: page.device.firstName + " " + page.device.lastName
+            email: page.device.email
+            company: page.device.company
+            title: page.device.title
+            onEditClicked: page.currentPage = page.page_id_personal_edit
+        }
+
+        ProfileEdit {
+            id: edit
+
+            anchors.fill: parent
+            visible: page.currentPage === page.page_id_personal_edit
+            imageSource: page.device.userImage
+            email: page.device.email
+            serverResponse: page.serverResponse
+            serverResponseColor: page.serverResponseColor
+            onAvatarClicked: picturePopup.open()
+            onCanceled: {
+                edit.imageSource = page.device.userImage;
+                page.currentPage = page.page_id_personal_info;
+            }
+            onSaveClicked: page.save()
+        }
+
+        PicturePopup {
+            id: picturePopup
+
+            x: 149
+            y: 59
+            onChooseClicked: {
+                error = "";
+                fileDialog.open();
+            }
+        }
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// Chooses the user's picture.
+Popup {
+    id: popup
+
+    readonly property string defaultPicture: "qrc:/images/user_84x84.png"
+    property alias preview: picture.imageSource
+    property alias error: errorLabel.text
+
+    signal chooseClicked
+
+    width: 420
+    height: 239
+    padding: 0
+    modal: true
+    focus: true
+    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    onClosed: {
+        popup.error = "";
+        popup.preview = popup.defaultPicture;
+    }
+    background: Rectangle {
+        color: "#383838"
+        radius: 8
+    }
+
+    LatoRegularLabel {
+        x: 30
+        y: 20
+        text: qsTr("Change Profile Picture")
+        font.pixelSize: 16
+        font.weight: Font.Medium
+    }
+
+    CircularImage {
+        id: picture
+
+        x: 50
+        y: 65
+        imageSource: popup.defaultPicture
+    }
+
+    LatoRegularLabel {
+        x: 154
+        y: 80
+        text: qsTr("Please select a jpg, jpeg or png image file with\nsize smaller than 2M to upload and crop an\nimage to be your profile picture.")
+        font.pixelSize: 12
+        color: "#BBC7CE"
+    }
+
+    LatoRegularLabel {
+        id: errorLabel
+
+        objectName: "pictureError"
+        x: 154
+        y: 135
+        font.pixelSize: 12
+        color: "#DB4747"
+        visible: text !== ""
+        Accessible.role: Accessible.AlertMessage
+    }
+
+    OutlineButton {
+        objectName: "chooseFileButton"
+        x: 30
+        y: 163
+        width: 124
+        height: 31
+        outlineColor: "#BBC7CE"
+        text: qsTr("Choose File")
+        textSize: 14
+        onClicked: popup.chooseClicked()
+    }
+
+    OutlineButton {
+        objectName: "closePopupButton"
+        x: 290
+        y: 173
+        text: qsTr("Close")
+        onClicked: popup.close()
+    }
+}

@@ -1,0 +1,164 @@
+import QtQuick
+
+// The user's profile, to change.
+Item {
+    id: view
+
+    required property string email
+    property alias imageSource: picture.imageSource
+    property alias company: companyField.text
+    property alias firstName: firstNameField.text
+    property alias lastName: lastNameField.text
+    property alias title: titleField.text
+    property alias serverResponse: responseLabel.text
+    property alias serverResponseColor: responseLabel.color
+
+    signal avatarClicked
+    signal canceled
+    signal saveClicked
+
+    // Whether everything may be sent; what may not is marked.
+    function check(): bool {
+        const fields = [companyField, firstNameField, lastNameField, titleField];
+        for (const field of fields)
+            field.checkInputComplete();
+        return fields.every(field => field.valid);
+    }
+
+    // Shows no mark on what was filled in by the page.
+    function settle(): void {
+        for (const field of [companyField, firstNameField, lastNameField, titleField])
+            field.settle();
+    }
+
+    function focusFirstField(): void {
+        firstNameField.forceActiveFocus();
+    }
+
+    ControlButton {
+        objectName: "avatarEdit"
+        x: 60
+        y: 60
+        width: childrenRect.width
+        height: picture.height
+        accessibleName: qsTr("Change Profile Picture")
+        cursorShape: Qt.PointingHandCursor
+        onClicked: view.avatarClicked()
+
+        CircularImage {
+            id: picture
+
+            Image {
+                anchors.centerIn: parent
+                source: "qrc:/images/select_image_24x20.png"
+            }
+        }
+
+        LatoRegularLabel {
+            x: picture.width + 20
+            anchors.verticalCenter: picture.verticalCenter
+            text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
+            font.pixelSize: 12
+            color: "#7C818D"
+        }
+    }
+
+    ProfileField {
+        objectName: "emailField"
+        x: 60
+        y: 187
+        caption: qsTr("Email")
+        text: view.email
+        enabled: false
+        color: "#4DBBC7CE"
+        normalBorderColor: "#4DBBC7CE"
+        focusBorderColor: "#4DBBC7CE"
+        errorBorderColor: "#4DBBC7CE"
+    }
+
+    ProfileField {
+        id: firstNameField
+
+        objectName: "firstNameField"
+        x: 348
+        y: 94
+        caption: qsTr("First Name")
+        errorMessage: qsTr("First Name is required")
+        nextFocusItem: lastNameField
+    }
+
+    ProfileField {
+        id: lastNameField
+
+        objectName: "lastNameField"
+        x: 348
+        y: 187
+        caption: qsTr("Last Name")
+        errorMessage: qsTr("Last Name is required")
+        nextFocusItem: companyField
+    }
+
+    ProfileField {
+        id: companyField
+
+        objectName: "companyField"
+        x: 60
+        y: 280
+        caption: qsTr("Company")
+        errorMessage: qsTr("Company is required")
+        forbidSpace: false
+        nextFocusItem: titleField
+    }
+
+    ProfileField {
+        id: titleField
+
+        objectName: "titleField"
+        x: 348
+        y: 280
+        caption: qsTr("Job Title")
+        errorMessage: qsTr("Job Title is required")
+        forbidSpace: false
+        Component.onCompleted: onEnterAction = () => view.saveClicked()
+    }
+
+    LatoRegularLabel {
+        id: responseLabel
+
+        anchors.right: saveButton.right
+        y: saveButton.y - height - 5
+        width: Math.min(implicitWidth, view.width - 2 * 47)
+        elide: Text.ElideRight
+        maximumLineCount: 1
+        textFormat: Text.PlainText
+        font.pixelSize: 14
+        visible: text !== ""
+        Accessible.role: Accessible.AlertMessage
+    }
+
+    OutlineButton {
+        objectName: "cancelButton"
+        x: 346
+        y: 356
+        text: qsTr("Cancel")
+        onClicked: view.canceled()
+    }
+
+    QuickButton {
+        id: saveButton
+
+        objectName: "saveButton"
+        x: 456
+        y: 356
+        width: 100
+        height: 36
+        radius: 18
+        onClicked: view.saveClicked()
+
+        LatoRegularLabel {
+            anchors.centerIn: parent
+            text: qsTr("Save")
+            font.pixelSize: 16
+        }
+    }
+}

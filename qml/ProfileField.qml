@@ -1,0 +1,20 @@
+import QtQuick
+
+// A field of the profile with its caption above.
+QuickTextField {
+    id: field
+
+    property alias caption: captionLabel.text
+
+    width: 218
+    height: 36
+    accessibleName: caption
+
+    LatoRegularLabel {
+        id: captionLabel
+
+        y: -27
+        font.pixelSize: 16
+        color: "#BBC7CE"
+    }
+}

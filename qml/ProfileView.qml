@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// The user's profile, to read.
+Item {
+    id: view
+
+    required property string imageSource
+    required property string name
+    required property string email
+    required property string company
+    required property string title
+
+    signal editClicked
+
+    CircularImage {
+        x: 60
+        y: 60
+        imageSource: view.imageSource
+    }
+
+    LatoRegularLabel {
+        x: 164
+        y: 102 - height / 2
+        width: Math.min(implicitWidth, editLink.x - x - 20)
+        text: view.name
+        elide: Text.ElideRight
+        textFormat: Text.PlainText
+        font.pixelSize: 21
+        font.weight: Font.Medium
+        Accessible.role: Accessible.Heading
+    }
+
+    TextLink {
+        id: editLink
+
+        objectName: "editLink"
+        x: 545
+        y: 91
+        text: qsTr("Edit")
+        font.pixelSize: 16
+        onClicked: view.editClicked()
+    }
+
+    Column {
+        x: 60
+        y: 168
+        spacing: 25
+
+        Repeater {
+            model: [qsTr("Email"), qsTr("Company"), qsTr("Job Title")]
+
+            LatoRegularLabel {
+                required property string modelData
+
+                text: modelData
+                font.pixelSize: 16
+                color: "#BBC7CE"
+            }
+        }
+    }
+
+    Column {
+        x: 246
+        y: 168
+        spacing: 25
+
+        Repeater {
+            model: [view.email, view.company, view.title]
+
+            LatoRegularLabel {
+                required property string modelData
+
+                width: Math.min(implicitWidth, view.width - 246 - 20)
+                text: modelData
+                elide: Text.ElideRight
+                textFormat: Text.PlainText
+                font.pixelSize: 16
+            }
+        }
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+
+// Has a link sent with which the password can be set anew.
+LoginForm {
+    id: form
+
+    readonly property string email: emailField.text
+
+    signal accepted
+
+    function reset(): void {
+        emailField.reset();
+    }
+
+    function focusFirstField(): void {
+        emailField.forceActiveFocus();
+    }
+
+    function submit(): void {
+        emailField.checkInputComplete();
+        if (emailField.valid)
+            form.accepted();
+    }
+
+    title: qsTr("Password Reset")
+    subline: qsTr("Enter your email below and we'll send you a link to \nreset your password.")
+    submitText: qsTr("Send")
+    submitY: 280
+
+    QuickTextField {
+        id: emailField
+
+        objectName: "email"
+        y: 202
+        placeholderText: qsTr("Email")
+        allowedChars: regexEmail
+        errorMessage: qsTr("Email is required")
+        Component.onCompleted: onEnterAction = () => form.submitted()
+    }
+}

@@ -1,0 +1,73 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// The program's settings, in three tabs.
+Item {
+    id: page
+
+    readonly property int page_id_general: 0
+    readonly property int page_id_launcherAppList: 1
+    readonly property int page_id_byodSwitch: 2
+    property int currentPage: page_id_general
+
+    LatoBoldLabel {
+        x: 50
+        y: 67
+        text: qsTr("Settings")
+        font.pixelSize: 21
+        Accessible.role: Accessible.Heading
+    }
+
+    ListView {
+        id: tabBar
+
+        x: 50
+        y: 111
+        width: 600
+        height: 36
+        spacing: 40
+        orientation: ListView.Horizontal
+        interactive: false
+        keyNavigationEnabled: false
+        model: [
+            { text: qsTr("General"), id: page.page_id_general },
+            { text: qsTr("Launcher App List"), id: page.page_id_launcherAppList },
+            { text: qsTr("BYOD Switch"), id: page.page_id_byodSwitch }
+        ]
+        delegate: SettingsTab {
+            required property int index
+            required property var modelData
+
+            current: ListView.isCurrentItem
+            text: modelData.text
+            onClicked: {
+                page.currentPage = modelData.id;
+                tabBar.currentIndex = index;
+            }
+        }
+    }
+
+    Rectangle {
+        x: 50
+        y: 164
+        width: 656
+        height: 1
+        color: "#4A4A4B"
+    }
+
+    General {
+        anchors.fill: parent
+        visible: page.currentPage === page.page_id_general
+    }
+
+    LauncherAppList {
+        anchors.fill: parent
+        visible: page.currentPage === page.page_id_launcherAppList
+    }
+
+    ByodSwitch {
+        anchors.fill: parent
+        visible: page.currentPage === page.page_id_byodSwitch
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import Qt5Compat.GraphicalEffects
+
+// A device's sign on the connecting face, in the colour of its state. Transparent leaves the picture's
+// own colour.
+Item {
+    id: root
+
+    property alias source: picture.source
+    property alias tint: overlay.color
+    property string accessibleName: ""
+
+    width: picture.width
+    height: picture.height
+    Accessible.role: Accessible.Graphic
+    Accessible.name: accessibleName
+
+    Image {
+        id: picture
+    }
+
+    ColorOverlay {
+        id: overlay
+
+        anchors.fill: picture
+        source: picture
+    }
+}

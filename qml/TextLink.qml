@@ -1,0 +1,22 @@
+import QtQuick
+
+// A line of text that is clicked like a button.
+ControlButton {
+    id: link
+
+    property alias text: label.text
+    property alias textColor: label.color
+    property alias font: label.font
+
+    width: Math.ceil(label.implicitWidth)
+    height: Math.ceil(label.implicitHeight)
+    cursorShape: Qt.PointingHandCursor
+    Accessible.role: Accessible.Link
+
+    LatoRegularLabel {
+        id: label
+
+        color: "#4DAF4E"
+        font.pixelSize: 14
+    }
+}

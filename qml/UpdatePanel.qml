@@ -1,0 +1,33 @@
+import QtQuick
+
+// The white panel over which the program's update is offered, followed and mourned.
+Rectangle {
+    id: panel
+
+    property bool closable: true
+
+    signal closeClicked
+
+    width: 540
+    height: 280
+    radius: 15
+    border.width: 1
+    border.color: "lightgrey"
+
+    ControlButton {
+        objectName: "closeButton"
+        anchors.top: parent.top
+        anchors.topMargin: 10
+        anchors.right: parent.right
+        anchors.rightMargin: 10
+        width: 20
+        height: 20
+        visible: panel.closable
+        accessibleName: qsTr("Close")
+        onClicked: panel.closeClicked()
+
+        Image {
+            source: "qrc:/images/close.png"
+        }
+    }
+}

@@ -1,0 +1,83 @@
+import QtQuick
+
+// How far the update has come, as a bar and a number. The updater reports no progress: the bar creeps
+// towards its end and waits there, until the update is complete or has taken too long.
+Row {
+    id: root
+
+    property real value: 0
+    property bool greyed: false
+    // Milliseconds.
+    property int stepInterval: 200
+    property int timeout: 120000
+    readonly property bool running: timer.running
+
+    signal timedOut
+
+    // The clock, in milliseconds.
+    function now(): real {
+        return Date.now();
+    }
+
+    function start(): void {
+        root.greyed = false;
+        root.value = 0;
+        timer.startTime = NaN;
+        timer.restart();
+    }
+
+    function complete(): void {
+        timer.stop();
+        root.value = 100;
+    }
+
+    function step(): void {
+        if (root.value < 99)
+            root.value += 1;
+        if (isNaN(timer.startTime)) {
+            timer.startTime = root.now();
+        } else if (root.now() - timer.startTime >= root.timeout) {
+            timer.stop();
+            root.greyed = true;
+            root.timedOut();
+        }
+    }
+
+    spacing: 12
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: qsTr("Update progress")
+    Accessible.description: label.text
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 400
+        height: 8
+        radius: 7
+        color: "#EBEBEB"
+
+        Rectangle {
+            width: parent.width * root.value / 100
+            height: parent.height
+            radius: parent.radius
+            color: root.greyed ? "#9B9B9B" : "#4EB857"
+        }
+    }
+
+    LatoRegularLabel {
+        id: label
+
+        text: root.value + "%"
+        font.pixelSize: 16
+        color: "#2C2C2C"
+    }
+
+    Timer {
+        id: timer
+
+        property real startTime: NaN
+
+        interval: root.stepInterval
+        repeat: true
+        onTriggered: root.step()
+    }
+}

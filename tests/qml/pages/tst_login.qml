@@ -1,0 +1,159 @@
+// qmllint disable unqualified
+import QtQuick
+import QtTest
+import "../../../qml"
+
+PageTest {
+    id: test
+
+    name: "LoginPage"
+    width: 968
+    height: 666
+    page: page
+
+    LoginPage {
+        id: page
+
+        anchors.fill: parent
+    }
+
+    // The submit button, whose text may also stand in the title.
+    function submit(form: Item): void {
+        mouseClick(form.submitButton);
+    }
+
+    function type(name: string, text: string): void {
+        const field = visibleChild(name);
+        verify(field, name);
+        field.forceActiveFocus();
+        field.selectAll();
+        keyClick(Qt.Key_Delete);
+        for (const letter of text)
+            keyClick(letter);
+    }
+
+    function formWith(name: string): Item {
+        let item = visibleChild(name);
+        while (item && item.submitButton === undefined)
+            item = item.parent;
+        return item;
+    }
+
+    function initTestCase(): void {
+        rig.addAccount({ email: "ada@example.com", password: "Engine1843", firstName: "Ada", lastName: "Byron" });
+    }
+
+    function init(): void {
+        page.currentPage = page.page_id_reset_password;
+        page.currentPage = page.page_id_sign_in;
+        const form = formWith("email");
+        form.reset();
+        rig.takeRequests();
+    }
+
+    function test_signInWithEnterAlone(): void {
+        type("email", "ada@example.com");
+        keyClick(Qt.Key_Return);
+        verify(visibleChild("password").activeFocus);
+        type("password", "wrong");
+        keyClick(Qt.Key_Return);
+        tryVerify(() => page.serverResponse !== "");
+        verify(shown(page.serverResponse));
+        verify(!deviceControl.login);
+
+        type("password", "Engine1843");
+        keyClick(Qt.Key_Return);
+        compare(page.serverResponse, "");
+        tryVerify(() => deviceControl.login);
+        compare(deviceControl.firstName, "Ada");
+        compare(visibleChild("email").text, "");
+        verify(formWith("email").submitButton.activeFocus);
+        deviceControl.setLogin(false);
+    }
+
+    function test_emptyPasswordSendsNothing(): void {
+        type("email", "ada@example.com");
+        submit(formWith("email"));
+        const password = visibleChild("password");
+        compare(password.background.border.color, password.errorBorderColor);
+        compare(rig.takeRequests().length, 0);
+    }
+
+    function test_typedAddressSurvivesADetour(): void {
+        type("email", "ada@example.com");
+        click("Create an account");
+        click("Sign In");
+        compare(visibleChild("email").text, "ada@example.com");
+    }
+
+    function test_createAccount(): void {
+        click("Create an account");
+        verify(visibleChild("firstName").activeFocus);
+        for (const [field, text] of [["firstName", "Grace"], ["lastName", "Hopper"], ["email", "grace@example.org"],
+                                     ["password", "Cobol1959"], ["confirmPassword", "Cobol1960"]])
+            type(field, text);
+        keyClick(Qt.Key_Return);
+        verify(shown("Password do not match"));
+        compare(rig.takeRequests().length, 0);
+
+        type("confirmPassword", "Cobol1959");
+        keyClick(Qt.Key_Return);
+        tryCompare(page, "currentPage", page.page_id_verify_account);
+        verify(shown("We’ve sent a verification link to grace@example.org\nPlease check the email to verify your account."));
+        compare(rig.account("grace@example.org").lastName, "Hopper");
+        keyClick(Qt.Key_Space);
+        compare(page.currentPage, page.page_id_sign_in);
+        click("Create an account");
+        compare(visibleChild("firstName").text, "");
+    }
+
+    function test_refusedAddresses_data(): var {
+        const work = "Please use a work email address to register.";
+        const format = "The format is incorrect";
+        return [
+            { tag: "listed", email: "a@gmail.com", error: work },
+            { tag: "capitals", email: "a@GMail.COM", error: work },
+            { tag: "below a listed one", email: "a@mail.gmx.net", error: work },
+            { tag: "ends alike", email: "a@notgmail.com", error: "" },
+            { tag: "two ats", email: "a@b@gmail.com", error: "" },
+            { tag: "no ending", email: "a@work", error: format },
+        ];
+    }
+
+    function test_refusedAddresses(data): void {
+        click("Create an account");
+        type("email", data.email);
+        keyClick(Qt.Key_Tab);
+        compare(shown("Please use a work email address to register."), data.error.startsWith("Please"));
+        compare(shown("The format is incorrect"), data.error.startsWith("The format"));
+    }
+
+    function test_listIsComplete(): void {
+        compare(page.notCompanyEmail.length, 31);
+        compare(new Set(page.notCompanyEmail).size, 31);
+    }
+
+    function test_serviceRefusesTheAccount(): void {
+        click("Create an account");
+        for (const [field, text] of [["firstName", "Ada"], ["lastName", "Byron"], ["email", "ada@example.com"],
+                                     ["password", "x"], ["confirmPassword", "x"]])
+            type(field, text);
+        submit(formWith("email"));
+        tryVerify(() => page.serverResponse !== "");
+        click("Sign In");
+        compare(page.serverResponse, "");
+    }
+
+    function test_resetPassword(): void {
+        click("Forgot Password?");
+        verify(visibleChild("email").activeFocus);
+        keyClick(Qt.Key_Return);
+        verify(shown("Email is required"));
+        type("email", "ada@example.com");
+        keyClick(Qt.Key_Return);
+        tryCompare(page, "currentPage", page.page_id_reset_password_complete);
+        verify(shown("We sent an email to ada@example.com\nPlease check the email to reset your password."));
+        keyClick(Qt.Key_Return);
+        compare(page.currentPage, page.page_id_sign_in);
+    }
+}

@@ -1,0 +1,117 @@
+// qmllint disable unqualified
+import QtQuick
+import QtTest
+import "../../../qml"
+
+// The times of the staging, with a clock that the test turns.
+TestCase {
+    id: test
+
+    property real time: 1000
+    property bool mic: true
+    property bool spk: true
+    property bool cam: true
+    property bool active: false
+    property var shownAt: ({})
+
+    name: "ConnectionStaging"
+
+    ConnectionStaging {
+        id: staging
+
+        // The test ticks itself.
+        tickInterval: 100000
+        blinkOnInterval: 100000
+        blinkOffInterval: 100000
+        micConnected: test.mic
+        spkConnected: test.spk
+        camConnected: test.cam
+        active: test.active
+        onShowMicConnectedChanged: test.shownAt.mic = showMicConnected ? test.time : -1
+        onShowSpkConnectedChanged: test.shownAt.spk = showSpkConnected ? test.time : -1
+        onShowCamConnectedChanged: test.shownAt.cam = showCamConnected ? test.time : -1
+
+        function now(): real {
+            return test.time;
+        }
+    }
+
+    function runFor(milliseconds: real): void {
+        const end = test.time + milliseconds;
+        while (test.time < end) {
+            test.time += 500;
+            staging.showNext();
+            if (test.time % 1000 === 0)
+                staging.blink();
+        }
+    }
+
+    function init(): void {
+        test.active = false;
+        staging.reset();
+        test.mic = test.spk = test.cam = true;
+        test.shownAt = {};
+        test.time = 0;
+    }
+
+    // The first tick, as the running timers give it.
+    function start(): void {
+        test.active = true;
+        staging.showNext();
+        staging.blink();
+    }
+
+    function test_defaults(): void {
+        compare(staging.deviceShowInterval, 3000);
+        compare(staging.firstShowInterval, 3000);
+        compare(staging.connectionTimeout, 30000);
+        compare(staging.completeInterval, 2000);
+    }
+
+    function test_allPresent(): void {
+        start();
+        runFor(15000);
+        compare(test.shownAt, { mic: 6000, spk: 9500, cam: 13000 });
+    }
+
+    function test_dropOutClearsItsOwnAlone(): void {
+        start();
+        runFor(10000);
+        verify(staging.showSpkConnected);
+        test.mic = false;
+        verify(!staging.showMicConnected);
+        verify(staging.showSpkConnected);
+        runFor(1000);
+        compare(staging.status, "Connecting Microphone");
+        test.mic = true;
+        runFor(20000);
+        verify(staging.connectComplete);
+    }
+
+    function test_timeOutAndLateCompletion(): void {
+        test.cam = false;
+        start();
+        runFor(29500);
+        compare(staging.status, "Connecting Camera");
+        verify(!staging.connectTimeout);
+        runFor(1000);
+        verify(staging.connectTimeout);
+        compare(staging.status, "Connection failed. Please reconnect the device.");
+        test.cam = true;
+        runFor(4000);
+        verify(staging.connectComplete);
+    }
+
+    function test_reconnectWaitsLongAgain(): void {
+        start();
+        runFor(7000);
+        verify(staging.showMicConnected);
+        test.active = false;
+        staging.reset();
+        compare(staging.status, "");
+        const again = test.time;
+        start();
+        runFor(7000);
+        compare(test.shownAt.mic - again, 6000);
+    }
+}
