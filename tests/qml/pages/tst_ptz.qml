@@ -1,0 +1,274 @@
+// qmllint disable unqualified
+import QtQuick
+import "../../../qml"
+
+DisplayTest {
+    id: test
+
+    property PTZ panel: null
+
+    function init(): void {
+        mouseMove(test, 700, 660);
+        ptz.setAutoFraming(false, 1);
+        ptz.setSmartFraming(false, 1);
+        panel = createTemporaryObject(panelComponent, test) as PTZ;
+        test.sent();
+    }
+
+    function control(name: string): Item {
+        const found = findChild(test.panel, name) as Item;
+        verify(found, name);
+        return found;
+    }
+
+    name: "PTZ"
+
+    Component {
+        id: panelComponent
+
+        PTZ {
+            width: 603
+            height: 477
+        }
+    }
+
+    // Somewhere else to put the focus.
+    Item {
+        id: elsewhere
+
+        focus: true
+    }
+
+    Component {
+        id: windowComponent
+
+        Window {
+            property alias panel: windowPanel
+
+            width: 603
+            height: 477
+
+            PTZ {
+                id: windowPanel
+
+                anchors.fill: parent
+            }
+        }
+    }
+
+    function test_buttonMovesWhileItIsHeld_data(): var {
+        return [
+            { tag: "zoomIn", movement: 0 }, { tag: "zoomOut", movement: 1 }, { tag: "up", movement: 2 },
+            { tag: "down", movement: 3 }, { tag: "left", movement: 4 }, { tag: "right", movement: 5 }
+        ];
+    }
+
+    function test_buttonMovesWhileItIsHeld(data: var): void {
+        const button = test.control(data.tag);
+        test.hold(button);
+        compare(test.sent(), [test.scale(data.movement, 0)]);
+        mouseRelease(button);
+        compare(test.sent(), [test.scale(data.movement, 1)]);
+
+        button.forceActiveFocus();
+        keyPress(Qt.Key_Space);
+        keyRelease(Qt.Key_Space);
+        compare(test.sent(), [test.scale(data.movement, 0), test.scale(data.movement, 1)]);
+    }
+
+    function test_leavingAHeldButtonStops(): void {
+        const button = test.control("left");
+        test.hold(button);
+        compare(test.sent(), [test.scale(4, 0)]);
+        mouseMove(test, 650, 600);
+        compare(test.sent(), [test.scale(4, 1)]);
+        mouseRelease(test, 650, 600);
+        const late = test.sent();
+        compare(late.filter(text => text !== test.scale(4, 1)), []);
+    }
+
+    function test_keyMovesWhileItIsHeld_data(): var {
+        return [
+            { tag: "plus", key: Qt.Key_Plus, movement: 0 }, { tag: "equal", key: Qt.Key_Equal, movement: 0 },
+            { tag: "minus", key: Qt.Key_Minus, movement: 1 }, { tag: "up", key: Qt.Key_Up, movement: 2 },
+            { tag: "down", key: Qt.Key_Down, movement: 3 }, { tag: "left", key: Qt.Key_Left, movement: 4 },
+            { tag: "right", key: Qt.Key_Right, movement: 5 }
+        ];
+    }
+
+    function test_keyMovesWhileItIsHeld(data: var): void {
+        // A control of the panel lets the keys through to it.
+        for (const holder of [test.panel, test.control("preset2"), test.control("framingTab0")]) {
+            holder.forceActiveFocus();
+            keyPress(data.key);
+            compare(test.sent(), [test.scale(data.movement, 0)]);
+            keyRelease(data.key);
+            compare(test.sent(), [test.scale(data.movement, 1)]);
+        }
+        keyPress(data.key, Qt.ControlModifier);
+        keyRelease(data.key, Qt.ControlModifier);
+        compare(test.sent(), []);
+    }
+
+    function test_anotherKeyTakesTheMovementOver(): void {
+        test.panel.forceActiveFocus();
+        keyPress(Qt.Key_Left);
+        keyPress(Qt.Key_Right);
+        compare(test.sent(), [test.scale(4, 0), test.scale(4, 1), test.scale(5, 0)]);
+        keyRelease(Qt.Key_Left);
+        compare(test.sent(), []);
+        keyRelease(Qt.Key_Right);
+        compare(test.sent(), [test.scale(5, 1)]);
+
+        // Shift let go before the key that it made a plus.
+        keyPress(Qt.Key_Plus, Qt.ShiftModifier);
+        keyRelease(Qt.Key_Equal);
+        compare(test.sent(), [test.scale(0, 0), test.scale(0, 1)]);
+    }
+
+    function test_heldKeyEndsWithTheFocusAndThePage(): void {
+        test.panel.forceActiveFocus();
+        keyPress(Qt.Key_Up);
+        elsewhere.forceActiveFocus();
+        keyRelease(Qt.Key_Up);
+        compare(test.sent(), [test.scale(2, 0), test.scale(2, 1)]);
+
+        test.panel.forceActiveFocus();
+        keyPress(Qt.Key_Up);
+        test.answer(13, "autoframestatus", 1);
+        compare(test.sent(), [test.scale(2, 0), test.scale(2, 1)]);
+        keyRelease(Qt.Key_Up);
+        keyClick(Qt.Key_Up);
+        compare(test.sent(), []);
+    }
+
+    function test_hidingTheWindowEndsWhatIsHeld(): void {
+        const window = createTemporaryObject(windowComponent, test) as Window;
+        window.show();
+        window.requestActivate();
+        window.panel.forceActiveFocus();
+        tryVerify(() => window.panel.activeFocus);
+        keyPress(Qt.Key_Down);
+        const button = findChild(window.panel, "zoomOut") as Item;
+        test.hold(button);
+        compare(test.sent(), [test.scale(3, 0), test.scale(1, 0)]);
+        window.hide();
+        compare(test.sent().sort(), [test.scale(1, 1), test.scale(3, 1)]);
+        mouseRelease(button);
+        keyRelease(Qt.Key_Down);
+        compare(test.sent(), []);
+    }
+
+    function test_pressBringsTheKeysToThePanel(): void {
+        elsewhere.forceActiveFocus();
+        mouseClick(test.panel, 20, 440);
+        verify(test.panel.activeFocus);
+        keyClick(Qt.Key_Left);
+        compare(test.sent(), [test.scale(4, 0), test.scale(4, 1)]);
+    }
+
+    function test_clickRecallsAPreset(): void {
+        for (let i = 0; i < 3; ++i) {
+            mouseClick(test.control("preset" + (i + 1)));
+            compare(test.sent(), [test.preset(i, 0)]);
+        }
+    }
+
+    function raiseSaveButton(preset: string): Item {
+        const button = test.control(preset) as PresetButton;
+        button.repeatInterval = 1;
+        const save = test.control("saveButton");
+        test.hold(button);
+        tryVerify(() => save.visible);
+        mouseRelease(button);
+        return save;
+    }
+
+    function test_longPressSavesAPreset(): void {
+        const first = test.control("preset1") as PresetButton;
+        compare(first.repeatInterval, 700);
+        verify(!first.autoRepeat);
+        for (let i = 0; i < 3; ++i) {
+            const save = test.raiseSaveButton("preset" + (i + 1));
+            const preset = test.control("preset" + (i + 1));
+            compare(test.centreOf(save).x, test.centreOf(preset).x);
+            compare(save.y + save.height + 5, preset.mapToItem(test.panel, 0, 0).y);
+            mouseClick(save);
+            verify(!save.visible);
+            compare(test.sent(), [test.preset(i, 1)]);
+        }
+    }
+
+    function test_saveIsDismissed(): void {
+        for (const place of ["up", "preset1", "zoomPanel"]) {
+            const save = test.raiseSaveButton("preset2");
+            mouseClick(test.control(place), 5, 5);
+            verify(!save.visible, place);
+            compare(test.sent(), []);
+        }
+
+        const save = test.raiseSaveButton("preset3");
+        mouseClick(test.control("framingTab1"));
+        mouseClick(test.control("framingTab0"));
+        verify(!save.visible);
+        compare(test.sent(), [test.autoFraming(true), test.autoFraming(false)]);
+
+        test.raiseSaveButton("preset3");
+        save.forceActiveFocus();
+        keyClick(Qt.Key_Escape);
+        verify(!save.visible);
+        verify(test.control("preset3").activeFocus);
+        compare(test.sent(), []);
+    }
+
+    function test_tabsTurnAutoFramingOnAndOff(): void {
+        mouseClick(test.control("framingTab1"));
+        verify(test.control("autoFramingPage").visible);
+        verify(!test.control("manualPage").visible);
+        mouseClick(test.control("framingTab1"));
+        compare(test.sent(), [test.autoFraming(true)]);
+
+        mouseClick(test.control("smartFramingSwitch"));
+        compare(test.sent(), [test.smartFraming(true)]);
+        verify((test.control("smartFramingSwitch") as PanelSwitch).checked);
+
+        mouseClick(test.control("framingTab0"));
+        verify(test.control("manualPage").visible);
+        compare(test.sent(), [test.autoFraming(false)]);
+
+        const tab = test.control("framingTab1");
+        tab.forceActiveFocus();
+        keyClick(Qt.Key_Space);
+        compare(test.sent(), [test.autoFraming(true), test.smartFraming(true)]);
+    }
+
+    function test_displayTurnsAutoFramingOnAndOff(): void {
+        test.control("preset1").forceActiveFocus();
+        test.answer(13, "autoframestatus", 1);
+        verify(test.control("autoFramingPage").visible);
+        verify((test.control("framingTab1") as FramingTab).current);
+        verify(test.control("framingTab1").activeFocus);
+        test.answer(15, "smartframestatus", 1);
+        verify((test.control("smartFramingSwitch") as PanelSwitch).checked);
+        test.answer(13, "autoframestatus", 0);
+        verify(test.control("manualPage").visible);
+        compare(test.sent(), []);
+    }
+
+    function test_opensOnTheTabOfTheDisplay(): void {
+        ptz.setAutoFraming(true, 1);
+        const opened = createTemporaryObject(panelComponent, test) as PTZ;
+        compare(opened.currentPage, opened.page_id_auto_framing);
+        compare(test.sent(), []);
+    }
+
+    function test_tabKeyReachesEveryControl(): void {
+        const names = ["zoomIn", "zoomOut", "up", "down", "left", "right", "preset1", "preset2", "preset3", "framingTab0", "framingTab1"];
+        elsewhere.forceActiveFocus();
+        for (const name of names) {
+            keyClick(Qt.Key_Tab);
+            compare(Window.activeFocusItem.objectName, name);
+            verify(Window.activeFocusItem.Accessible.name !== "", name);
+        }
+    }
+}
