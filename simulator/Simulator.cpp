@@ -9,6 +9,7 @@
 #include "simulator/display/LinkCommands.h"
 #include "simulator/script/FlowCommands.h"
 #include "simulator/script/ScriptRunner.h"
+#include "simulator/video/VideoFeature.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -42,12 +43,14 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
     auto* const display = new DisplayModel(m_log, this);
     auto* const expectations = new Expectations(this);
     auto* const account = new AccountFeature(m_log, this);
+    auto* const video = new VideoFeature(m_log, this);
     m_devices = new DevicesFeature(m_log, this);
     m_flow = new FlowCommands(m_log, this);
     addFeature(display);
     addFeature(new DisplayCamera(*display, m_log, this));
     addFeature(new LinkCommands(*m_link, m_log, this));
     addFeature(expectations);
+    addFeature(video);
     addFeature(account);
     addFeature(m_devices);
     addFeature(m_flow);
@@ -56,6 +59,9 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
     connect(display, &DisplayModel::send, m_link.get(), &DisplayLink::send);
     connectLink(expectations);
     connect(expectations, &Expectations::forgotten, account, &AccountFeature::forgetRequests);
+    connect(expectations, &Expectations::forgotten, video, &VideoFeature::forget);
+    connect(video, &VideoFeature::setupFinished, display,
+            [display] { display->connectDisplay(DisplayModel::NormalUse); });
     // What came is noted before the display acts on it.
     connect(m_link.get(), &DisplayLink::messageReceived, display, &DisplayModel::receive);
     connect(m_link.get(), &DisplayLink::clientConnected, display, &DisplayModel::greet);

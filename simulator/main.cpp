@@ -3,7 +3,7 @@
 #include "simulator/script/StdinReader.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <iostream>
 
@@ -15,12 +15,12 @@ namespace
 
 const QString kDescription =
     uR"(Plays a meeting-room display for the program, over the socket of the channel library; on demand
-also the account service and the display's microphone, camera and speaker.
+also the account service, the display's microphone, camera and speaker, and its screen.
 
 It listens on the socket, prints everything that happens as one JSON object a line
 ("event" says what: listening, client-connected, client-disconnected, message, sent,
 malformed-line, display, camera, camera-command, account-listening, account-request, devices,
-command, failed, ...) and takes commands from standard input and from a scenario file, one a line.
+video, setup, pointer, button, command, failed, ...) and takes commands from standard input and from a scenario file, one a line.
 Lines beginning with # are comments.
 
 What the display sends:
@@ -46,7 +46,10 @@ scenario, or what "quit" names.)"_s;
 
 int main(int argc, char* argv[])
 {
-    const QCoreApplication app(argc, argv);
+    // It draws the display's screen, and shows it nowhere.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication app(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(kDescription);
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this help."_s);

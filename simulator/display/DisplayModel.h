@@ -24,6 +24,9 @@ class DisplayModel : public Feature
 public:
     using Handler = std::function<void(const QJsonObject& message)>;
 
+    /// Mode of a display that is set up.
+    static constexpr int NormalUse = 1;
+
     enum class Source { None, Available, Byod, Zoom };
 
     explicit DisplayModel(EventLog& log, QObject* parent = nullptr);

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "simulator/script/Feature.h"
+#include "simulator/script/MessageMemory.h"
+#include "simulator/video/FrameLayout.h"
+#include "simulator/video/FrameObjects.h"
+#include "simulator/video/FrameWriter.h"
+#include "simulator/video/SetupFlow.h"
+#include "simulator/video/SetupPicture.h"
+
+#include <QTimer>
+#include <QUdpSocket>
+
+#include <optional>
+
+namespace simulator
+{
+
+class EventLog;
+
+/// The display's screen as it comes to this PC: writes the set-up screen as frames into the shared
+/// memory, takes the pointer from the program, and plays a writer that fails. Needs a
+/// QGuiApplication once it is started.
+class VideoFeature : public Feature
+{
+    Q_OBJECT
+
+public:
+    /// What is fixed between the writer and the program, and a test's own instead.
+    struct Names {
+        QString mapping = QString::fromLatin1(frame::MappingName);
+        QString event = QString::fromLatin1(frame::EventName);
+        quint16 pointerPort = 49176;
+    };
+
+    explicit VideoFeature(EventLog& log, QObject* parent = nullptr);
+    /// @p log must outlive the feature.
+    VideoFeature(EventLog& log, Names names, QObject* parent = nullptr);
+
+    QString name() const override;
+    void addCommands(CommandInterpreter& interpreter) override;
+    QJsonObject status() const override;
+
+    /// Forgets the pointer events and steps that nobody expected.
+    void forget() { m_pointerEvents.forget(); }
+    quint16 pointerPort() const { return m_pointer.localPort(); }
+
+signals:
+    /// The set-up was walked through to its end.
+    void setupFinished();
+
+private:
+    enum class State { Stopped, Writing, Stalled, CutShort, Dead };
+
+    void addWriterCommands(CommandInterpreter& interpreter);
+    void addFaultCommands(CommandInterpreter& interpreter);
+    void addExpectations(CommandInterpreter& interpreter);
+
+    QString start();
+    void stop();
+    QString makeObjects();
+    QString listenToThePointer();
+    QString setSize(int width, int height);
+    void setRate(int framesPerSecond);
+    QString stall();
+    QString resume();
+    QString die();
+    QString comeBack();
+    QString cutShort();
+    void setHostile(int kind, int frames);
+    void setState(State state);
+
+    void writeFrame();
+    void takeDatagrams();
+    void takePointer(const PointerEvent& event);
+    void tellStep();
+
+    EventLog& m_log;
+    const Names m_names;
+    State m_state = State::Stopped;
+    QSize m_size{1920, 1080};
+    int m_rate = 30;
+    quint32 m_frameNumber = 0;
+    int m_hostileKind = 0;
+    int m_hostileFrames = 0;
+    SetupFlow m_flow;
+    std::optional<SetupPicture> m_picture;
+    std::unique_ptr<FrameObjects> m_objects;
+    std::optional<FrameWriter> m_writer;
+    QTimer m_timer;
+    QUdpSocket m_pointer;
+    MessageMemory m_pointerEvents{QStringLiteral("pointer event")};
+};
+
+} // namespace simulator
