@@ -1,6 +1,6 @@
 #include "persistence/DBManager.h"
 
-#include "tests/persistence/LogCapture.h"
+#include "tests/support/LogCapture.h"
 
 #include <QDir>
 #include <QFile>

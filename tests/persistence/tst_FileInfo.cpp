@@ -1,7 +1,7 @@
 #include "persistence/FileInfo.h"
 
 #include "platform/Registry.h"
-#include "tests/persistence/LogCapture.h"
+#include "tests/support/LogCapture.h"
 
 #include <QFile>
 #include <QRandomGenerator>

@@ -5,8 +5,8 @@
 #include "persistence/UserSettings.h"
 #include "platform/Registry.h"
 #include "tests/persistence/FakeLauncher.h"
-#include "tests/persistence/LogCapture.h"
 #include "tests/persistence/Poster.h"
+#include "tests/support/LogCapture.h"
 
 #include <QSettings>
 #include <QSignalSpy>

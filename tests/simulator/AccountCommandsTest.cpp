@@ -34,8 +34,11 @@ private slots:
 
 private:
     void command(const QString& line);
-    QList<QJsonObject> events(const QString& name) const;
-    QJsonObject lastEvent(const QString& name) const { return events(name).value(0); }
+    QJsonObject lastEvent(const QString& name) const
+    {
+        const auto events = eventsNamed(name, m_events);
+        return events.value(events.size() - 1);
+    }
     QString happens(const std::function<void()>& action);
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -71,19 +74,6 @@ void AccountCommandsTest::command(const QString& line)
     m_simulator->enterCommand(line);
     m_simulator->enterCommand(u"echo "_s + mark);
     QTRY_COMPARE_WITH_TIMEOUT(lastEvent(u"echo"_s).value("text"_L1).toString(), mark, kPatience);
-}
-
-// The latest first.
-QList<QJsonObject> AccountCommandsTest::events(const QString& name) const
-{
-    QList<QJsonObject> found;
-    const QByteArrayList lines = QByteArray::fromStdString(m_events.str()).split('\n');
-    for (const QByteArray& line : lines) {
-        const QJsonObject event = QJsonDocument::fromJson(line).object();
-        if (event.value("event"_L1) == name)
-            found.prepend(event);
-    }
-    return found;
 }
 
 // What the client reports of one request.
@@ -152,13 +142,13 @@ void AccountCommandsTest::keepsSecretsOutOfRequests()
             event.insert(field.key(), field.value());
         return event;
     };
-    const auto requests = events(u"account-request"_s); // the latest first
+    const auto requests = eventsNamed(u"account-request"_s, m_events);
     QCOMPARE(requests.size(), 5);
-    QCOMPARE(requests.at(4), expected({{u"endpoint"_s, u"login"_s},
+    QCOMPARE(requests.at(0), expected({{u"endpoint"_s, u"login"_s},
                                        {u"method"_s, u"POST"_s},
                                        {u"path"_s, u"/nc/auth/login"_s},
                                        {u"email"_s, u"ada@vorn.example"_s}}));
-    QCOMPARE(requests.at(3), expected({{u"endpoint"_s, u"register"_s},
+    QCOMPARE(requests.at(1), expected({{u"endpoint"_s, u"register"_s},
                                        {u"method"_s, u"POST"_s},
                                        {u"path"_s, u"/nc/users/register"_s},
                                        {u"firstName"_s, u"Ada"_s},
@@ -166,11 +156,11 @@ void AccountCommandsTest::keepsSecretsOutOfRequests()
                                        {u"email"_s, u"ada@vorn.example"_s}}));
     QCOMPARE(requests.at(2).value("endpoint"_L1), u"forgot-password"_s);
     QCOMPARE(requests.at(2).value("email"_L1), u"ada@vorn.example"_s);
-    QCOMPARE(requests.at(1), expected({{u"endpoint"_s, u"profile-read"_s},
+    QCOMPARE(requests.at(3), expected({{u"endpoint"_s, u"profile-read"_s},
                                        {u"method"_s, u"GET"_s},
                                        {u"path"_s, u"/nc/users/77"_s},
                                        {u"hasToken"_s, true}}));
-    QCOMPARE(requests.at(0).value("pictureSize"_L1).toInt(), 4);
+    QCOMPARE(requests.at(4).value("pictureSize"_L1).toInt(), 4);
     const QString all = QString::fromStdString(m_events.str());
     for (const QString& secret :
          {password, u"cGE1NXdvcmQ"_s, u"a-secret-token"_s, m_identity.m_rawPicture})
@@ -231,11 +221,8 @@ void AccountCommandsTest::expectsRequests()
 {
     QFETCH(QByteArray, scenario);
     happens([&] { m_network->login(u"a@b.c"_s, u"pw"_s); });
-    QFile file(m_folder->filePath(u"story"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(scenario) == scenario.size());
-    file.close();
     QSignalSpy finished(m_simulator.get(), &Simulator::finished);
-    QVERIFY2(m_simulator->loadScenario(file.fileName()), m_errors.str().c_str());
+    QVERIFY2(m_simulator->loadScenario(writeScenario(*m_folder, scenario)), m_errors.str().c_str());
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, kPatience);
     QTEST(finished.first().first().toInt(), "code");
     const bool told = m_errors.str().find("no such request within 0.05 s") != std::string::npos;

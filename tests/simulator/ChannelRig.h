@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QList>
 #include <QTemporaryDir>
 
 #include <mutex>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -47,6 +51,27 @@ private:
     mutable std::mutex m_mutex;
     QList<Entry> m_entries;
 };
+
+/// The events of this name that a simulator wrote, in their order.
+inline QList<QJsonObject> eventsNamed(const QString& name, const std::ostringstream& written)
+{
+    QList<QJsonObject> found;
+    const QByteArrayList lines = QByteArray::fromStdString(written.str()).split('\n');
+    for (const QByteArray& line : lines) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event.value(QLatin1String("event")) == name)
+            found.append(event);
+    }
+    return found;
+}
+
+/// Writes a scenario; returns its path, empty when that failed.
+inline QString writeScenario(const QTemporaryDir& folder, const QByteArray& content)
+{
+    QFile file(folder.filePath(QStringLiteral("story")));
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    return isWritten ? file.fileName() : QString();
+}
 
 /// A socket name of the test's own.
 class SocketFolder

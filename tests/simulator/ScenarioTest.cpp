@@ -70,7 +70,7 @@ private slots:
 private:
     void run(const QByteArray& scenario);
     int exitCode();
-    QList<QJsonObject> events(const QString& name) const;
+    QList<QJsonObject> events(const QString& name) const { return eventsNamed(name, m_events); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::ostringstream m_events;
@@ -92,11 +92,7 @@ void ScenarioTest::init()
 
 void ScenarioTest::run(const QByteArray& scenario)
 {
-    QFile file(m_folder->filePath(u"story"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(scenario);
-    file.close();
-    QVERIFY2(m_simulator->loadScenario(file.fileName()), m_errors.str().c_str());
+    QVERIFY2(m_simulator->loadScenario(writeScenario(*m_folder, scenario)), m_errors.str().c_str());
 }
 
 int ScenarioTest::exitCode()
@@ -104,18 +100,6 @@ int ScenarioTest::exitCode()
     if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, kPatience))
         return -1;
     return m_finished->first().first().toInt();
-}
-
-QList<QJsonObject> ScenarioTest::events(const QString& name) const
-{
-    QList<QJsonObject> found;
-    const QByteArrayList lines = QByteArray::fromStdString(m_events.str()).split('\n');
-    for (const QByteArray& line : lines) {
-        const QJsonObject event = QJsonDocument::fromJson(line).object();
-        if (event.value("event"_L1) == name)
-            found.append(event);
-    }
-    return found;
 }
 
 void ScenarioTest::firstContactSucceeds()
