@@ -63,7 +63,7 @@ int install()
 
 QString noteStart()
 {
-    const QString folder =
+    QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/zoom"_L1;
     QDir().mkpath(folder);
     QFile file(folder + "/started.log"_L1);

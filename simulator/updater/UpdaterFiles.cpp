@@ -32,7 +32,7 @@ UpdaterOrders::Behaviour behaviourNamed(const QString& name)
 
 QString updaterFolder()
 {
-    const QString folder =
+    QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/VORNApp"_L1;
     QDir().mkpath(folder);
     return folder;
