@@ -27,50 +27,35 @@ namespace
 constexpr DWORD kUncaughtException = 0xE0564F52;
 constexpr DWORD kAborted = 0xE0564F53;
 
+constexpr DWORD kDumpPatienceMs = 10'000;
 constexpr DWORD kLogPatienceMs = 1'000;
-constexpr DWORD kOtherCrashPatienceMs = 5'000;
-
-std::atomic<DWORD> g_reporter{0}; // the thread that crashed first
-LPTOP_LEVEL_EXCEPTION_FILTER g_previousFilter = nullptr;
-std::terminate_handler g_previousTerminate = nullptr;
 
 using SignalHandler = void (*)(int);
+// With a handler for one of these the C library keeps the exception from the system's filter.
+constexpr std::array kSignals{SIGSEGV, SIGILL, SIGFPE};
+std::array<SignalHandler, kSignals.size()> g_previous{};
 SignalHandler g_previousAbort = SIG_DFL;
+std::terminate_handler g_previousTerminate = nullptr;
 
-/// Writes the log lines. The crashed thread may hold the logger's lock, so a thread that has waited
-/// for this moment writes them, and is not waited for long.
-struct LogWriter {
-    platform::CrashLine writeLine = nullptr;
-    HANDLE wake = nullptr;
-    HANDLE done = nullptr;
-    std::array<char, MAX_PATH> outcome{};
+std::atomic<DWORD> g_reporter{0}; // the thread that crashed first
 
-    void run()
-    {
-        WaitForSingleObject(wake, INFINITE);
-        writeLine("Creating dump file...");
-        writeLine(outcome.data());
-        SetEvent(done);
-    }
-};
-LogWriter g_log;
-
-QString dumpFileName()
+QString dumpFileName(DWORD thread)
 {
     return u".\\%1-%2-%3-%4.dmp"_s.arg(QCoreApplication::applicationName(),
                                        QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s),
                                        QString::number(QCoreApplication::applicationPid()),
-                                       QString::number(GetCurrentThreadId()));
+                                       QString::number(thread));
 }
 
-QString writeDump(EXCEPTION_POINTERS* exceptionPointers)
+QString writeDump(DWORD thread, EXCEPTION_POINTERS* exceptionPointers)
 {
-    QFile file(dumpFileName());
+    const QString name = dumpFileName(thread);
+    QFile file(name);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return "Failed to create dump file:"_L1 + file.fileName();
+        return "Failed to create dump file:"_L1 + name;
 
     MINIDUMP_EXCEPTION_INFORMATION information{};
-    information.ThreadId = GetCurrentThreadId();
+    information.ThreadId = thread;
     information.ExceptionPointers = exceptionPointers;
     information.ClientPointers = TRUE;
     const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
@@ -80,35 +65,80 @@ QString writeDump(EXCEPTION_POINTERS* exceptionPointers)
     file.close();
     if (!written)
         return "Failed to write dump file:"_L1 + QString::number(error);
-    return "Dump file created successfully at:"_L1 + file.fileName();
+    return "Dump file created successfully at:"_L1 + name;
 }
 
+/// A thread that has waited for the crash does the work: the crashed one may have no stack left,
+/// and may hold the logger's lock. Hence the log also comes after the dump.
+struct Reporter {
+    platform::CrashLine writeLine = nullptr;
+    HANDLE wake = nullptr;
+    HANDLE written = nullptr;
+    HANDLE logged = nullptr;
+    DWORD thread = 0;
+    EXCEPTION_POINTERS* exceptionPointers = nullptr;
+
+    void run()
+    {
+        WaitForSingleObject(wake, INFINITE);
+        const QByteArray outcome = writeDump(thread, exceptionPointers).toUtf8();
+        SetEvent(written);
+        writeLine("Creating dump file...");
+        writeLine(outcome.constData());
+        SetEvent(logged);
+    }
+};
+Reporter g_report;
+
 // One dump a process, of the first crash: what another thread does meanwhile is its consequence.
-// The log comes after the dump, which stops every other thread while it is written.
 LONG GenerateDump(EXCEPTION_POINTERS* exceptionPointers)
 {
     DWORD nobody = 0;
     const DWORD thread = GetCurrentThreadId();
-    if (!g_reporter.compare_exchange_strong(nobody, thread)) {
-        if (nobody != thread) // otherwise the handler itself has crashed, or abort() follows it
-            Sleep(kOtherCrashPatienceMs);
+    if (g_reporter.compare_exchange_strong(nobody, thread)) {
+        g_report.thread = thread;
+        g_report.exceptionPointers = exceptionPointers;
+        SetEvent(g_report.wake);
+    } else if (nobody == thread) { // abort() follows what has been reported
         return EXCEPTION_EXECUTE_HANDLER;
     }
-    const QByteArray outcome = writeDump(exceptionPointers).toUtf8();
-    qstrncpy(g_log.outcome.data(), outcome.constData(), g_log.outcome.size());
-    SetEvent(g_log.wake);
-    WaitForSingleObject(g_log.done, kLogPatienceMs);
+    WaitForSingleObject(g_report.written, kDumpPatienceMs);
+    WaitForSingleObject(g_report.logged, kLogPatienceMs);
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
-// The filter installed before is the C library's: it calls the logger's own signal handler.
+int signalOf(DWORD exceptionCode)
+{
+    switch (exceptionCode) {
+    case EXCEPTION_ACCESS_VIOLATION:
+        return SIGSEGV;
+    case EXCEPTION_ILLEGAL_INSTRUCTION:
+    case EXCEPTION_PRIV_INSTRUCTION:
+        return SIGILL;
+    case EXCEPTION_INT_DIVIDE_BY_ZERO:
+    case EXCEPTION_FLT_DIVIDE_BY_ZERO:
+    case EXCEPTION_FLT_INVALID_OPERATION:
+    case EXCEPTION_FLT_OVERFLOW:
+        return SIGFPE;
+    default:
+        return 0;
+    }
+}
+
+void passOn(int signal, SignalHandler previous)
+{
+    if (previous != SIG_DFL && previous != SIG_IGN && previous != SIG_ERR)
+        previous(signal);
+}
+
 LONG WINAPI onUnhandledException(EXCEPTION_POINTERS* exceptionPointers)
 {
     const LONG result = GenerateDump(exceptionPointers);
-    const bool hasStackLeft =
-        exceptionPointers->ExceptionRecord->ExceptionCode != EXCEPTION_STACK_OVERFLOW;
-    if (g_previousFilter && hasStackLeft)
-        g_previousFilter(exceptionPointers);
+    const int signal = signalOf(exceptionPointers->ExceptionRecord->ExceptionCode);
+    for (std::size_t i = 0; i < kSignals.size(); ++i) {
+        if (kSignals[i] == signal)
+            passOn(signal, g_previous[i]);
+    }
     return result;
 }
 
@@ -137,18 +167,18 @@ void dumpHere(DWORD code)
 void onAbort(int signal)
 {
     dumpHere(kAborted);
-    if (g_previousAbort != SIG_DFL && g_previousAbort != SIG_IGN)
-        g_previousAbort(signal);
+    passOn(signal, g_previousAbort);
 }
 
-void startLogWriter(platform::CrashLine writeLine)
+void startReporter(platform::CrashLine writeLine)
 {
-    g_log.writeLine = writeLine;
-    g_log.wake = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    g_log.done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    g_report.writeLine = writeLine;
+    g_report.wake = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    g_report.written = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    g_report.logged = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     // It sleeps until a crash and touches nothing that is ever destroyed, hence it can be left
     // behind.
-    std::thread([] { g_log.run(); }).detach();
+    std::thread([] { g_report.run(); }).detach();
 }
 
 } // namespace
@@ -158,11 +188,13 @@ namespace platform
 
 void installCrashHandler(CrashLine writeLine)
 {
-    startLogWriter(writeLine);
+    startReporter(writeLine);
     reserveStackForCrash();
-    g_previousFilter = SetUnhandledExceptionFilter(onUnhandledException);
-    g_previousTerminate = std::set_terminate(onTerminate);
+    SetUnhandledExceptionFilter(onUnhandledException);
+    for (std::size_t i = 0; i < kSignals.size(); ++i)
+        g_previous[i] = std::signal(kSignals[i], SIG_DFL);
     g_previousAbort = std::signal(SIGABRT, onAbort);
+    g_previousTerminate = std::set_terminate(onTerminate);
 }
 
 } // namespace platform

@@ -6,13 +6,21 @@
 #include <QString>
 #include <QTest>
 
+/// For the few expectations that differ between the systems.
+#ifdef Q_OS_WIN
+inline constexpr bool kIsWindows = true;
+#else
+inline constexpr bool kIsWindows = false;
+#endif
+
 /// A program of the tests running as a process of its own: it answers each command with a line.
 class HelperProcess : public QProcess
 {
 public:
     static QString path(const QString& program)
     {
-        return QCoreApplication::applicationDirPath() + QLatin1Char('/') + program;
+        return QCoreApplication::applicationDirPath() + QLatin1Char('/') + program +
+               QLatin1String(kIsWindows ? ".exe" : "");
     }
 
     ~HelperProcess() override

@@ -1,8 +1,9 @@
 // platform_helper <mode> [arguments]: another process for the tests of the platform's services.
 
+#include "CrashModes.h"
+
 #include "platform/CrashHandler.h"
 #include "platform/Folders.h"
-#include "platform/FrameChannel.h"
 #include "platform/InstanceSegment.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
@@ -12,15 +13,11 @@
 #include <QFileInfo>
 #include <QSharedMemory>
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
 #include <stdexcept>
 #include <thread>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -68,21 +65,6 @@ void writeLine(const char* text)
     std::fprintf(stderr, "%s\n", text);
 }
 
-void onEarlierHandler(int signal)
-{
-    constexpr char kText[] = "earlier handler\n";
-    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kText, sizeof(kText) - 1);
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-
-// Not a null pointer, since some sanitizers map memory there.
-void touchForbiddenPage()
-{
-    void* const page = ::mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    *static_cast<volatile char*>(page) = 1;
-}
-
 int overflowStack(int depth)
 {
     volatile char block[4096];
@@ -90,14 +72,6 @@ int overflowStack(int depth)
     if (depth < 0) // never, which the compiler is not to know
         return 0;
     return overflowStack(depth + 1) + block[0];
-}
-
-void touchBeyondEnd()
-{
-    const auto channel = platform::makeFrameChannel("none", "none", 1); // guards its own reads only
-    std::FILE* const empty = std::tmpfile();
-    void* const page = ::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(empty), 0);
-    [[maybe_unused]] const char byte = *static_cast<const volatile char*>(page);
 }
 
 void crash(const QString& how)
@@ -118,8 +92,7 @@ void crash(const QString& how)
 
 int runCrash(const QString& how, bool onWorker)
 {
-    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT})
-        std::signal(signal, onEarlierHandler);
+    installEarlierHandler();
     platform::installCrashHandler(writeLine);
     if (!onWorker) {
         crash(how);

@@ -19,6 +19,9 @@ namespace
 {
 
 constexpr std::size_t kViewSize = 1 << 20;
+// What the system answers for a name that is not there, and for a view beyond the end.
+constexpr quint32 kNoSuchName = kIsWindows ? 2 : ENOENT;
+constexpr quint32 kTooSmall = kIsWindows ? 5 : ENXIO;
 constexpr std::chrono::milliseconds kShort{30}; // nothing will come
 constexpr std::chrono::seconds kLong{20};       // something will come
 
@@ -86,17 +89,17 @@ void tst_FrameChannel::opensInThreeSteps()
 
     auto result = m_channel->open();
     QCOMPARE(result.failedAt, Step::Mapping);
-    QCOMPARE(result.error, quint32(ENOENT));
+    QCOMPARE(result.error, kNoSuchName);
 
-    QVERIFY(m_writer->command(mappingCommand(kViewSize - 1)));
+    QVERIFY(m_writer->command(mappingCommand(kViewSize / 2)));
     result = m_channel->open();
     QCOMPARE(result.failedAt, Step::View);
-    QCOMPARE(result.error, quint32(ENXIO));
+    QCOMPARE(result.error, kTooSmall);
 
     QVERIFY(m_writer->command(mappingCommand(kViewSize)));
     result = m_channel->open();
     QCOMPARE(result.failedAt, Step::Event);
-    QCOMPARE(result.error, quint32(ENOENT));
+    QCOMPARE(result.error, kNoSuchName);
     QVERIFY(!m_channel->isOpen());
 
     QVERIFY(m_writer->command("event"));
@@ -149,6 +152,8 @@ void tst_FrameChannel::findsTheWriterReplaced_data()
 
 void tst_FrameChannel::findsTheWriterReplaced()
 {
+    if (kIsWindows)
+        QSKIP("A name outlives its writer there while it is used.");
     QFETCH(bool, newMapping);
     QFETCH(bool, newEvent);
     QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
@@ -172,6 +177,8 @@ void tst_FrameChannel::findsTheWriterReplaced()
 
 void tst_FrameChannel::keepsTheObjectsOfAWriterThatIsGone()
 {
+    if (kIsWindows)
+        QSKIP("A name outlives its writer there while it is used.");
     QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     m_writer->closeWriteChannel();
@@ -191,6 +198,8 @@ void tst_FrameChannel::keepsTheObjectsOfAWriterThatIsGone()
 
 void tst_FrameChannel::survivesMemoryTakenAway()
 {
+    if (kIsWindows)
+        QSKIP("Memory cannot be cut short there.");
     QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     std::vector<char> copy(kViewSize);
@@ -205,6 +214,8 @@ void tst_FrameChannel::survivesMemoryTakenAway()
 
 void tst_FrameChannel::survivesMemoryTakenAwayWhileCopying()
 {
+    if (kIsWindows)
+        QSKIP("Memory cannot be cut short there.");
     QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     m_writer->write("flap 20000\n");
@@ -221,6 +232,8 @@ void tst_FrameChannel::survivesMemoryTakenAwayWhileCopying()
 
 void tst_FrameChannel::survivesAnEventTakenAway()
 {
+    if (kIsWindows)
+        QSKIP("An event cannot be taken away there.");
     QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     QVERIFY(m_writer->command("cut-event"));

@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString kKey = u"HKEY_CURRENT_USER\\Software\\VORN test\\open\\command"_s;
+const QString kRoot = u"HKEY_CURRENT_USER\\Software\\VORN test"_s;
+const QString kKey = kRoot + u"\\open\\command"_s;
 const QString kIniKey = u"HKEY_CURRENT_USER/Software/VORN test/open/command/"_s;
 
 } // namespace
@@ -25,6 +26,7 @@ class tst_Registry : public QObject
 
 private slots:
     void init();
+    void cleanup();
     void keepsValues_data();
     void keepsValues();
     void isTheFileThatOthersKnow();
@@ -44,6 +46,12 @@ void tst_Registry::init()
     m_home = std::make_unique<QTemporaryDir>();
     m_file = m_home->filePath(u"VORNApp/registry.ini"_s);
     qputenv("XDG_CONFIG_HOME", m_home->path().toUtf8());
+}
+
+void tst_Registry::cleanup()
+{
+    if (kIsWindows)
+        QSettings(kRoot, QSettings::NativeFormat).remove(QString());
 }
 
 void tst_Registry::keepsValues_data()
@@ -70,12 +78,16 @@ void tst_Registry::keepsValues()
     QCOMPARE(platform::readRegistry(kKey, name).toString(), value.toString());
     QVERIFY(!platform::readRegistry(kKey + u"\\deeper"_s, name).isValid());
 
+    if (kIsWindows)
+        return;
     const QSettings file(m_file, QSettings::IniFormat);
     QCOMPARE(file.value(kIniKey + name).toString(), value.toString());
 }
 
 void tst_Registry::isTheFileThatOthersKnow()
 {
+    if (kIsWindows)
+        QSKIP("The registry is no file there.");
     QVERIFY(platform::writeRegistry(u"HKEY_CURRENT_USER\\System\\VORNApp"_s, u"username"_s,
                                     u"ann@example.org"_s));
     QFile file(m_file);
@@ -86,6 +98,8 @@ void tst_Registry::isTheFileThatOthersKnow()
 
 void tst_Registry::seesWhatOthersWrite()
 {
+    if (kIsWindows)
+        QSKIP("The registry is no file there.");
     QVERIFY(platform::writeRegistry(kKey, u"version"_s, u"1.2.9"_s));
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -102,6 +116,8 @@ void tst_Registry::seesWhatOthersWrite()
 
 void tst_Registry::readsUnquotedCommas()
 {
+    if (kIsWindows)
+        QSKIP("The registry is no file there.");
     QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -127,7 +143,7 @@ void tst_Registry::keepsWhatProcessesWriteAtOnce()
     for (const auto& prefix : {u"a"_s, u"b"_s, u"c"_s}) {
         for (int i = 0; i < kCount; ++i)
             QCOMPARE(platform::readRegistry(kKey, prefix + QString::number(i)),
-                     QVariant(u"%1"_s.arg(i)));
+                     kIsWindows ? QVariant(i) : QVariant(u"%1"_s.arg(i)));
     }
 }
 
@@ -153,6 +169,8 @@ void tst_Registry::servesThreads()
 
 void tst_Registry::saysWhenItCannotWrite()
 {
+    if (kIsWindows)
+        QSKIP("The registry is no file there.");
     QFile inTheWay(m_home->filePath(u"VORNApp"_s)); // where the folder should be
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
     QVERIFY(!platform::writeRegistry(kKey, u"version"_s, u"1"_s));

@@ -1,0 +1,43 @@
+# One folder that holds everything: the program, its library and sample configuration, and Qt.
+install(TARGETS VORNApp RUNTIME DESTINATION .)
+if(TARGET PortalHub)
+  install(TARGETS PortalHub RUNTIME DESTINATION .)
+endif()
+install(FILES "${CMAKE_SOURCE_DIR}/config/config.ini" "${CMAKE_SOURCE_DIR}/config/config.json" DESTINATION .)
+
+if(CMAKE_CROSSCOMPILING)
+  # Qt's own deploy tool runs on Windows only.
+  get_target_property(qt_core Qt6::Core IMPORTED_LOCATION_RELEASE)
+  if(NOT qt_core)
+    get_target_property(qt_core Qt6::Core IMPORTED_LOCATION_MINSIZEREL)
+  endif()
+  if(NOT qt_core)
+    get_target_property(qt_core Qt6::Core LOCATION)
+  endif()
+  get_filename_component(VORN_QT_BIN "${qt_core}" DIRECTORY)
+  execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=libstdc++-6.dll
+    OUTPUT_VARIABLE runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+  get_filename_component(VORN_RUNTIME_DIR "${runtime}" DIRECTORY)
+  configure_file("${CMAKE_CURRENT_LIST_DIR}/CrossDeploy.cmake.in" CrossDeploy.cmake @ONLY)
+  install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/CrossDeploy.cmake")
+else()
+  qt_generate_deploy_qml_app_script(TARGET VORNApp OUTPUT_SCRIPT deploy_script)
+  set(QT_DEPLOY_BIN_DIR .)
+  install(SCRIPT "${deploy_script}")
+endif()
+
+# The installer, from the installed tree: ninja installer
+find_program(VORN_MAKENSIS makensis PATHS "$ENV{ProgramFiles\(x86\)}/NSIS")
+if(VORN_MAKENSIS)
+  add_custom_target(installer
+    COMMAND "${CMAKE_COMMAND}"
+      "-DBUILD=${CMAKE_BINARY_DIR}" "-DSTAGE=${CMAKE_BINARY_DIR}/stage" "-DMAKENSIS=${VORN_MAKENSIS}"
+      "-DVERSION=${PROJECT_VERSION}" "-DCONFIG=$<CONFIG>"
+      "-DOUTPUT=${CMAKE_BINARY_DIR}/VORNApp-${PROJECT_VERSION}-setup.exe"
+      -P "${CMAKE_CURRENT_LIST_DIR}/MakeInstaller.cmake"
+    DEPENDS VORNApp
+    VERBATIM)
+  if(TARGET PortalHub)
+    add_dependencies(installer PortalHub)
+  endif()
+endif()

@@ -1,0 +1,30 @@
+# cmake -DBUILD= -DSTAGE= -DMAKENSIS= -DVERSION= -DCONFIG= -DOUTPUT= -P MakeInstaller.cmake
+# Installs the program into a folder and packs that into an installer. The uninstaller removes the very
+# files that were installed, one by one, and nothing else.
+file(REMOVE_RECURSE "${STAGE}")
+set(config "")
+if(CONFIG)
+  set(config --config "${CONFIG}")
+endif()
+execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${STAGE}" ${config}
+  OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+
+file(GLOB_RECURSE entries LIST_DIRECTORIES true RELATIVE "${STAGE}" "${STAGE}/*")
+list(SORT entries ORDER DESCENDING) # what lies in a folder before the folder
+set(removal "")
+set(kept config.ini) # the user's switches; see VORNApp.nsi
+foreach(entry IN LISTS entries)
+  string(REPLACE "/" "\\" path "${entry}")
+  if(IS_DIRECTORY "${STAGE}/${entry}")
+    string(APPEND removal "RMDir \"$INSTDIR\\${path}\"\n")
+  elseif(NOT entry IN_LIST kept)
+    string(APPEND removal "Delete \"$INSTDIR\\${path}\"\n")
+  endif()
+endforeach()
+file(WRITE "${BUILD}/removal.nsh" "${removal}")
+
+execute_process(
+  COMMAND "${MAKENSIS}" -V2 "-DVERSION=${VERSION}" "-DSTAGE=${STAGE}" "-DREMOVAL=${BUILD}/removal.nsh"
+    "-DICON=${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico" "-DOUTPUT=${OUTPUT}"
+    "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
+  COMMAND_ERROR_IS_FATAL ANY)

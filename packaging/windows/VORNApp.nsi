@@ -1,0 +1,107 @@
+; Installer of VORNApp for one user: needs no administrator and starts nothing by itself.
+; Silent: setup.exe /S [/D=<folder>], Uninstall.exe /S [/PURGE]
+Unicode true
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+
+!define KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\VORNApp"
+!define SETTINGS_KEY "System\CurrentControlSet\Control\VORNApp"
+
+Name "VORNApp"
+OutFile "${OUTPUT}"
+RequestExecutionLevel user
+InstallDir "$LOCALAPPDATA\Programs\VORNApp"
+InstallDirRegKey HKCU "${KEY}" "InstallLocation"
+SetCompressor /SOLID lzma
+VIProductVersion "${VERSION}"
+VIAddVersionKey "ProductName" "VORNApp"
+VIAddVersionKey "FileDescription" "VORNApp installer"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "LegalCopyright" "VORN"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
+
+; A running program keeps its files open: it has to be quit from the tray first.
+!macro REFUSE_WHILE_RUNNING
+  ${If} ${FileExists} "$INSTDIR\VORNApp.exe"
+    ClearErrors
+    FileOpen $0 "$INSTDIR\VORNApp.exe" a
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONEXCLAMATION "VORNApp is running. Quit it from its tray icon first." /SD IDOK
+      SetErrorLevel 3
+      Abort
+    ${EndIf}
+    FileClose $0
+  ${EndIf}
+!macroend
+
+Section "VORNApp"
+  !insertmacro REFUSE_WHILE_RUNNING
+  SetOutPath "$INSTDIR"
+  SetOverwrite on
+  File /r /x config.ini "${STAGE}/*.*"
+  ; The user's switches outlive an update.
+  SetOverwrite off
+  File "${STAGE}/config.ini"
+  SetOverwrite on
+  WriteUninstaller "$INSTDIR\Uninstall.exe"
+  CreateShortCut "$SMPROGRAMS\VORNApp.lnk" "$INSTDIR\VORNApp.exe"
+
+  WriteRegStr HKCU "${KEY}" "DisplayName" "VORNApp"
+  WriteRegStr HKCU "${KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${KEY}" "DisplayIcon" "$INSTDIR\VORNApp.exe"
+  WriteRegStr HKCU "${KEY}" "Publisher" "VORN"
+  WriteRegStr HKCU "${KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${KEY}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
+  WriteRegStr HKCU "${KEY}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
+  WriteRegDWORD HKCU "${KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${KEY}" "NoRepair" 1
+  ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+  WriteRegDWORD HKCU "${KEY}" "EstimatedSize" $0
+SectionEnd
+
+Section "un.VORNApp"
+  SectionIn RO
+  !insertmacro REFUSE_WHILE_RUNNING
+  !include "${REMOVAL}"
+  Delete "$SMPROGRAMS\VORNApp.lnk"
+  Delete "$INSTDIR\Uninstall.exe"
+  RMDir "$INSTDIR"
+  DeleteRegKey HKCU "${KEY}"
+SectionEnd
+
+Section /o "un.My settings, account data and logs" PURGE
+  Delete "$INSTDIR\config.ini"
+  Delete "$INSTDIR\userdata.db"
+  Delete "$INSTDIR\userdata.db-journal"
+  Delete "$INSTDIR\userdata.db-wal"
+  Delete "$INSTDIR\userdata.db-shm"
+  Delete "$INSTDIR\*.dmp"
+  RMDir "$INSTDIR"
+  DeleteRegKey HKCU "${SETTINGS_KEY}"
+  ReadEnvStr $0 ProgramData
+  Delete "$0\VORNApp\VORNApp.exe*.log"
+  RMDir "$0\VORNApp"
+  Delete "$0\vorn_temp\log\VORNApp.exe*.log"
+  RMDir "$0\vorn_temp\log"
+  RMDir "$0\vorn_temp"
+SectionEnd
+
+Function un.onInit
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/PURGE" $1
+  ${IfNot} ${Errors}
+    SectionGetFlags ${PURGE} $1
+    IntOp $1 $1 | 1
+    SectionSetFlags ${PURGE} $1
+  ${EndIf}
+FunctionEnd

@@ -1,0 +1,202 @@
+#include "platform/DeviceEnumeration.h"
+#include "platform/Folders.h"
+#include "platform/Processes.h"
+#include "platform/Shortcuts.h"
+#include "platform/ThreadName.h"
+#include "platform/VersionResource.h"
+#include "platform/Worker.h"
+#include "platform/windows/ChildCommand.h"
+#include "tests/platform/HelperProcess.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <qt_windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <atomic>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// The system's own answers, where Linux has stand-ins with tests of their own.
+class tst_WindowsServices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesTheFolders();
+    void readsVersionResources();
+    void listsDevices();
+    void storesUnderTheRealKey();
+    void resolvesShortcuts();
+    void reportsABrokenShortcut();
+    void stopsWaitingForAToolWhenAskedTo();
+    void givesUpOnASlowTool();
+    void namesThreads();
+};
+
+namespace
+{
+
+bool isWine()
+{
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+bool makeShortcut(const QString& path, const QString& target)
+{
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    IShellLinkW* link = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                reinterpret_cast<void**>(&link))))
+        return false;
+    link->SetPath(QDir::toNativeSeparators(target).toStdWString().c_str());
+    IPersistFile* file = nullptr;
+    bool saved = false;
+    if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)))) {
+        const std::wstring name = QDir::toNativeSeparators(path).toStdWString();
+        saved = SUCCEEDED(file->Save(name.c_str(), TRUE));
+        file->Release();
+    }
+    link->Release();
+    CoUninitialize();
+    return saved;
+}
+
+} // namespace
+
+void tst_WindowsServices::placesTheFolders()
+{
+    QCOMPARE(platform::programDataFolder(), u"C:\\ProgramData\\VORNApp"_s);
+    QVERIFY(QFileInfo(platform::programDataFolder()).isDir());
+    QCOMPARE(platform::logBackupFolder(), u"C:\\ProgramData\\vorn_temp\\log\\"_s);
+    QCOMPARE(platform::settingsFolder(), QCoreApplication::applicationDirPath());
+    QVERIFY(platform::startMenuFolder().endsWith("/Start Menu/Programs"_L1));
+    QVERIFY(QFileInfo(platform::desktopFolder()).isDir());
+    QVERIFY(platform::localDataFolder().endsWith("/AppData/Local"_L1));
+    QCOMPARE(platform::executableFileName(u"Zoom.exe"_s), u"Zoom.exe"_s);
+    QCOMPARE(platform::programBesideApplication(u"platform_helper.exe"_s),
+             HelperProcess::path(u"platform_helper"_s));
+}
+
+void tst_WindowsServices::readsVersionResources()
+{
+    // A bare name is looked up as a program's library is.
+    const auto byName = platform::fileVersions(u"kernel32.dll"_s);
+    QVERIFY(byName.has_value());
+    QVERIFY(byName->file[0] >= 6);
+    const QString folder = QDir::fromNativeSeparators(qEnvironmentVariable("SystemRoot"));
+    const auto byPath = platform::fileVersions(folder + "/system32/kernel32.dll"_L1);
+    QVERIFY(byPath.has_value());
+    QCOMPARE(byPath->file, byName->file);
+    for (const QString& none :
+         {HelperProcess::path(u"platform_helper"_s), u"C:/missing.exe"_s, QString()})
+        QVERIFY2(!platform::fileVersions(none), qPrintable(none));
+}
+
+void tst_WindowsServices::listsDevices()
+{
+    using platform::DeviceClass;
+    for (const auto deviceClass :
+         {DeviceClass::Media, DeviceClass::Camera, DeviceClass::AudioEndpoint}) {
+        QList<platform::DeviceRecord> records{{u"first"_s, {}}};
+        quint32 error = 1;
+        QVERIFY(platform::scanDevices(deviceClass, records, error));
+        QCOMPARE(error, 0U);
+        QCOMPARE(records.first().instanceId, u"first"_s); // appended to what is there
+        for (qsizetype i = 1; i < records.size(); ++i)
+            QVERIFY(records[i].instanceId.contains(u'\\'));
+    }
+}
+
+void tst_WindowsServices::storesUnderTheRealKey()
+{
+    // What another program sees in the registry, by the system's own interface.
+    const QString key = u"HKEY_CURRENT_USER\\Software\\VORN services test"_s;
+    QSettings settings(key, QSettings::NativeFormat);
+    settings.setValue(u"version"_s, u"1.2.9"_s);
+    settings.setValue(u"disable_local_dev"_s, 1);
+    settings.sync();
+    wchar_t text[16] = L"";
+    DWORD size = sizeof(text);
+    const wchar_t* const path = L"Software\\VORN services test";
+    QCOMPARE(RegGetValueW(HKEY_CURRENT_USER, path, L"version", RRF_RT_REG_SZ, nullptr, text, &size),
+             LSTATUS(ERROR_SUCCESS));
+    QCOMPARE(QString::fromWCharArray(text), u"1.2.9"_s);
+    DWORD number = 0;
+    size = sizeof(number);
+    QCOMPARE(RegGetValueW(HKEY_CURRENT_USER, path, L"disable_local_dev", RRF_RT_REG_DWORD, nullptr,
+                          &number, &size),
+             LSTATUS(ERROR_SUCCESS));
+    QCOMPARE(number, DWORD(1));
+    settings.remove(QString());
+}
+
+void tst_WindowsServices::resolvesShortcuts()
+{
+    QCOMPARE(platform::shortcutFileName(u"Zoom Workplace"_s), u"Zoom Workplace.lnk"_s);
+    QVERIFY(platform::packagedShortcut({u"Zoom"_s}).isEmpty());
+
+    const QTemporaryDir folder;
+    const QString target = HelperProcess::path(u"platform_helper"_s);
+    const QString shortcut = folder.filePath(u"it's a program.lnk"_s);
+    QVERIFY(makeShortcut(shortcut, target));
+    if (isWine())
+        QSKIP("Wine has no PowerShell to read a shortcut with.");
+    const auto result = platform::shortcutTarget(shortcut, 20s);
+    QVERIFY2(result.finished, qPrintable(result.processError));
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(QDir::fromNativeSeparators(result.output).toLower(), target.toLower());
+}
+
+void tst_WindowsServices::reportsABrokenShortcut()
+{
+    const auto result = platform::shortcutTarget(u"C:\\missing.lnk"_s, 20s);
+    QVERIFY(result.output.isEmpty()); // whether or not there is a PowerShell to ask
+}
+
+void tst_WindowsServices::stopsWaitingForAToolWhenAskedTo()
+{
+    std::atomic_bool finished = true;
+    QElapsedTimer sinceRequest;
+    {
+        Worker worker("tool", [&](const StopRequest&) {
+            QProcess tool;
+            finished = platform::runCommand(tool, HelperProcess::path(u"platform_helper"_s),
+                                            {u"wait"_s}, 60s);
+        });
+        sinceRequest.start();
+    } // asks and joins
+    QVERIFY(!finished);
+    QVERIFY(sinceRequest.elapsed() < 10'000);
+    QVERIFY(!StopRequest::isMadeToThisThread());
+}
+
+void tst_WindowsServices::givesUpOnASlowTool()
+{
+    QProcess tool;
+    QVERIFY(
+        !platform::runCommand(tool, HelperProcess::path(u"platform_helper"_s), {u"wait"_s}, 100ms));
+    QProcess missing;
+    QVERIFY(!platform::runCommand(missing, u"C:/missing.exe"_s, {}, 20s));
+    QProcess quick;
+    QVERIFY(platform::runCommand(quick, HelperProcess::path(u"platform_helper"_s), {u"?"_s}, 20s));
+    QCOMPARE(quick.exitCode(), 2); // what it says of a word it does not know
+}
+
+void tst_WindowsServices::namesThreads()
+{
+    platform::nameCurrentThread("a thread");
+    ULONG reserved = 0;
+    QVERIFY(SetThreadStackGuarantee(&reserved));
+    QVERIFY(reserved >= 64 * 1024);
+}
+
+QTEST_GUILESS_MAIN(tst_WindowsServices)
+#include "tst_WindowsServices.moc"

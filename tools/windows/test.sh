@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# ./tools/windows/test.sh [ctest options]   builds the Windows program and its tests, and runs them under Wine.
+#
+# Everything happens in a Debian 13 root, which is made when it is missing (tools/windows/make-root.sh).
+# VORN_WINDOWS_QT names a ready Windows Qt, an archive or a folder; see docs/windows.md. With -N it
+# only builds. Needs root.
+set -euo pipefail
+source "$(dirname "$0")/../common.sh"
+source "$root/tools/windows/settings.sh"
+
+case "${1:-}" in
+-h | --help)
+  sed -n '2,6s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
+[ "$(id -u)" -eq 0 ] || fail "the Debian root needs root" "run it again as root or with sudo"
+
+began=$SECONDS
+"$root/tools/windows/make-root.sh" "$windows_root"
+mount_root
+need_windows_qt
+
+step "Building for Windows"
+in_root "$windows_qt/bin/qt-cmake" -G Ninja -S /src -B /build/windows -DCMAKE_BUILD_TYPE=Release \
+  -DVORN_BUILD_TESTS=ON -DVORN_WARNINGS_AS_ERRORS=ON \
+  -DCMAKE_CROSSCOMPILING_EMULATOR=/src/tools/windows/run-test.sh >"$windows_root/build/configure.log" 2>&1 || {
+  tail -30 "$windows_root/build/configure.log" >&2
+  fail "configuring for Windows" "look at $windows_root/build/configure.log"
+}
+in_root ninja -C /build/windows || fail "building for Windows" "look at the compiler's first message above"
+built=$SECONDS
+
+step "Testing under Wine"
+install -d -m 700 "$windows_root/build/run"
+[ -d "$windows_root/build/wine" ] || in_root /src/tools/windows/run-wine.sh wineboot -i >/dev/null 2>&1
+in_root ctest --test-dir /build/windows --output-on-failure --no-tests=error -j 2 "$@" ||
+  fail "tests under Wine" "run one again with: $0 -R <name>"
+printf '\nBuilt in %d s, tested in %d s\n' "$((built - began))" "$((SECONDS - built))"
