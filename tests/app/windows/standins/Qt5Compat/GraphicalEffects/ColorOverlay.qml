@@ -1,0 +1,7 @@
+import QtQuick
+
+Item {
+    property var source
+    property color color
+    property bool cached
+}
