@@ -81,8 +81,9 @@ bool ScreenRig::startWriting(int width, int height)
     m_writer.emplace();
     const auto size = QByteArray::number(qulonglong{FrameHeader::ViewSize});
     m_frameCommand = "frame " + QByteArray::number(width) + ' ' + QByteArray::number(height);
-    if (!m_writer->startAndWait(u"frame_writer"_s, {u"vorn_vframe_header_2025_05_19"_s,
-                                                    u"vorn_vframe_event_2025_05_19"_s}) ||
+    if (!m_writer->startAndWait(
+            HelperProcess::path(u"frame_writer"_s),
+            {u"vorn_vframe_header_2025_05_19"_s, u"vorn_vframe_event_2025_05_19"_s}) ||
         !m_writer->command("mapping " + size) || !m_writer->command("event"))
         return false;
     m_frameTimer.start();

@@ -1,0 +1,123 @@
+// qmllint disable unqualified
+import QtQuick
+import QtQuick.Controls.Basic
+import "../../../qml"
+
+DisplayTest {
+    id: test
+
+    property MeetingControl page: null
+
+    function init(): void {
+        failOnWarning(/./);
+        mouseMove(test, 1090, 830);
+        test.answer(6, "byod_status", 0);
+        page = createTemporaryObject(pageComponent, test) as MeetingControl;
+        test.sent();
+    }
+
+    function control(name: string): Item {
+        return findChild(test.page, name) as Item;
+    }
+
+    function source(byod: int, zoom: int): void {
+        rig.report(6, JSON.stringify({
+            cmd: 6, seq: 1, type: 1, byod_status: byod, zoom_status: zoom, is_byodui_show: 1
+        }));
+    }
+
+    name: "MeetingControl"
+    width: 1092
+    height: 835
+
+    Component {
+        id: pageComponent
+
+        MeetingControl {}
+    }
+
+    // Comes first by its name: the display tells its first volume only once.
+    function test_aVolumeReadiesTheControls(): void {
+        const slider = test.control("volumeSlider") as Slider;
+        verify(!slider.enabled);
+        verify(slider.layer.enabled);
+        verify(test.control("volumeBadge").layer.enabled);
+        mouseClick(slider, 64, 20);
+        compare(test.sent(), []);
+
+        test.answer(1, "volume", 20);
+        verify(slider.enabled);
+        verify(!slider.layer.enabled);
+        verify(!test.control("volumeBadge").layer.enabled);
+        compare(slider.value, 20);
+        compare(test.control("fill").width, 128);
+        compare((test.control("volumeValue") as Label).text, "20%");
+        test.answer(1, "volume", 100);
+        compare(test.control("fill").width, 640);
+        compare(test.sent(), []);
+    }
+
+    function volume(value: int): string {
+        return `{"cmd":1,"seq":#,"type":2,"volume":${value}}`;
+    }
+
+    function test_dragSetsTheVolumeOnce(): void {
+        test.answer(1, "volume", 20);
+        test.page.volumeKnown = true;
+        const slider = test.control("volumeSlider") as Slider;
+        mousePress(slider, 128, 26);
+        for (let x = 128; x <= 384; x += 16)
+            mouseMove(slider, x, 26);
+        compare(slider.value, 60);
+        compare((test.control("volumeValue") as Label).text, "60%");
+        compare(test.sent(), []);
+        mouseRelease(slider, 384, 26);
+        compare(test.sent(), [test.volume(60)]);
+        compare(deviceControl.volume, 60);
+        verify(!slider.activeFocus);
+
+        mouseClick(slider, 64, 26);
+        compare(test.sent(), [test.volume(10)]);
+        test.answer(1, "volume", 35);
+        compare(slider.value, 35);
+        compare(test.sent(), []);
+
+        slider.forceActiveFocus();
+        keyPress(Qt.Key_Right);
+        keyPress(Qt.Key_Right);
+        compare(test.sent(), []);
+        keyRelease(Qt.Key_Right);
+        compare(test.sent(), [test.volume(37)]);
+    }
+
+    function test_cardsSelectTheSource(): void {
+        const byod = test.control("byodCard") as SourceCard;
+        const zoom = test.control("zoomCard") as SourceCard;
+        for (const card of [byod, zoom]) {
+            mouseClick(card);
+            verify(!card.enabled);
+            verify(!findChild(card, "selectedBar").visible);
+        }
+        compare(test.sent(), []);
+
+        test.source(1, 1);
+        verify(byod.enabled && zoom.enabled);
+        mouseClick(byod);
+        compare(test.sent(), ['{"byod_status":2,"cmd":9,"seq":#,"type":2}']);
+        compare([byod.value, zoom.value], [2, 0]);
+        verify(findChild(byod, "selectedBar").visible);
+
+        test.source(1, 1);
+        zoom.forceActiveFocus();
+        keyClick(Qt.Key_Return);
+        compare(test.sent(), ['{"cmd":10,"seq":#,"type":2,"zoom_status":2}']);
+        compare([byod.value, zoom.value], [0, 2]);
+    }
+
+    function test_clockFollowsTheTime(): void {
+        test.page.now = new Date(2025, 4, 9, 21, 7);
+        compare((test.control("time") as Label).text, "09:07 PM");
+        compare((test.control("date") as Label).text, "Fri, May 09, 2025");
+        tryVerify(() => test.page.now.getFullYear() > 2025);
+    }
+}
