@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 // One half of the framing tab bar: round on its outer side, square where it meets the other half.
@@ -30,30 +32,34 @@ Item {
     Accessible.onPressAction: area.press()
     Keys.forwardTo: [area]
 
-    // The round part reaches past the square side and is cut there, one pixel short of the edge; the
-    // edge is a line of its own, since translucent colours must not overlap.
-    Item {
-        x: tab.roundLeft ? 0 : 1
-        width: tab.width - 1
-        height: tab.height
-        clip: true
+    // Drawn twice, round and square, and each cut to its side: translucent colours must not overlap.
+    // The cut lies on a whole pixel of the window also where a pixel is a quarter more.
+    Repeater {
+        model: [18, 0]
 
-        Rectangle {
-            x: tab.roundLeft ? 0 : -radius
-            width: parent.width + radius
-            height: parent.height
-            radius: 18
-            color: tab.fillColor
-            border.width: 1
-            border.color: tab.baseColor
+        Item {
+            id: part
+
+            required property int modelData
+            readonly property bool isRound: modelData > 0
+            readonly property int squareWidth: 20
+
+            x: isRound === tab.roundLeft ? 0 : tab.roundLeft ? tab.width - width : squareWidth
+            width: isRound ? tab.width - squareWidth : squareWidth
+            height: tab.height
+            clip: true
+
+            Rectangle {
+                x: -part.x
+                width: tab.width
+                height: tab.height
+                radius: part.modelData
+                color: tab.fillColor
+                border.width: 1
+                border.color: tab.baseColor
+                antialiasing: true
+            }
         }
-    }
-
-    Rectangle {
-        x: tab.roundLeft ? tab.width - 1 : 0
-        width: 1
-        height: tab.height
-        color: tab.baseColor
     }
 
     LatoRegularLabel {
