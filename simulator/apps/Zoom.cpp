@@ -61,15 +61,11 @@ int install()
     return 0;
 }
 
-QString noteStart()
+void noteStart(const QString& folder)
 {
-    QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/zoom"_L1;
-    QDir().mkpath(folder);
     QFile file(folder + "/started.log"_L1);
     if (file.open(QIODevice::Append | QIODevice::Text))
         file.write("started " + QByteArray::number(QCoreApplication::applicationPid()) + '\n');
-    return folder;
 }
 
 int showWindow(int argc, char* argv[])
@@ -84,7 +80,10 @@ int showWindow(int argc, char* argv[])
     const QRect screen = window.screen()->availableGeometry();
     window.move(screen.right() - window.width() - 20, screen.top() + 20);
     window.show();
-    simulator::endWithFolder(noteStart(), &window);
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/zoom"_L1;
+    simulator::liveInFolder(folder, &window);
+    noteStart(folder);
     return QApplication::exec();
 }
 

@@ -1,6 +1,7 @@
 #include "simulator/updater/HomeFolder.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTimer>
@@ -13,8 +14,9 @@ using namespace std::chrono_literals;
 namespace simulator
 {
 
-void endWithFolder(const QString& folder, QObject* owner)
+void liveInFolder(const QString& folder, QObject* owner)
 {
+    QDir().mkpath(folder);
     auto* const timer = new QTimer(owner);
     QObject::connect(timer, &QTimer::timeout, owner, [folder] {
         if (!QFileInfo::exists(folder))

@@ -38,7 +38,7 @@ Installer::Installer()
     : m_lock(updaterFolder() + "/guard.lock"_L1)
 {
     m_lock.setStaleLockTime(0ms);
-    endWithFolder(updaterFolder(), this);
+    liveInFolder(updaterFolder(), this);
 }
 
 void Installer::installLate()

@@ -31,7 +31,7 @@ Updater::Updater()
     : m_lock(updaterFolder() + "/patchpilot.lock"_L1)
 {
     m_lock.setStaleLockTime(0ms); // only the end of its holder frees it
-    endWithFolder(updaterFolder(), this);
+    liveInFolder(updaterFolder(), this);
 }
 
 bool Updater::runInBackground()
@@ -40,6 +40,9 @@ bool Updater::runInBackground()
         return false;
     if (readOrders().behaviour == UpdaterOrders::Behaviour::Unkillable)
         startInstaller(u"guard"_s);
+    const QString installed = readOrders().installed;
+    if (recordedVersion(u"version"_s).isEmpty() && recordVersion(u"version"_s, installed))
+        logUpdater(u"recorded "_s + installed);
     auto* const timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, &Updater::lookAround);
     timer->start(100ms);
@@ -85,14 +88,16 @@ bool Updater::begin(const QString& what)
     return true;
 }
 
+// Writes only what the orders newly ask for: a folder that is just being removed must not come
+// back.
 void Updater::lookAround()
 {
-    const UpdaterOrders orders = readOrders();
-    if (recordedVersion(u"version"_s).isEmpty() && recordVersion(u"version"_s, orders.installed))
-        logUpdater(u"recorded "_s + orders.installed);
-    if (!orders.offer.isEmpty() && recordedVersion(u"newver"_s) != orders.offer &&
-        recordVersion(u"newver"_s, orders.offer))
-        logUpdater(u"found "_s + orders.offer);
+    const QString offer = readOrders().offer;
+    if (offer.isEmpty() || offer == m_offered)
+        return;
+    m_offered = offer;
+    if (recordedVersion(u"newver"_s) != offer && recordVersion(u"newver"_s, offer))
+        logUpdater(u"found "_s + offer);
 }
 
 void Updater::endUpgrade()

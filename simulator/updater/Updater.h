@@ -28,6 +28,7 @@ private:
     void endUpgrade();
 
     QLockFile m_lock;
+    QString m_offered; // by the orders, as far as they were followed
 };
 
 } // namespace simulator

@@ -2,7 +2,6 @@
 
 #include "platform/Registry.h"
 
-#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
@@ -32,10 +31,7 @@ UpdaterOrders::Behaviour behaviourNamed(const QString& name)
 
 QString updaterFolder()
 {
-    QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/VORNApp"_L1;
-    QDir().mkpath(folder);
-    return folder;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/VORNApp"_L1;
 }
 
 UpdaterOrders readOrders()

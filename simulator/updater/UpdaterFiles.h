@@ -17,7 +17,7 @@ struct UpdaterOrders {
     std::chrono::milliseconds duration = std::chrono::seconds(3); ///< of an upgrade
 };
 
-/// The folder that the orders, the log and, on Linux, the registry lie in; made when missing.
+/// The folder that the orders, the log and, on Linux, the registry lie in.
 [[nodiscard]] QString updaterFolder();
 
 /// Read afresh at each call. A file that is missing or holds nonsense gives the defaults.

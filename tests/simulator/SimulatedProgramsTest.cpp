@@ -2,6 +2,7 @@
 #include "launch/ProcessManager.h"
 #include "launch/SystemProgramControl.h"
 #include "launch/UpgradeControl.h"
+#include "platform/Processes.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -40,6 +41,7 @@ private slots:
     void upgradesWell();
     void upgradesBadly_data();
     void upgradesBadly();
+    void endsWithItsHome();
     void zoomIsFound();
 
 private:
@@ -78,7 +80,8 @@ void SimulatedProgramsTest::init()
 void SimulatedProgramsTest::cleanup()
 {
     m_upgrade.reset();
-    order("behaviour=well\n"); // else it would come again
+    if (QFile::exists(m_home->path()))
+        order("behaviour=well\n"); // else it would come again
     m_programs.killProcess(u"PatchPilot.exe"_s);
     m_home.reset();
 }
@@ -163,6 +166,16 @@ void SimulatedProgramsTest::upgradesBadly()
     order(orders + "well");
     m_upgrade->start();
     QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, kPatience);
+}
+
+void SimulatedProgramsTest::endsWithItsHome()
+{
+    watch();
+    QTRY_VERIFY_WITH_TIMEOUT(!installed().isEmpty(), kPatience);
+    QVERIFY(m_home->remove());
+    const auto isRunning = [] { return platform::isImageRunning(u"PatchPilot.exe"_s, 5s).running; };
+    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(), kPatience);
+    QVERIFY(!QFile::exists(m_home->path()));
 }
 
 void SimulatedProgramsTest::zoomIsFound()
