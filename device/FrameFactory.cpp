@@ -5,6 +5,9 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 #include <QAbstractVideoBuffer>
+#else
+#include <cstring>
+#include <vector>
 #endif
 
 namespace
@@ -80,8 +83,27 @@ FrameFactory::FrameFactory()
     platform::keepLargeBlocks(FrameHeader::MaximumDataSize, FrameMemory::BlockCount);
 }
 
+/// Touches as much memory as FrameMemory would hold, on the thread whose heap the frames come from.
+void FrameFactory::prepare(const QVideoFrameFormat& format)
+{
+    const qint64 pixels = qint64(format.frameWidth()) * format.frameHeight();
+    if (pixels <= m_preparedPixels)
+        return;
+    m_preparedPixels = pixels;
+    std::vector<QVideoFrame> frames;
+    for (int i = 0; i < FrameMemory::BlockCount; ++i) {
+        QVideoFrame& frame = frames.emplace_back(format);
+        if (!frame.map(QVideoFrame::WriteOnly))
+            return;
+        for (int plane = 0; plane < frame.planeCount(); ++plane)
+            std::memset(frame.bits(plane), 0, std::size_t(frame.mappedBytes(plane)));
+        frame.unmap();
+    }
+}
+
 QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill)
 {
+    prepare(format);
     QVideoFrame frame(format);
     if (!frame.map(QVideoFrame::WriteOnly))
         return {};

@@ -31,5 +31,10 @@ public:
     void rest();
 
 private:
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    void prepare(const QVideoFrameFormat& format);
+
+    qint64 m_preparedPixels = 0;
+#endif
     FrameMemory m_memory;
 };

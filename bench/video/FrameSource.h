@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+#include <chrono>
+
+/// Microseconds of a clock that all processes of this machine share.
+qint64 now();
+
+/// The process that writes frames of 3840 x 2160 into the shared memory, each with the time when it
+/// was announced in its first eight bytes.
+class FrameSource
+{
+public:
+    /// Body of that process.
+    static int run(const QString& mappingName, const QString& eventName);
+
+    /// Starts the process and waits for its objects.
+    FrameSource(const QString& program, const QString& mappingName, const QString& eventName);
+    ~FrameSource();
+
+    /// Has frames written; returns at once.
+    void write(int count, std::chrono::microseconds interval);
+
+private:
+    QProcess m_process;
+};
