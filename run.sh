@@ -30,7 +30,7 @@ bin="$root/build/run/bin"
 
 if $headless; then
   trap stop_screen EXIT
-  start_screen 1280x900x24
+  start_screen
   "$root/tools/tour.sh" "$bin" "$root/build/tour"
   exit
 fi

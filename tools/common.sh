@@ -16,6 +16,7 @@ run_packages=(
   qml6-module-qtqml qml6-module-qtqml-workerscript
   qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
   qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
+  qml6-module-qt-labs-folderlistmodel
   qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects
 )
 # A virtual screen with a window manager and a tray, to see minimising, stay-on-top and tray clicks.

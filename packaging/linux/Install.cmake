@@ -40,6 +40,7 @@ string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
   qml6-module-qtqml qml6-module-qtqml-workerscript
   qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls
   qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
+  qml6-module-qt-labs-folderlistmodel
   qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, qt6-wayland")
 include(CPack)

@@ -1,0 +1,86 @@
+# Chapters of the tour: start, sign-in and the profile.
+
+readonly user=ada@example.com password=Engine1843
+
+start_display() {
+  chapter "A simulated display and an account service wait"
+  mkfifo "$home/commands"
+  "$bin/VORNSimulator" <"$home/commands" >"$out/display.jsonl" 2>"$out/display.err" &
+  display=$!
+  pids+=("$display")
+  exec {display_input}>"$home/commands"
+  display account listen
+  check "the account service listens" appears '"account-listening"' "$out/display.jsonl"
+  local url
+  url=$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$out/display.jsonl" | head -n 1)
+  printf '[Server]\nurl=%s\n' "$url" >"$home/app/config.ini"
+  convert -size 200x200 radial-gradient:'#7FD1AE'-'#1F4E8C' -fill white -gravity center \
+    -pointsize 90 -annotate 0 A "$home/ada.png"
+  convert -size 160x120 plasma:tomato-gold "$home/new picture 100%.png"
+  display account add "$user" "$password" firstName=Ada lastName=Byron \
+    'company="Analytical Engines"' title=Countess "picture=$home/ada.png"
+  display devices root "$VORN_SYSFS_ROOT"
+  printf 'installed=1.0.0.0\nseconds=3\n' >"$XDG_CONFIG_HOME/VORNApp/patchpilot.ini"
+  "$home/app/apps/zoom" --install >/dev/null
+  # The program would take an updater of somebody else on this machine for its own.
+  "$home/app/PatchPilot" &
+  pids+=($!)
+}
+
+start_program() {
+  chapter "The program starts"
+  "$home/app/VORNApp" >>"$out/program.log" 2>&1 &
+  program=$!
+  pids+=("$program")
+  check "its window is on the screen" eventually place_window
+  check "the program met the display" appears '"client-connected"' "$out/display.jsonl"
+}
+
+account_chapters() {
+  chapter "Sign-in"
+  shot sign-in "Sign in"
+  click 725 150
+  shot create-account "Create an account"
+  click 600 220
+  type_text Grace
+  key Tab
+  type_text Hopper
+  key Tab
+  type_text grace@gmail.com
+  key Tab
+  shot create-account-refused "A private address is refused"
+  key shift+Tab ctrl+a
+  type_text grace@example.org
+  key Tab
+  type_text Cobol1959
+  key Return
+  type_text Cobol1959
+  mark "$out/display.jsonl"
+  key Return
+  check "the account was made" appears '"account-request".*register' "$out/display.jsonl"
+  shot verify-account "The letter is on its way"
+  key Return
+
+  click 850 311
+  shot reset-password "A forgotten password"
+  type_text "$user"
+  key Return
+  check "the letter was asked for" appears '"account-request".*forgot' "$out/display.jsonl"
+  shot reset-complete "The letter is on its way"
+  key Return
+
+  click 600 212
+  type_text "$user"
+  key Return
+  type_text wrong
+  mark "$out/program.log"
+  key Return
+  check "the service refused a wrong password" appears 'response:.*"success": ?false' "$out/program.log"
+  shot wrong-password "The service's own words"
+  key ctrl+a
+  type_text "$password"
+  key Return
+  check "the right one signs in" appears 'newLogin:(1|true)' "$out/program.log"
+  check "the name arrived" appears 'newFirstName:Ada' "$out/program.log"
+  shot signed-in "Name and picture"
+}

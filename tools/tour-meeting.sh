@@ -1,0 +1,127 @@
+# Chapters of the tour: from the cable to the meeting, the camera, and the display's first set-up.
+# Positions: the content area begins at x 262, a page's frame at (262, 94).
+
+meeting_chapters() {
+  chapter "The display connects"
+  display connect
+  check "the connection arrived" appears 'newConnectMode:1' "$out/program.log"
+  eventually place_window
+  display volume 40
+  check "its volume arrived" appears 'newVolume:40' "$out/program.log"
+  check "its firmware version arrived" appears 'newRemoteVer:4\.1\.0' "$out/program.log"
+  check "the program's replies reached it" appears '"type":3' "$out/display.jsonl"
+  shot connecting "Waiting for the devices"
+  display plug all
+  check "the microphone was found" appears 'newVornMicStatus:1' "$out/program.log"
+  # The microphone is shown after 6 s, the speaker at 9.5 s, the camera at 13 s, Go at 15 s.
+  sleep 8
+  shot microphone-up "One after another"
+  sleep 8
+  shot ready "Ready"
+
+  chapter "The meeting"
+  mark "$out/display.jsonl"
+  click 563 476
+  check "the display was asked to share the screen" appears '"cmd":12,' "$out/display.jsonl"
+  check "and to switch to BYOD" appears '"cmd":9,' "$out/display.jsonl"
+  point 900 40
+  shot launcher "The launcher"
+  click 377 352
+  check "Zoom was started" eventually grep -q started "$XDG_DATA_HOME/zoom/started.log"
+  check "its window came up" eventually find_window '^Zoom$'
+  shot zoom "A meeting beside the program" root
+  xdotool windowkill "$found"
+}
+
+camera_chapter() {
+  chapter "The camera"
+  display camera off
+  click 129 277
+  point 900 40
+  shot camera-closed "No app uses the camera"
+  display camera on
+  check "the camera's use arrived" appears '"camerastatus": ?1' "$out/program.log"
+  sleep 0.5
+  shot camera "Pan, tilt and zoom"
+  mark "$out/display.jsonl"
+  xdotool mousemove --window "$window" 555 323 mousedown 1 sleep 1 mouseup 1
+  check "one press and one release of the left arrow arrived" appears_times 2 '"camera-command"' "$out/display.jsonl"
+  shot camera-left "After a second to the left"
+  mark "$out/display.jsonl"
+  xdotool mousemove --window "$window" 563 474 mousedown 1 sleep 0.9 mouseup 1
+  shot save-position "A long press offers to save"
+  click 563 433
+  check "the position was saved" appears '"camera-command"' "$out/display.jsonl"
+  mark "$out/display.jsonl"
+  click 563 474
+  check "and called up again" appears '"camera-command"' "$out/display.jsonl"
+  mark "$out/display.jsonl"
+  display autoframing on
+  sleep 0.5
+  shot auto-framing "The display frames by itself"
+  click 715 230
+  check "smart framing was asked for" appears '"cmd":15,' "$out/display.jsonl"
+  shot smart-framing "Smart framing"
+}
+
+# Whether two pictures of a window differ.
+window_moves() {
+  local first second
+  first=$(import -window "$1" rgb:- | md5sum)
+  sleep 0.5
+  second=$(import -window "$1" rgb:- | md5sum)
+  [ "$first" != "$second" ]
+}
+
+# Whether the colour patches of the display's screen look as they were sent, within 3 of 255. They
+# stand in a row, each by a twentieth of the picture's width further to the right.
+patches_are_right() { # patches_are_right <picture of the monitor window> <colour>...
+  local picture=$1 n=0 width height pixel want channel
+  shift
+  read -r width height < <(identify -format '%w %h' "$picture")
+  for want in "$@"; do
+    pixel=$(convert "$picture" -depth 8 -crop "1x1+$((width * (64 + 5 * n) / 100))+$((height * 395 / 1000))" \
+      +repage txt:- | grep -oE '#[0-9A-F]{6}' | head -n 1)
+    for channel in 1 3 5; do
+      local difference=$((16#${pixel:channel:2} - 16#${want:channel:2}))
+      [ "${difference#-}" -le 3 ] || { echo "patch $n is $pixel, not $want" >&2; return 1; }
+    done
+    n=$((n + 1))
+  done
+}
+
+press_next() { # press_next <window> <step that follows>
+  local width height
+  read -r width height < <(xdotool getwindowgeometry --shell "$1" | sed -n 's/^WIDTH=//p; s/^HEIGHT=//p' | xargs)
+  xdotool mousemove --window "$1" $((width * 84 / 100)) $((height * 86 / 100)) sleep 0.1 click 1
+  appears "\"step\": ?\"$2\"" "$out/display.jsonl"
+}
+
+window_is_gone() { ! xdotool getwindowname "$1" 2>/dev/null; }
+
+first_run_chapter() {
+  chapter "A display's first set-up"
+  display disconnect
+  display connect first-run
+  check "the mode arrived" appears 'newConnectMode:2' "$out/program.log"
+  eventually place_window
+  click 129 229
+  point 900 40
+  shot set-up-detected "A display that is new"
+  display video start
+  mark "$out/display.jsonl"
+  click 563 430
+  check "the set-up was asked for" appears '"cmd":22,' "$out/display.jsonl"
+  check "the monitor window opened" eventually find_window '^VORN Bar$'
+  local monitor=$found step
+  check "its picture moves" eventually window_moves "$monitor"
+  shot monitor "The display's screen" "$monitor"
+  check "its colours are right" patches_are_right "$out/monitor.png" "#000000" "#FFFFFF" "#FF0000" "#00FF00" "#0000FF"
+  for step in language network room-name finish done; do
+    check "a press on the drawn button leads to \"$step\"" press_next "$monitor" "$step"
+  done
+  check "the display is ready" appears 'newConnectMode:1' "$out/program.log"
+  shot monitor-complete "The set-up is complete" "$monitor"
+  check "the monitor window closes by itself" eventually window_is_gone "$monitor"
+  display video stop
+}
