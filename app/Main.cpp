@@ -46,6 +46,13 @@ void logProgram(const QString& appPath, const QString& fileName)
     Log::info("main") << "product version:" << readProductVersion(fileName);
 }
 
+// A Windows program has no console on which Qt would say why a page does not load.
+void logQmlWarnings(const QList<QQmlError>& warnings)
+{
+    for (const QQmlError& warning : warnings)
+        Log::warning("main") << warning.toString();
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -76,6 +83,7 @@ int main(int argc, char* argv[])
 
     qml_register_types_VORNApp();
     auto engine = std::make_unique<QQmlApplicationEngine>();
+    QObject::connect(engine.get(), &QQmlEngine::warnings, &app, logQmlWarnings);
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());

@@ -1,6 +1,7 @@
 #include "Fakes.h"
 #include "support/LogCapture.h"
 
+#include <QJsonArray>
 #include <QMetaProperty>
 #include <QSignalSpy>
 #include <QTest>

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeZone>
 
 #include <map>
 
@@ -139,8 +140,8 @@ void tst_LogForm::linesHaveTheExactForm()
 void tst_LogForm::timeIsLocalAndThreadIsPadded()
 {
     const auto line = lineOf("Sample::empty");
-    const auto time = QDateTime::fromSecsSinceEpoch(m_startedAt, Qt::OffsetFromUTC, 19'800);
-    const auto end = QDateTime::fromSecsSinceEpoch(m_endedAt, Qt::OffsetFromUTC, 19'800);
+    const auto time = QDateTime::fromSecsSinceEpoch(m_startedAt, QTimeZone(19'800));
+    const auto end = QDateTime::fromSecsSinceEpoch(m_endedAt, QTimeZone(19'800));
     const auto year = QByteArray::number(time.date().year()) + '-';
     auto written = QDateTime::fromString(QString::fromLatin1(year + line.time.first(14)),
                                          u"yyyy-MM-dd HH:mm:ss"_s);

@@ -310,7 +310,11 @@ void ChannelClientTest::stopDoesNotWaitForACallbackForEver()
         return 0;
     });
     m_link->send(1, "x");
-    QTRY_VERIFY_WITH_TIMEOUT((std::lock_guard(mutex), inside), kPatience);
+    const auto isInside = [&] {
+        const std::lock_guard lock(mutex);
+        return inside;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isInside(), kPatience);
     QVERIFY(!m_client->stop(QDeadlineTimer(20)));
     QCOMPARE(m_client->initChannel(m_inbox->callback()), ErrorCode::NotAvailable);
     {

@@ -88,7 +88,7 @@ common_options="-DCMAKE_BUILD_TYPE=MinSizeRel -DQT_BUILD_TESTS=OFF -DQT_BUILD_EX
 build_base() {
   in_root sh -c "cmake -G Ninja -S $work/qt6-base -B $work/qt6-base/build $common_options \
     -DCMAKE_TOOLCHAIN_FILE=$windows_qt/mingw.cmake -DCMAKE_INSTALL_PREFIX=$windows_qt -DQT_HOST_PATH=/usr \
-    -DFEATURE_tabletevent=OFF -DFEATURE_accessibility=OFF -DFEATURE_dbus=OFF -DFEATURE_printsupport=OFF \
+    -DFEATURE_tabletevent=OFF -DFEATURE_dbus=OFF -DFEATURE_printsupport=OFF \
     -DFEATURE_vulkan=OFF -DFEATURE_sql_odbc=OFF -DFEATURE_openssl=OFF -DFEATURE_schannel=ON \
     -DFEATURE_system_sqlite=ON -DFEATURE_pkg_config=OFF &&
     ninja -C $work/qt6-base/build install"

@@ -6,6 +6,6 @@ export WINEPREFIX="${WINEPREFIX:-/build/wine}" WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES='mscoree,mshtml=' # no downloads of a .NET or browser engine
 export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-/build/run}"
 export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" QT_QUICK_BACKEND=software
-export QT_PLUGIN_PATH="$qt\\plugins" QML_IMPORT_PATH="${VORN_QML_IMPORT_PATH:+$VORN_QML_IMPORT_PATH;}$qt\\qml"
+export QT_PLUGIN_PATH="$qt\\plugins" QML_IMPORT_PATH="$qt\\qml"
 export WINEPATH="$qt\\bin;Z:\\usr\\lib\\gcc\\x86_64-w64-mingw32\\14-posix;Z:\\usr\\x86_64-w64-mingw32\\lib"
 exec wine "$@"

@@ -1,7 +1,0 @@
-import QtQuick
-
-Item {
-    property var source
-    property color color
-    property bool cached
-}
