@@ -68,8 +68,8 @@ Window {
 
             anchors.fill: parent
             // Positions on the screen: those in the window lag behind while it moves, and it would jump.
-            onPressed: {
-                pressPoint = mainWindow.windows.cursorPosition();
+            onPressed: mouse => {
+                pressPoint = mapToGlobal(mouse.x, mouse.y);
                 windowPoint = Qt.point(mainWindow.x, mainWindow.y);
             }
             onPositionChanged: {
