@@ -4,6 +4,8 @@ import QtQuick
 Item {
     id: form
 
+    // The fields, which the Tab key reaches before the button.
+    default property alias fieldItems: slot.data
     property alias title: titleLabel.text
     property alias subline: sublineLabel.text
     // The link after the sub-line; none when empty.
@@ -44,6 +46,12 @@ Item {
         y: sublineLabel.y
         visible: text !== ""
         onClicked: form.linkClicked()
+    }
+
+    Item {
+        id: slot
+
+        anchors.fill: parent
     }
 
     LatoRegularLabel {
