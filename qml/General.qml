@@ -183,7 +183,8 @@ Item {
         UpdateProgress {
             id: progress
 
-            anchors.horizontalCenter: parent.horizontalCenter
+            // On a whole pixel, to keep the bar's edges sharp.
+            x: Math.round((parent.width - width) / 2)
             y: 140
             onTimedOut: {
                 page.currentPage = page.page_id_update_failed;

@@ -22,7 +22,7 @@ Item {
 
     LatoRegularLabel {
         x: 164
-        y: 102 - height / 2
+        y: Math.round(102 - height / 2)
         width: Math.min(implicitWidth, editLink.x - x - 20)
         text: view.name
         elide: Text.ElideRight
