@@ -13,21 +13,20 @@ LoginForm {
 
     signal accepted
 
-    function isNotCompanyEmail(email: string): bool {
-        const parts = email.toLowerCase().split("@");
-        if (parts.length !== 2)
+    function isNotCompanyEmail(address: string): bool {
+        const at = address.indexOf("@");
+        if (at < 0 || at !== address.lastIndexOf("@"))
             return false;
-        const domain = parts[1];
+        const domain = address.slice(at + 1).toLowerCase();
         return form.notCompanyEmail.some(listed => domain === listed || domain.endsWith("." + listed));
     }
 
-    function fields(): var {
-        return [firstNameField, lastNameField, emailField, passwordField, confirmField];
-    }
-
     function reset(): void {
-        for (const field of form.fields())
-            field.reset();
+        firstNameField.reset();
+        lastNameField.reset();
+        emailField.reset();
+        passwordField.reset();
+        confirmField.reset();
     }
 
     function focusFirstField(): void {
@@ -35,9 +34,14 @@ LoginForm {
     }
 
     function submit(): void {
-        for (const field of form.fields())
-            field.checkInputComplete();
-        if (form.fields().every(field => field.valid) && passwordField.text === confirmField.text)
+        firstNameField.checkInputComplete();
+        lastNameField.checkInputComplete();
+        emailField.checkInputComplete();
+        passwordField.checkInputComplete();
+        confirmField.checkInputComplete();
+        const complete = firstNameField.valid && lastNameField.valid && emailField.valid
+                         && passwordField.valid && confirmField.valid;
+        if (complete && passwordField.text === confirmField.text)
             form.accepted();
     }
 

@@ -387,6 +387,8 @@ struct Writer {
 
 void tst_VideoReceiver::survivesTornWritesOfAProcess()
 {
+    if (kIsWindows)
+        QSKIP("The writer that plays it there cannot tear.");
     Writer writer;
     QVERIFY(writer.start());
     RunningReceiver receiver(writer.mapping, writer.event);
@@ -402,6 +404,8 @@ void tst_VideoReceiver::survivesTornWritesOfAProcess()
 
 void tst_VideoReceiver::followsAWriterThatDiesAndReturns()
 {
+    if (kIsWindows)
+        QSKIP("There a name outlives its writer.");
     Writer writer;
     LogCapture log;
     RunningReceiver receiver(writer.mapping, writer.event);

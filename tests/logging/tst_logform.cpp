@@ -34,11 +34,16 @@ public:
         m_pid = process.processId();
         m_ended = process.waitForFinished();
         m_exitStatus = process.exitStatus();
-        m_errorText = process.readAllStandardError();
+        m_exitCode = process.exitCode();
+        m_errorText = process.readAllStandardError().replace("\r\n", "\n");
     }
 
     [[nodiscard]] bool succeeded() const { return m_ended && m_exitStatus == QProcess::NormalExit; }
-    [[nodiscard]] bool crashed() const { return m_ended && m_exitStatus == QProcess::CrashExit; }
+    [[nodiscard]] bool crashed() const
+    {
+        // The C library of Windows ends a program that has crashed with an exit code.
+        return m_ended && (m_exitStatus == QProcess::CrashExit || m_exitCode != 0);
+    }
     [[nodiscard]] qint64 pid() const { return m_pid; }
     [[nodiscard]] QString logDir() const { return m_logDir; }
     [[nodiscard]] QString tempDir() const { return m_folder.filePath(u"temp"_s); }
@@ -50,6 +55,7 @@ private:
     qint64 m_pid = 0;
     bool m_ended = false;
     QProcess::ExitStatus m_exitStatus = QProcess::CrashExit;
+    int m_exitCode = 0;
     QByteArray m_errorText;
 };
 

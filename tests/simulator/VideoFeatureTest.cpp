@@ -327,6 +327,9 @@ void VideoFeatureTest::hostileFramesAreSurvived()
 
 void VideoFeatureTest::deadWritersAreFollowed()
 {
+#ifdef Q_OS_WIN
+    QSKIP("There a name outlives its writer, and memory cannot be cut short.");
+#endif
     run(u"video rate 100"_s);
     run(u"video size 320 180"_s);
     QCOMPARE(run(u"video start"_s), QString());

@@ -1,3 +1,4 @@
+// qmllint disable unqualified
 import QtQuick
 
 // Stands for the program's pages, so that all the rest of it can be tested with a Windows build of Qt

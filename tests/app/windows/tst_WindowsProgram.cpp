@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int kPatience = 60'000;
+const QString kPipe = u"vorn-portalhub-of-the-test"_s;
 
 /// Ends a program as the system does, through the message loop of its first thread.
 bool postQuit(qint64 process)
@@ -39,6 +40,9 @@ bool postQuit(qint64 process)
 std::unique_ptr<QProcess> startProgram()
 {
     auto process = std::make_unique<QProcess>();
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"VORN_PORTALHUB_SOCKET"_s, kPipe);
+    process->setProcessEnvironment(environment);
     process->setProcessChannelMode(QProcess::MergedChannels);
     process->start(QStringLiteral(VORN_PROGRAM), QStringList());
     return process;
@@ -72,7 +76,7 @@ void tst_WindowsProgram::init()
 {
     m_log.clear();
     m_display = std::make_unique<QLocalServer>();
-    QVERIFY2(m_display->listen(u"vorn-portalhub"_s), qPrintable(m_display->errorString()));
+    QVERIFY2(m_display->listen(kPipe), qPrintable(m_display->errorString()));
 }
 
 void tst_WindowsProgram::cleanup()

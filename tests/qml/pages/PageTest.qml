@@ -8,7 +8,7 @@ TestCase {
     property Item page: null
 
     // The first item below `item`, in depth, for which `matches` holds; hidden ones too.
-    function search(item: Item, matches: var): Item {
+    function search(item: Item, matches: var): var {
         for (let i = 0; i < item.children.length; ++i) {
             const child = item.children[i];
             const found = matches(child) ? child : test.search(child, matches);
@@ -18,11 +18,11 @@ TestCase {
         return null;
     }
 
-    function visibleChild(name: string): Item {
+    function visibleChild(name: string): var {
         return test.search(test.page, item => item.visible && item.objectName === name);
     }
 
-    function visibleText(text: string): Item {
+    function visibleText(text: string): var {
         return test.search(test.page, item => item.visible && item.text === text);
     }
 

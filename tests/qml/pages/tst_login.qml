@@ -18,21 +18,11 @@ PageTest {
     }
 
     // The submit button, whose text may also stand in the title.
-    function submit(form: Item): void {
+    function submit(form: var): void {
         mouseClick(form.submitButton);
     }
 
-    function type(name: string, text: string): void {
-        const field = visibleChild(name);
-        verify(field, name);
-        field.forceActiveFocus();
-        field.selectAll();
-        keyClick(Qt.Key_Delete);
-        for (const letter of text)
-            keyClick(letter);
-    }
-
-    function formWith(name: string): Item {
+    function formWith(name: string): var {
         let item = visibleChild(name);
         while (item && item.submitButton === undefined)
             item = item.parent;

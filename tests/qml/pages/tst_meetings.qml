@@ -98,7 +98,9 @@ PageTest {
     }
 
     function test_lastAppStays(): void {
-        const boxes = ["Zoom", "Teams", "Google"].map(text => search(apps, item => item.text === text && item.checked !== undefined));
+        const boxes = [];
+        for (const text of ["Zoom", "Teams", "Google"])
+            boxes.push(search(apps, item => item.text === text && item.checked !== undefined));
         verify(deviceControl.supportLaunchZoom && deviceControl.supportLaunchTeams && deviceControl.supportLaunchGoogle);
         for (const box of boxes)
             box.clicked();
