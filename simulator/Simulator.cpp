@@ -42,12 +42,13 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
 {
     auto* const display = new DisplayModel(m_log, this);
     auto* const expectations = new Expectations(this);
+    auto* const camera = new DisplayCamera(*display, m_log, this);
     auto* const account = new AccountFeature(m_log, this);
     auto* const video = new VideoFeature(m_log, this);
     m_devices = new DevicesFeature(m_log, this);
     m_flow = new FlowCommands(m_log, this);
     addFeature(display);
-    addFeature(new DisplayCamera(*display, m_log, this));
+    addFeature(camera);
     addFeature(new LinkCommands(*m_link, m_log, this));
     addFeature(expectations);
     addFeature(video);
@@ -60,6 +61,9 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
     connectLink(expectations);
     connect(expectations, &Expectations::forgotten, account, &AccountFeature::forgetRequests);
     connect(expectations, &Expectations::forgotten, video, &VideoFeature::forget);
+    video->setCamera(camera->view());
+    connect(camera, &DisplayCamera::viewChanged, video,
+            [video, camera] { video->setCamera(camera->view()); });
     connect(video, &VideoFeature::setupFinished, display,
             [display] { display->connectDisplay(DisplayModel::NormalUse); });
     // What came is noted before the display acts on it.

@@ -46,6 +46,7 @@ camera_chapter() {
   mark "$out/display.jsonl"
   xdotool mousemove --window "$window" 555 323 mousedown 1 sleep 1 mouseup 1
   check "one press and one release of the left arrow arrived" appears_times 2 '"camera-command"' "$out/display.jsonl"
+  check "the camera turned left" appears '"event":"camera".*"pan":-' "$out/display.jsonl"
   shot camera-left "After a second to the left"
   mark "$out/display.jsonl"
   xdotool mousemove --window "$window" 563 474 mousedown 1 sleep 0.9 mouseup 1

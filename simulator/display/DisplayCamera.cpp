@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr qsizetype kMaxRecorded = 100;
+constexpr int kMovementInterval = 33; // milliseconds, as the picture's
 
 QJsonObject flag(const QString& key, bool value)
 {
@@ -24,6 +25,8 @@ DisplayCamera::DisplayCamera(DisplayModel& display, EventLog& log, QObject* pare
     , m_display(display)
     , m_log(log)
 {
+    m_movement.setInterval(kMovementInterval);
+    connect(&m_movement, &QTimer::timeout, this, &DisplayCamera::move);
     addHandlers();
 }
 
@@ -51,9 +54,61 @@ void DisplayCamera::addHandlers()
         m_smartFraming = message.value("smartframestatus"_L1).toInt() != 0;
         stateChanged();
     });
-    const auto recordIt = [this](const QJsonObject& message) { record(message); };
-    m_display.on(Cmd_CameraScale, MessageType::Report, recordIt);
-    m_display.on(Cmd_CameraPreset, MessageType::Report, recordIt);
+    m_display.on(Cmd_CameraScale, MessageType::Report, [this](const QJsonObject& message) {
+        record(message);
+        steer(message);
+    });
+    m_display.on(Cmd_CameraPreset, MessageType::Report, [this](const QJsonObject& message) {
+        record(message);
+        usePreset(message);
+    });
+}
+
+void DisplayCamera::steer(const QJsonObject& message)
+{
+    constexpr int Down = 0;
+    move(); // up to now as before
+    const int key = message.value("scaletype"_L1).toInt(-1);
+    if (message.value("scalestatus"_L1).toInt() == Down)
+        m_head.press(key);
+    else
+        m_head.release(key);
+    if (m_head.isMoving() == m_movement.isActive())
+        return;
+    if (m_head.isMoving()) {
+        m_sinceMoved.start();
+        m_movement.start();
+        return;
+    }
+    m_movement.stop();
+    m_sinceMoved.invalidate();
+    stateChanged();
+}
+
+void DisplayCamera::move()
+{
+    if (!m_sinceMoved.isValid())
+        return;
+    m_head.advance(double(m_sinceMoved.nsecsElapsed()) / 1e9);
+    m_sinceMoved.start();
+    emit viewChanged();
+}
+
+void DisplayCamera::usePreset(const QJsonObject& message)
+{
+    constexpr int Recall = 0;
+    const int number = message.value("presetindex"_L1).toInt(-1);
+    if (message.value("presetstatus"_L1).toInt() == Recall)
+        m_head.recall(number);
+    else
+        m_head.save(number);
+    stateChanged();
+    emit viewChanged();
+}
+
+std::optional<CameraView> DisplayCamera::view() const
+{
+    return m_on ? std::optional(m_head.view()) : std::nullopt;
 }
 
 void DisplayCamera::record(const QJsonObject& message)
@@ -69,6 +124,7 @@ void DisplayCamera::setOn(bool on)
 {
     m_on = on;
     stateChanged();
+    emit viewChanged();
     m_display.report(Cmd_Camera, flag(u"camerastatus"_s, m_on));
 }
 
@@ -96,10 +152,12 @@ void DisplayCamera::stateChanged()
 
 QJsonObject DisplayCamera::status() const
 {
-    return {{u"on"_s, m_on},
-            {u"autoFraming"_s, m_autoFraming},
-            {u"smartFraming"_s, m_smartFraming},
-            {u"commands"_s, m_commands}};
+    QJsonObject status = m_head.status();
+    status.insert(u"on"_s, m_on);
+    status.insert(u"autoFraming"_s, m_autoFraming);
+    status.insert(u"smartFraming"_s, m_smartFraming);
+    status.insert(u"commands"_s, m_commands);
+    return status;
 }
 
 QString DisplayCamera::name() const

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "simulator/display/CameraHead.h"
 #include "simulator/script/Feature.h"
 
+#include <QElapsedTimer>
 #include <QJsonArray>
+#include <QTimer>
+
+#include <optional>
 
 namespace simulator
 {
@@ -10,7 +15,8 @@ namespace simulator
 class DisplayModel;
 class EventLog;
 
-/// The display's camera: whether it is on, its framing, and the commands it was given.
+/// The display's camera: whether it is on, where it looks, its framing, and the commands it was
+/// given. It moves while a button is held down.
 class DisplayCamera : public Feature
 {
     Q_OBJECT
@@ -26,16 +32,28 @@ public:
     void setOn(bool on);
     void setAutoFraming(bool on);
     void setSmartFraming(bool on);
+    /// Where it looks; nothing while it is off.
+    std::optional<CameraView> view() const;
+
+signals:
+    /// view() has another value.
+    void viewChanged();
 
 private:
     void addHandlers();
     void addSwitch(CommandInterpreter& interpreter, const QString& name, const QString& help,
                    void (DisplayCamera::*set)(bool));
     void record(const QJsonObject& message);
+    void steer(const QJsonObject& message);
+    void usePreset(const QJsonObject& message);
+    void move();
     void stateChanged();
 
     DisplayModel& m_display;
     EventLog& m_log;
+    CameraHead m_head;
+    QTimer m_movement;
+    QElapsedTimer m_sinceMoved;
     bool m_on = true;
     bool m_autoFraming = false;
     bool m_smartFraming = false;

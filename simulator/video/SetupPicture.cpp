@@ -20,6 +20,7 @@ namespace
 constexpr QRectF ClockArea(0.74, 0.045, 0.18, 0.075);
 constexpr QRectF CounterArea(0.36, 0.83, 0.28, 0.06);
 constexpr QRectF TrackArea(0.08, 0.955, 0.84, 0.016);
+constexpr QRectF CameraArea(0.62, 0.52, 0.3, 0.24);
 constexpr QRectF FirstPatchArea(0.62, 0.36, 0.04, 0.071);
 constexpr double PatchDistance = 0.05;
 constexpr int TrackFrames = 120; // of one way across
@@ -69,16 +70,22 @@ int SetupPicture::letters(double fractionOfHeight) const
     return std::max(1, int(std::lround(height * fractionOfHeight)));
 }
 
-const QByteArray& SetupPicture::draw(const SetupFlow& flow, quint32 frameNumber)
+const QByteArray& SetupPicture::draw(const SetupFlow& flow, const std::optional<CameraView>& camera,
+                                     quint32 frameNumber)
 {
     if (m_drawnRevision != flow.revision()) {
         drawScreen(flow);
+        drawCamera(camera);
         drawMovingParts(frameNumber);
         convertToNv12(m_canvas, m_canvas.rect(), m_nv12);
         m_drawnRevision = flow.revision();
         return m_nv12;
     }
     drawMovingParts(frameNumber);
+    if (camera != m_drawnCamera) {
+        drawCamera(camera);
+        convertToNv12(m_canvas, movingPlace(CameraArea), m_nv12);
+    }
     for (const QRectF& area : {ClockArea, CounterArea, TrackArea})
         convertToNv12(m_canvas, movingPlace(area), m_nv12);
     return m_nv12;
@@ -174,6 +181,33 @@ void SetupPicture::drawMark(QPainter& painter, const SetupFlow& flow) const
     painter.setPen(QPen(colour, letters(0.006)));
     painter.setBrush(flow.mark()->isDown ? QBrush(colour) : QBrush(Qt::NoBrush));
     painter.drawEllipse(centre, letters(0.016), letters(0.016));
+}
+
+/// A wall with a window, a table and three people, a room three times as wide as the picture.
+void SetupPicture::drawCamera(const std::optional<CameraView>& camera)
+{
+    m_drawnCamera = camera;
+    const QRect area = movingPlace(CameraArea);
+    QPainter painter(&m_canvas);
+    painter.fillRect(area, QColor(Background));
+    if (!camera)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(area);
+    const double unit = area.height();
+    painter.translate(area.center());
+    painter.scale(camera->zoom * unit, camera->zoom * unit);
+    painter.translate(-camera->pan / 45, camera->tilt / 45);
+    painter.setPen(Qt::NoPen);
+    painter.fillRect(QRectF(-3, -2, 6, 4), QColor(0xFF3A4A54));
+    painter.fillRect(QRectF(-1.4, -0.4, 0.7, 0.45), QColor(0xFF9FC6DE));
+    for (const double x : {-0.45, 0.05, 0.5}) {
+        painter.setBrush(QColor(Accent));
+        painter.drawEllipse(QPointF(x, 0.28), 0.15, 0.22);
+        painter.setBrush(QColor(0xFFE0B79A));
+        painter.drawEllipse(QPointF(x, -0.02), 0.085, 0.1);
+    }
+    painter.fillRect(QRectF(-0.8, 0.3, 1.7, 1), QColor(0xFF7A5A3C));
 }
 
 void SetupPicture::drawMovingParts(quint32 frameNumber)

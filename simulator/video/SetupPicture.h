@@ -1,8 +1,12 @@
 #pragma once
 
+#include "simulator/display/CameraHead.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
+
+#include <optional>
 
 class QPainter;
 
@@ -11,8 +15,8 @@ namespace simulator
 
 class SetupFlow;
 
-/// Draws the set-up screen, with a clock, a counter of the frames and something that moves. Needs a
-/// QGuiApplication, for the letters.
+/// Draws the set-up screen, with a clock, a counter of the frames, something that moves and what
+/// the camera sees while it is on. Needs a QGuiApplication, for the letters.
 class SetupPicture
 {
 public:
@@ -21,7 +25,8 @@ public:
 
     const QSize& size() const { return m_size; }
     /// The next frame as NV12.
-    const QByteArray& draw(const SetupFlow& flow, quint32 frameNumber);
+    const QByteArray& draw(const SetupFlow& flow, const std::optional<CameraView>& camera,
+                           quint32 frameNumber);
 
     /// Colours to measure what comes out at the other end, six squares from left to right.
     static QList<QRgb> patchColours();
@@ -34,6 +39,7 @@ private:
     void drawButtons(QPainter& painter, const SetupFlow& flow) const;
     void drawPatches(QPainter& painter) const;
     void drawMark(QPainter& painter, const SetupFlow& flow) const;
+    void drawCamera(const std::optional<CameraView>& camera);
     void drawMovingParts(quint32 frameNumber);
     QRectF place(const QRectF& fractions) const;
     QRect movingPlace(const QRectF& fractions) const;
@@ -43,6 +49,7 @@ private:
     QImage m_canvas;
     QByteArray m_nv12;
     int m_drawnRevision = -1;
+    std::optional<CameraView> m_drawnCamera;
 };
 
 } // namespace simulator

@@ -192,7 +192,7 @@ void VideoFeature::writeFrame()
     }
     if (!m_picture)
         m_picture.emplace(m_size);
-    const QByteArray& data = m_picture->draw(m_flow, ++m_frameNumber);
+    const QByteArray& data = m_picture->draw(m_flow, m_camera, ++m_frameNumber);
     if (m_hostileFrames == 0)
         return m_writer->write(m_frameNumber, m_size, data);
     m_writer->writeHostile(m_hostileKind, m_frameNumber, m_size, data);

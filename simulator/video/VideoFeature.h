@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/display/CameraHead.h"
 #include "simulator/script/Feature.h"
 #include "simulator/script/MessageMemory.h"
 #include "simulator/video/FrameLayout.h"
@@ -43,6 +44,8 @@ public:
 
     /// Forgets the pointer events and steps that nobody expected.
     void forget() { m_pointerEvents.forget(); }
+    /// What the display's camera sees; nothing while it is off.
+    void setCamera(const std::optional<CameraView>& view) { m_camera = view; }
     quint16 pointerPort() const { return m_pointer.localPort(); }
 
 signals:
@@ -84,6 +87,7 @@ private:
     int m_hostileKind = 0;
     int m_hostileFrames = 0;
     SetupFlow m_flow;
+    std::optional<CameraView> m_camera;
     std::optional<SetupPicture> m_picture;
     std::unique_ptr<FrameObjects> m_objects;
     std::optional<FrameWriter> m_writer;

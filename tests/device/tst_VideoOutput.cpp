@@ -108,7 +108,7 @@ void tst_VideoOutput::showsColours()
 {
     QFETCH(QSize, size);
     SetupPicture picture(size);
-    receive(m_source, size, picture.draw({}, 1));
+    receive(m_source, size, picture.draw({}, std::nullopt, 1));
     QTRY_VERIFY(showsPatches(size));
 }
 
@@ -127,7 +127,7 @@ void tst_VideoOutput::survivesShapesOfNoScreen()
     QTRY_COMPARE(m_source.videoSink()->videoSize(), size);
     m_window->grabWindow();
     SetupPicture picture({960, 540});
-    receive(m_source, {960, 540}, picture.draw({}, 1));
+    receive(m_source, {960, 540}, picture.draw({}, std::nullopt, 1));
     QTRY_VERIFY(showsPatches({960, 540}));
 }
 

@@ -24,6 +24,7 @@ private slots:
     void reportsEveryChange();
     void canWithholdAcknowledgements();
     void recordsCameraCommands();
+    void cameraMovesWhileAButtonIsDown();
     void survivesWrongTypes_data();
     void survivesWrongTypes();
 
@@ -153,6 +154,47 @@ void DisplayModelTest::canWithholdAcknowledgements()
     receive(R"({"cmd":1,"seq":1,"type":2,"volume":90})");
     QVERIFY(m_sent.isEmpty());
     QCOMPARE(m_display->status().value("volume"_L1).toInt(), 90);
+}
+
+void DisplayModelTest::cameraMovesWhileAButtonIsDown()
+{
+    m_display->connectDisplay(1);
+    const auto scale = [this](int key, int status) {
+        receive(
+            QStringLiteral(
+                R"({"cmd":18,"control":"scale","scalestatus":%1,"scaletype":%2,"seq":1,"type":2})")
+                .arg(status)
+                .arg(key)
+                .toUtf8());
+    };
+    const auto preset = [this](int number, int status) {
+        receive(
+            QStringLiteral(
+                R"({"cmd":19,"control":"preset","presetindex":%1,"presetstatus":%2,"seq":1,"type":2})")
+                .arg(number)
+                .arg(status)
+                .toUtf8());
+    };
+    constexpr int ZoomIn = 0;
+    constexpr int Left = 4;
+    scale(Left, 0);
+    scale(ZoomIn, 0);
+    QTRY_VERIFY(m_camera->view()->pan < -0.5);
+    scale(Left, 1);
+    const double pan = m_camera->view()->pan;
+    QTRY_VERIFY(m_camera->view()->zoom > 1.05);
+    scale(ZoomIn, 1);
+    QCOMPARE(m_camera->view()->pan, pan);
+
+    preset(1, 1);
+    preset(0, 0);
+    QCOMPARE(*m_camera->view(), CameraView());
+    preset(1, 0);
+    QCOMPARE(m_camera->view()->pan, pan);
+    scale(17, 0);
+    preset(-3, 1);
+    m_camera->setOn(false);
+    QVERIFY(!m_camera->view());
 }
 
 void DisplayModelTest::recordsCameraCommands()
