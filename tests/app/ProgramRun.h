@@ -45,7 +45,9 @@ public:
         QProcessEnvironment environment = m_environment;
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
         // Mesa leaves memory behind in libraries that are unloaded by then, where no suppression
-        // can name it; runs off the screen still look for leaks.
+        // can name it; runs off the screen, which keep away from it, still look for leaks.
+        if (platform == QStringLiteral("offscreen"))
+            environment.remove(QStringLiteral("DISPLAY"));
         if (platform == QStringLiteral("xcb"))
             environment.insert(QStringLiteral("ASAN_OPTIONS"),
                                environment.value(QStringLiteral("ASAN_OPTIONS")) +
