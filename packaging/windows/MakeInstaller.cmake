@@ -1,3 +1,4 @@
+cmake_minimum_required(VERSION 3.25)
 # cmake -DBUILD= -DSTAGE= -DMAKENSIS= -DVERSION= -DCONFIG= -DOUTPUT= -P MakeInstaller.cmake
 # Installs the program into a folder and packs that into an installer. The uninstaller removes the very
 # files that were installed, one by one, and nothing else.
@@ -23,8 +24,13 @@ foreach(entry IN LISTS entries)
 endforeach()
 file(WRITE "${BUILD}/removal.nsh" "${removal}")
 
+# A 64-bit installer where NSIS can make one; Windows' own NSIS makes only the other.
+set(target "")
+if(CMAKE_HOST_UNIX)
+  set(target "-XTarget amd64-unicode")
+endif()
 execute_process(
-  COMMAND "${MAKENSIS}" -V2 "-DVERSION=${VERSION}" "-DSTAGE=${STAGE}" "-DREMOVAL=${BUILD}/removal.nsh"
+  COMMAND "${MAKENSIS}" -V2 ${target} "-DVERSION=${VERSION}" "-DSTAGE=${STAGE}" "-DREMOVAL=${BUILD}/removal.nsh"
     "-DICON=${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico" "-DOUTPUT=${OUTPUT}"
     "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
   COMMAND_ERROR_IS_FATAL ANY)

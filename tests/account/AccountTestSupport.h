@@ -43,7 +43,7 @@ public:
         onText(network, &N::profileRequestFailed, QStringLiteral("profileRequestFailed"));
     }
 
-    /// Waits for that many reports in all; false after ten seconds.
+    /// Waits for that many reports in all; false after a minute.
     [[nodiscard]] bool waitForEvents(qsizetype count)
     {
         // Unlike a polling wait, an event loop lets large bodies pass at full speed.
@@ -52,7 +52,7 @@ public:
             if (events.size() >= count)
                 loop.quit();
         });
-        QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
+        QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
         if (events.size() < count)
             loop.exec();
         return events.size() >= count;

@@ -237,7 +237,8 @@ void tst_LogForm::crashIsLogged()
     const auto text = LogText::allBodies(run.logDir());
     QVERIFY(text.contains("[Sample::crash]last line before\n[ERROR] ["));
     QVERIFY(text.contains("]*** Aborted at "));
-    QVERIFY(text.contains("*** SIGSEGV"));
+    if (QSysInfo::kernelType() == u"linux"_s) // glog names the signal there only
+        QVERIFY(text.contains("*** SIGSEGV"));
     QVERIFY(text.endsWith('\n'));
     for (const auto& line : text.trimmed().split('\n'))
         QVERIFY2(!parse(line).severity.isEmpty(), line.constData());
@@ -248,7 +249,8 @@ void tst_LogForm::crashInsideTheLogStillEnds()
     const Run run(u"nested-crash"_s);
     QVERIFY(run.crashed());
     QVERIFY(LogText::allBodies(run.logDir()).contains("[Sample::crash]the line being written\n"));
-    QVERIFY(run.errorText().contains("*** SIGSEGV"));
+    if (QSysInfo::kernelType() == u"linux"_s)
+        QVERIFY(run.errorText().contains("*** SIGSEGV"));
 }
 
 QTEST_GUILESS_MAIN(tst_LogForm)

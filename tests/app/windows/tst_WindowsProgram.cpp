@@ -11,6 +11,7 @@
 
 #include <tlhelp32.h>
 
+#include <cstdio>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -43,7 +44,8 @@ std::unique_ptr<QProcess> startProgram()
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"VORN_PORTALHUB_SOCKET"_s, kPipe);
     process->setProcessEnvironment(environment);
-    process->setProcessChannelMode(QProcess::MergedChannels);
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
     process->start(QStringLiteral(VORN_PROGRAM), QStringList());
     return process;
 }
@@ -66,15 +68,20 @@ private slots:
 private:
     /// Waits until the program meets the display at the end of its start.
     [[nodiscard]] QLocalSocket* nextProgram();
-    [[nodiscard]] bool appears(QProcess& program, const QByteArray& text);
+    /// Waits until the program's log file says so.
+    [[nodiscard]] bool appears(const QByteArray& text);
+    void readLog();
 
     std::unique_ptr<QLocalServer> m_display;
+    QDir m_logFolder{u"C:/ProgramData/VORNApp"_s, u"VORNAppPlain.exe*.log"_s};
     QByteArray m_log;
 };
 
 void tst_WindowsProgram::init()
 {
     m_log.clear();
+    for (const QString& earlier : m_logFolder.entryList(QDir::Files))
+        m_logFolder.remove(earlier);
     m_display = std::make_unique<QLocalServer>();
     QVERIFY2(m_display->listen(kPipe), qPrintable(m_display->errorString()));
 }
@@ -82,7 +89,7 @@ void tst_WindowsProgram::init()
 void tst_WindowsProgram::cleanup()
 {
     if (QTest::currentTestFailed())
-        qWarning("%s", m_log.constData());
+        std::fwrite(m_log.constData(), 1, std::size_t(m_log.size()), stderr);
     m_display.reset();
 }
 
@@ -93,15 +100,20 @@ QLocalSocket* tst_WindowsProgram::nextProgram()
     return m_display->nextPendingConnection();
 }
 
-bool tst_WindowsProgram::appears(QProcess& program, const QByteArray& text)
+void tst_WindowsProgram::readLog()
 {
-    QElapsedTimer waited;
-    waited.start();
-    while (!m_log.contains(text) && waited.elapsed() < kPatience) {
-        program.waitForReadyRead(50);
-        m_log += program.readAll();
-    }
-    return m_log.contains(text);
+    QFile file(m_logFolder.filePath(m_logFolder.entryList(QDir::Files, QDir::Name).value(0)));
+    m_log = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool tst_WindowsProgram::appears(const QByteArray& text)
+{
+    return QTest::qWaitFor(
+        [&] {
+            readLog();
+            return m_log.contains(text);
+        },
+        kPatience);
 }
 
 void tst_WindowsProgram::livesAndQuits()
@@ -111,7 +123,7 @@ void tst_WindowsProgram::livesAndQuits()
     QVERIFY(connection);
     connection->write("1 {\"cmd\":1,\"seq\":9,\"type\":2,\"volume\":41}\n");
     connection->flush();
-    QVERIFY(appears(*program, "newVolume:41"));
+    QVERIFY(appears("newVolume:41"));
     QVERIFY(connection->waitForReadyRead(kPatience));
     QVERIFY(connection->readLine().startsWith("1 "));
 
@@ -120,7 +132,7 @@ void tst_WindowsProgram::livesAndQuits()
     QVERIFY(postQuit(program->processId()));
     QVERIFY(program->waitForFinished(kPatience));
     const qint64 took = quitting.elapsed();
-    m_log += program->readAll();
+    readLog();
     QCOMPARE(program->exitStatus(), QProcess::NormalExit);
     QCOMPARE(program->exitCode(), 0);
     QVERIFY2(took < 10'000, qPrintable(u"%1 ms"_s.arg(took)));
@@ -155,7 +167,7 @@ void tst_WindowsProgram::handsOverToTheRunningInstance()
     QVERIFY(second->waitForFinished(kPatience));
     QCOMPARE(second->exitStatus(), QProcess::NormalExit);
     QCOMPARE(second->exitCode(), 0);
-    QVERIFY(appears(*first, "onNewConnection]VORNApp reopen!"));
+    QVERIFY(appears("onNewConnection]VORNApp reopen!"));
     QVERIFY(postQuit(first->processId()));
     QVERIFY(first->waitForFinished(kPatience));
     QCOMPARE(first->exitCode(), 0);
