@@ -37,7 +37,7 @@ flags=(
     -std=c++20 -c -O0 -Wall -Wextra -Werror
     -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0A00
     -DGLOG_NO_ABBREVIATED_SEVERITIES -DGLOG_CUSTOM_PREFIX_SUPPORT=1
-    '-DVORN_ACCOUNT_URL="https://account.vornapp.example"'
+    '-DVORN_ACCOUNT_URL="https://account.vornapp.example"' '-DVORN_INSTALLED_VERSION="1.0.0"'
     -I. -Isimulator/portalhub -isystem tools/windows-headers -isystem "$work/include" -isystem "$qt_headers"
 )
 while read -r definition; do
