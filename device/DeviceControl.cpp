@@ -51,6 +51,11 @@ DeviceControl::DeviceControl(Services services, Timing timing)
     m_taskThread.setObjectName(u"tasks"_s);
     m_taskQueue.moveToThread(&m_taskThread);
     connect(this, &DeviceControl::addTask, &m_taskQueue, &TaskQueue::addTask);
+    // Names the order that the wait for the thread implies to a race detector that does not see
+    // into Qt.
+    connect(
+        &m_taskThread, &QThread::finished, &m_taskThread,
+        [this] { m_taskThreadEnded.store(true, std::memory_order_release); }, Qt::DirectConnection);
     m_taskThread.start(QThread::InheritPriority);
 
     readConfig();
@@ -78,6 +83,7 @@ DeviceControl::~DeviceControl()
     m_taskThread.requestInterruption();
     m_taskThread.quit();
     m_taskThread.wait();
+    (void)m_taskThreadEnded.load(std::memory_order_acquire);
 }
 
 void DeviceControl::readConfig()

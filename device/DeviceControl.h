@@ -287,6 +287,7 @@ private:
     UpgradeControl m_upgrade;
     TaskQueue m_taskQueue;
     QThread m_taskThread;
+    std::atomic<bool> m_taskThreadEnded = false;
     int m_vornMicStatus = 0;
     int m_vornCamStatus = 0;
     int m_vornSpkStatus = 0;
