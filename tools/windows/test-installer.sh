@@ -1,0 +1,106 @@
+#!/usr/bin/env bash
+# ./tools/windows/test-installer.sh   makes the installer and tries it under Wine.
+#
+# Installs silently into a fresh user's folders, starts the installed program on a virtual screen with
+# nothing but what was installed, and removes it again: with the user's data kept, and on request
+# without. Run tools/windows/test.sh first, which builds. Needs root.
+set -euo pipefail
+source "$(dirname "$0")/../common.sh"
+source "$root/tools/windows/settings.sh"
+case "${1:-}" in
+-h | --help)
+  sed -n '2,6s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
+need_packages "${screen_packages[@]}"
+mount_root
+
+step "Making the installer"
+in_root ninja -C /build/windows installer >"$windows_root/build/installer.log" 2>&1 || {
+  tail -20 "$windows_root/build/installer.log" >&2
+  fail "the installer" "look at $windows_root/build/installer.log"
+}
+setup=$(cd "$windows_root" && echo build/windows/VORNApp-*-setup.exe)
+ls -l "$windows_root/$setup"
+
+clean_up() {
+  wine_plain wineboot -k >/dev/null 2>&1 || true
+  stop_screen
+  mountpoint -q "$windows_root/tmp/.X11-unix" && umount "$windows_root/tmp/.X11-unix"
+  return 0
+}
+trap clean_up EXIT
+start_screen 1280x900x24
+mkdir -p "$windows_root/tmp/.X11-unix"
+mountpoint -q "$windows_root/tmp/.X11-unix" || mount --bind /tmp/.X11-unix "$windows_root/tmp/.X11-unix"
+
+# Without the paths to the Qt that the program was built with.
+prefix=/build/wine-installed
+install -d -m 700 "$windows_root/build/run"
+wine_plain() {
+  in_root env WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' XDG_RUNTIME_DIR=/build/run \
+    DISPLAY="$DISPLAY" QT_QUICK_BACKEND=software wine "$@"
+}
+until_true() { # 60 s at most
+  local tries=0
+  until "$@" >/dev/null 2>&1; do
+    sleep 0.1
+    tries=$((tries + 1))
+    [ $tries -lt 600 ] || return 1
+  done
+}
+is_gone() { ! [ -e "$1" ]; }
+rm -rf "$windows_root$prefix"
+wine_plain wineboot -i >/dev/null 2>&1 || fail "Wine" "look at the Wine of the root"
+user=$windows_root$prefix/drive_c/users/root
+folder=$user/AppData/Local/Programs/VORNApp
+folder_windows=C:/users/root/AppData/Local/Programs/VORNApp
+link="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/VORNApp.lnk"
+uninstall_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\VORNApp'
+
+step "Installing silently"
+wine_plain "Z:/$setup" /S
+for file in VORNApp.exe PortalHub.dll config.ini config.json Qt6Core.dll libglog.dll Uninstall.exe \
+  plugins/platforms/qwindows.dll plugins/sqldrivers/qsqlite.dll qml/QtQuick/qmldir; do
+  [ -f "$folder/$file" ] || fail "$file was not installed" "look at packaging/windows"
+done
+[ -f "$link" ] || fail "there is no shortcut in the Start menu" "look at packaging/windows/VORNApp.nsi"
+wine_plain reg query "$uninstall_key" /v DisplayVersion >/dev/null ||
+  fail "Windows does not list the program" "look at packaging/windows/VORNApp.nsi"
+wine_plain tasklist | grep -q VORNApp && fail "the installer started the program" "look at packaging/windows/VORNApp.nsi"
+
+step "Starting what was installed"
+program_log=$windows_root/build/installed.log
+wine_plain "$folder_windows/VORNApp.exe" >"$program_log" 2>&1 &
+program=$!
+until_true grep -q 'RecvUdpDatagram\]thread start' "$program_log" ||
+  { tail -20 "$program_log" >&2; fail "the program did not come up" "look at $program_log"; }
+pages_say() { grep -q 'load error' "$program_log" || xdotool search --onlyvisible --name '^VORNApp$'; }
+until_true pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "look at $program_log"; }
+import -window root "$windows_root/build/installed.png"
+if grep -q 'load error' "$program_log"; then
+  printf 'Its pages need more than this Windows Qt has: %s\n' \
+    "$(grep -o '\[main\]qrc:.*' "$program_log" | tail -n 1)"
+fi
+[ -f "$folder/userdata.db" ] || fail "the user's data are not beside the program" "look at $program_log"
+wine_plain "Z:/$setup" /S && fail "it was replaced while it ran" "look at packaging/windows/VORNApp.nsi"
+wine_plain taskkill /IM VORNApp.exe /F >/dev/null
+wait "$program" || true
+
+step "Removing it, and its user's data only on request"
+printf '[VORNApp]\nuse_remote_device=false\n' >"$folder/config.ini"
+wine_plain "$folder_windows/Uninstall.exe" /S
+until_true is_gone "$folder/Uninstall.exe" || fail "the uninstaller is still there" "look at packaging/windows/VORNApp.nsi"
+left=$(ls -A "$folder" | sort | tr '\n' ' ')
+[ "$left" = "config.ini userdata.db " ] || fail "left behind: $left" "look at packaging/windows"
+is_gone "$link" || fail "the shortcut is still there" "look at packaging/windows/VORNApp.nsi"
+wine_plain reg query "$uninstall_key" >/dev/null 2>&1 &&
+  fail "Windows still lists the program" "look at packaging/windows/VORNApp.nsi"
+
+wine_plain "Z:/$setup" /S
+grep -q 'use_remote_device=false' "$folder/config.ini" ||
+  fail "an update overwrote the user's settings" "look at packaging/windows/VORNApp.nsi"
+wine_plain "$folder_windows/Uninstall.exe" /S /PURGE
+until_true is_gone "$folder" || fail "left behind: $(ls -A "$folder")" "look at packaging/windows"
+step "The program installs, runs and goes"
