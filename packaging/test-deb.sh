@@ -49,7 +49,7 @@ cp /etc/resolv.conf /etc/hosts "$clean_root/etc/"
 mount -t proc proc "$clean_root/proc"
 mount --bind /dev "$clean_root/dev"
 # What the package brought and has to take away.
-listing() { (cd "$clean_root" && find opt usr/bin usr/lib/VORNApp usr/share/applications usr/share/icons usr/share/metainfo -name '*VORN*' 2>/dev/null | sort); }
+listing() { (cd "$clean_root" && find opt usr/bin usr/lib/VORNApp usr/share/applications usr/share/icons usr/share/metainfo -name '*VORN*' 2>/dev/null | sort) || true; }
 
 step "Installing $(basename "$package")"
 cp "$package" "$clean_root/root/vornapp.deb"
@@ -79,6 +79,8 @@ appears() {
 }
 appears xdotool search --onlyvisible --name '^VORNApp$' || { tail -20 "$log" >&2; fail "no window came up" "look at $log"; }
 appears grep -q 'RecvUdpDatagram\]thread start' "$log" || fail "the program did not come up" "look at $log"
+is_painted() { [ "$(import -window root png:- | identify -format '%[fx:mean>0.05]' -)" = 1 ]; }
+appears is_painted || fail "the window stays empty" "look at $log"
 import -window root build/package/installed.png
 home=$clean_root/home/user
 for file in .local/share/VORNApp/config.ini .local/share/VORNApp/config.json; do
