@@ -69,18 +69,9 @@ log=$root/build/package/program.log
 chroot --userspec=user "$clean_root" env -i HOME=/home/user PATH=/usr/bin:/bin LANG=C.UTF-8 \
   DISPLAY="$DISPLAY" LIBGL_ALWAYS_SOFTWARE=1 sh -c 'cd && exec VORNApp' >"$log" 2>&1 &
 program=$!
-appears() {
-  local tries=0
-  until "$@" >/dev/null 2>&1; do
-    sleep 0.1
-    tries=$((tries + 1))
-    [ $tries -lt 600 ] || return 1
-  done
-}
-appears xdotool search --onlyvisible --name '^VORNApp$' || { tail -20 "$log" >&2; fail "no window came up" "look at $log"; }
-appears grep -q 'RecvUdpDatagram\]thread start' "$log" || fail "the program did not come up" "look at $log"
-is_painted() { [ "$(import -window root png:- | identify -format '%[fx:mean>0.05]' -)" = 1 ]; }
-appears is_painted || fail "the window stays empty" "look at $log"
+eventually xdotool search --onlyvisible --name '^VORNApp$' || { tail -20 "$log" >&2; fail "no window came up" "look at $log"; }
+eventually grep -q 'RecvUdpDatagram\]thread start' "$log" || fail "the program did not come up" "look at $log"
+eventually is_painted root || fail "the window stays empty" "look at $log"
 import -window root build/package/installed.png
 home=$clean_root/home/user
 for file in .local/share/VORNApp/config.ini .local/share/VORNApp/config.json; do

@@ -74,6 +74,18 @@ configure_and_build() {
   ninja -C "$root/$folder" "${targets[@]}" || fail "building $folder" "look at the compiler's first message above"
 }
 
+# Until the command succeeds, 60 s at most.
+eventually() {
+  local deadline=$((SECONDS + 60))
+  until "$@" >/dev/null 2>&1; do
+    sleep 0.05
+    [ $SECONDS -lt $deadline ] || return 1
+  done
+}
+
+# Whether there is something to be seen in a window, or with "root" on the screen.
+is_painted() { [ "$(import -window "$1" png:- 2>/dev/null | identify -format '%[fx:mean>0.02]' - 2>/dev/null)" = 1 ]; }
+
 # Starts a virtual screen with a window manager and a tray, and sets DISPLAY. Ends with the script.
 start_screen() {
   local number_file

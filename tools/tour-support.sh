@@ -53,16 +53,6 @@ write_index() {
   rm -f "$out/index.body"
 }
 
-# Until the command succeeds, 30 s at most.
-eventually() {
-  local tries=0
-  until "$@" >/dev/null 2>&1; do
-    sleep 0.05
-    tries=$((tries + 1))
-    [ $tries -lt 600 ] || return 1
-  done
-}
-
 # Until the file holds a line that matches after those that were there at the last mark.
 declare -A marks=()
 mark() { marks[$1]=$(wc -l <"$1"); }
@@ -98,10 +88,8 @@ find_window() { # find_window <name>: sets `found`
 
 # A window that was hidden is another one of the window system when it comes back.
 place_window() {
-  find_window '^VORNApp$' && window=$found && xdotool windowmove --sync "$window" 150 100 && is_drawn "$window"
+  find_window '^VORNApp$' && window=$found && xdotool windowmove --sync "$window" 150 100 && is_painted "$window"
 }
-
-is_drawn() { [ "$(import -window "$1" -format '%[fx:mean>0.02]' info: 2>/dev/null)" = 1 ]; }
 
 # Positions are those in the main window.
 click() { xdotool mousemove --window "$window" "$1" "$2" sleep 0.05 click 1; }

@@ -11,8 +11,9 @@
 //   cut-event         take the event's memory away
 // Each is answered with "ok". Both names are removed at the end, unless the process is killed.
 
+#include "CommandLoop.h"
+
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <random>
 #include <string>
@@ -162,27 +163,9 @@ private:
     sem_t* m_event = nullptr;
 };
 
-void say(const char* line)
-{
-    std::printf("%s\n", line);
-    std::fflush(stdout);
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    if (argc != 3)
-        return 2;
-    Writer writer(argv[1], argv[2]);
-    say("ready");
-    char line[128];
-    while (std::fgets(line, sizeof(line), stdin)) {
-        char command[64] = "";
-        long number = 0;
-        long second = 0;
-        std::sscanf(line, "%63s %ld %ld", command, &number, &second);
-        say(writer.run(command, number, second) ? "ok" : "failed");
-    }
-    return 0;
+    return serveCommands<Writer>(argc, argv);
 }

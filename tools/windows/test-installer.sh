@@ -42,14 +42,6 @@ wine_plain() {
   in_root env WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' XDG_RUNTIME_DIR=/build/run \
     DISPLAY="$DISPLAY" QT_QUICK_BACKEND=software wine "$@"
 }
-until_true() { # 60 s at most
-  local tries=0
-  until "$@" >/dev/null 2>&1; do
-    sleep 0.1
-    tries=$((tries + 1))
-    [ $tries -lt 600 ] || return 1
-  done
-}
 is_gone() { ! [ -e "$1" ]; }
 rm -rf "$windows_root$prefix"
 wine_plain wineboot -i >/dev/null 2>&1 || fail "Wine" "look at the Wine of the root"
@@ -74,10 +66,10 @@ step "Starting what was installed"
 program_log=$windows_root/build/installed.log
 wine_plain "$folder_windows/VORNApp.exe" >"$program_log" 2>&1 &
 program=$!
-until_true grep -q 'RecvUdpDatagram\]thread start' "$program_log" ||
+eventually grep -q 'RecvUdpDatagram\]thread start' "$program_log" ||
   { tail -20 "$program_log" >&2; fail "the program did not come up" "look at $program_log"; }
 pages_say() { grep -q 'load error' "$program_log" || xdotool search --onlyvisible --name '^VORNApp$'; }
-until_true pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "look at $program_log"; }
+eventually pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "look at $program_log"; }
 import -window root "$windows_root/build/installed.png"
 if grep -q 'load error' "$program_log"; then
   printf 'Its pages need more than this Windows Qt has: %s\n' \
@@ -91,7 +83,7 @@ wait "$program" || true
 step "Removing it, and its user's data only on request"
 printf '[VORNApp]\nuse_remote_device=false\n' >"$folder/config.ini"
 wine_plain "$folder_windows/Uninstall.exe" /S
-until_true is_gone "$folder/Uninstall.exe" || fail "the uninstaller is still there" "look at packaging/windows/VORNApp.nsi"
+eventually is_gone "$folder/Uninstall.exe" || fail "the uninstaller is still there" "look at packaging/windows/VORNApp.nsi"
 left=$(ls -A "$folder" | sort | tr '\n' ' ')
 [ "$left" = "config.ini userdata.db " ] || fail "left behind: $left" "look at packaging/windows"
 is_gone "$link" || fail "the shortcut is still there" "look at packaging/windows/VORNApp.nsi"
@@ -102,5 +94,5 @@ wine_plain "Z:/$setup" /S
 grep -q 'use_remote_device=false' "$folder/config.ini" ||
   fail "an update overwrote the user's settings" "look at packaging/windows/VORNApp.nsi"
 wine_plain "$folder_windows/Uninstall.exe" /S /PURGE
-until_true is_gone "$folder" || fail "left behind: $(ls -A "$folder")" "look at packaging/windows"
+eventually is_gone "$folder" || fail "left behind: $(ls -A "$folder")" "look at packaging/windows"
 step "The program installs, runs and goes"

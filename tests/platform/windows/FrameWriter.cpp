@@ -7,10 +7,11 @@
 //   frame <w> <h>     put a frame of that size there, its bytes numbered from 0, and announce it
 // Each is answered with "ok". Both names go with the process.
 
+#include "CommandLoop.h"
+
 #include <windows.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -127,27 +128,9 @@ private:
     std::uint32_t m_frames = 0;
 };
 
-void say(const char* line)
-{
-    std::printf("%s\n", line);
-    std::fflush(stdout);
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    if (argc != 3)
-        return 2;
-    Writer writer(argv[1], argv[2]);
-    say("ready");
-    char line[128];
-    while (std::fgets(line, sizeof(line), stdin)) {
-        char command[64] = "";
-        long number = 0;
-        long second = 0;
-        std::sscanf(line, "%63s %ld %ld", command, &number, &second);
-        say(writer.run(command, number, second) ? "ok" : "failed");
-    }
-    return 0;
+    return serveCommands<Writer>(argc, argv);
 }

@@ -13,7 +13,8 @@ class Setup : public QObject
 public slots:
     void qmlEngineAvailable(QQmlEngine* engine)
     {
-        const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
+        // Once for all files: adding a font frees what texts that are on the screen are drawn with.
+        static const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
         const QString family = QFontDatabase::applicationFontFamilies(font).value(0);
         engine->rootContext()->setContextProperty(u"LatoRegular"_s, family);
     }
