@@ -52,6 +52,8 @@ void write(Severity severity, const char* function, std::string_view text, const
             std::fputc('\n', stderr);
         return;
     }
+    if (glogSeverity(severity) < FLAGS_minloglevel)
+        return; // glog would drop the record too, but only once it is written
     // glog cuts here too, but it would look at every byte beyond.
     text = text.substr(0, google::LogMessage::kMaxLogMessageLen);
     // glog asks for the prefix while it constructs its message, hence the name is set around it.

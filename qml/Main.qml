@@ -6,6 +6,8 @@ Window {
 
     // The monitor window while one exists.
     property Window monitorWindow: null
+    // The first frame has been on the screen.
+    property bool shown: false
 
     readonly property var device: deviceControl // qmllint disable unqualified
     readonly property var windows: windowManager // qmllint disable unqualified
@@ -39,6 +41,7 @@ Window {
     title: "VORNApp"
 
     Component.onCompleted: showAndRaise()
+    onFrameSwapped: shown = true
     onClosing: close => {
         close.accepted = false;
         mainWindow.windows.hideToTray();
@@ -84,10 +87,16 @@ Window {
             visible: !mainWindow.device.login
         }
 
-        MainPage {
+        // To a user who has to sign in first it comes after the window is there.
+        Loader {
             anchors.fill: parent
-            visible: mainWindow.device.login
-            onVisibleChanged: currentPage = page_id_meetings
+            active: mainWindow.device.login || mainWindow.shown
+            sourceComponent: MainPage {
+                id: mainPage
+
+                visible: mainPage.device.login
+                onVisibleChanged: currentPage = page_id_meetings
+            }
         }
 
         Row {

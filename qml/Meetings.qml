@@ -57,7 +57,9 @@ Item {
             return page.connectedColor;
         if (page.connectTimeout)
             return page.timeoutColor;
-        return turn && staging.blinking && page.blinkState ? page.connectedColor : page.defaultColor;
+        // A hidden icon that blinks would have the window drawn twice a second.
+        const blinks = turn && page.visible && staging.blinking;
+        return blinks && page.blinkState ? page.connectedColor : page.defaultColor;
     }
 
     function go(): void {

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Qt5Compat.GraphicalEffects
 import QtMultimedia
+import QtQuick.Dialogs
 
 Window {
     width: 968

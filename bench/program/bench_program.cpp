@@ -6,6 +6,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
@@ -51,13 +52,15 @@ double residentMegabytes(qint64 pid)
     return pages * double(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-/// Seconds of processor time since the start.
+/// Seconds of processor time that all threads have had, finer than the system's clock tick.
 double processorSeconds(qint64 pid)
 {
-    const QByteArray stat = procFile(pid, "stat");
-    const auto fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
-    return (fields.value(11).toDouble() + fields.value(12).toDouble()) /
-           double(sysconf(_SC_CLK_TCK));
+    double nanoseconds = 0;
+    const QStringList threads =
+        QDir(u"/proc/%1/task"_s.arg(pid)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& thread : threads)
+        nanoseconds += procFile(thread.toLongLong(), "schedstat").split(' ').value(0).toDouble();
+    return nanoseconds / 1e9;
 }
 
 /// A program on the screen in a home of its own, followed until its first frame.
@@ -78,10 +81,12 @@ public:
         QElapsedTimer timer;
         timer.start();
         m_process.start(program, QStringList());
-        QByteArray output;
-        while (!output.contains("renderloop: Frame rendered") &&
-               m_process.waitForReadyRead(Patience))
-            output += m_process.readAll();
+        // A frame that took no time came before the window was on the screen.
+        static const QRegularExpression frame(u"rendered (with .* )?in (?!0ms)"_s,
+                                              QRegularExpression::CaseInsensitiveOption);
+        QString output;
+        while (!output.contains(frame) && m_process.waitForReadyRead(Patience))
+            output += QString::fromLocal8Bit(m_process.readAll());
         m_firstFrame = double(timer.nsecsElapsed()) / 1e6;
         QObject::connect(&m_process, &QProcess::readyRead, &m_process,
                          [this] { m_process.readAll(); });

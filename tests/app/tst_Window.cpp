@@ -70,6 +70,8 @@ void tst_Window::cleanup()
     ::kill(static_cast<pid_t>(m_program->processId()), SIGTERM);
     QVERIFY(m_program->waitForFinished(Patience));
     QCOMPARE(m_program->exitCode(), 0);
+    // What a page complains of is logged with its place.
+    QVERIFY2(!log().contains("qrc:/"), m_log.constData());
 }
 
 QByteArray tst_Window::log()

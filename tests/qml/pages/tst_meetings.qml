@@ -1,6 +1,5 @@
 // qmllint disable unqualified
 import QtQuick
-import QtTest
 import "../../../qml"
 
 PageTest {
@@ -80,6 +79,22 @@ PageTest {
         for (const button of ["launchZoom", "launchTeams", "launchGoogle"])
             mouseClick(findChild(page, button));
         compare(rig.takeTasks(), ["launchZoom", "launchTeams", "launchGoogleMeeting"]);
+    }
+
+    // The program makes its pages when they are needed, which may be after the display came.
+    function test_madeWhileADisplayIsThere(): void {
+        connectDisplay();
+        tryCompare(deviceControl, "connectMode", 1);
+        const late = createTemporaryObject(latePage, test);
+        compare(late.currentPage, late.page_id_connecting);
+    }
+
+    Component {
+        id: latePage
+
+        Meetings {
+            mainWindow: mainWindow
+        }
     }
 
     function test_timeOutTurnsWhatIsMissingRed(): void {
