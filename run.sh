@@ -25,8 +25,11 @@ $headless && packages+=("${screen_packages[@]}")
 need_packages "${packages[@]}"
 cd "$root"
 mkdir -p build
-configure_and_build build/run -DCMAKE_BUILD_TYPE=Release
 bin="$root/build/run/bin"
+targets=(VORNApp VORNSimulator PatchPilot UpdateInstaller SimulatedZoom)
+# Draws the states of pages that the program alone would take minutes to reach.
+$headless && targets+=(vorn-item-tree)
+configure_and_build build/run -DCMAKE_BUILD_TYPE=Release -DVORN_BUILD_TESTS=ON -- "${targets[@]}"
 
 if $headless; then
   trap stop_screen EXIT

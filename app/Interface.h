@@ -22,7 +22,7 @@ public:
               const QString& databasePath, MessageChannel& channel);
     ~Interface() override;
 
-    /// The program's object. Only the composition of the program uses this.
+    /// The program's own one, for code that cannot be given it.
     static Interface& instance();
 
     NetworkManager& network() { return m_network; }

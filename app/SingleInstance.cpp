@@ -48,15 +48,22 @@ bool SingleInstance::claim()
 {
     const platform::InstanceLock lock(m_sharedMemory.key());
     m_claimError.clear();
-    if (m_sharedMemory.attach(QSharedMemory::ReadWrite)) {
-        m_sharedMemory.detach();
-        if (!platform::clearStaleSegment(m_sharedMemory.key()))
-            return false;
-    }
+    // The last one to detach removes the segment, also one that a crash left behind. If it is still
+    // there, somebody else is attached.
+    if (isThereASegment() && isThereASegment())
+        return false;
     if (m_sharedMemory.create(1, QSharedMemory::ReadWrite))
         return true;
     m_claimError = QStringLiteral("Failed to create shared memory:") + m_sharedMemory.errorString();
     return false;
+}
+
+bool SingleInstance::isThereASegment()
+{
+    if (!m_sharedMemory.attach(QSharedMemory::ReadWrite))
+        return false;
+    m_sharedMemory.detach();
+    return true;
 }
 
 bool SingleInstance::handOver() const

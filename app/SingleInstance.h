@@ -25,6 +25,7 @@ public:
 
 private:
     bool claim();
+    bool isThereASegment();
     bool handOver() const;
 
     QSharedMemory m_sharedMemory;

@@ -27,7 +27,7 @@ public:
     explicit WindowManager(std::chrono::milliseconds peerWait = std::chrono::seconds(30));
     ~WindowManager() override;
 
-    /// The program's object. Only the composition of the program uses this.
+    /// The program's own one, for code that cannot be given it.
     static WindowManager& instance();
 
     Q_INVOKABLE void hideToTray();

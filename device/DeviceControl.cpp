@@ -4,7 +4,7 @@
 #include "launch/ProgramControl.h"
 #include "logging/Log.h"
 #include "persistence/FileInfo.h"
-#include "persistence/UserSettings.h"
+#include "platform/ThreadName.h"
 
 #include <QHostAddress>
 #include <QNetworkDatagram>
@@ -18,6 +18,12 @@ constexpr quint16 ReceivePort = 49175;
 constexpr auto ReceiveWait = std::chrono::seconds(1);
 
 DeviceControl* s_instance = nullptr;
+
+/// After the highest number comes the lowest.
+int nextFrameIndex(int index)
+{
+    return static_cast<int>(static_cast<unsigned>(index) + 1U);
+}
 
 } // namespace
 
@@ -41,7 +47,7 @@ DeviceControl::DeviceControl(Services services, Timing timing)
     , m_userImage(u"qrc:/images/user_84x84.png"_s)
     , m_videoReceiver(std::make_unique<VideoReceiver>(
           [this](const QVideoFrame& frame) { m_videoSource.pushFrame(frame); },
-          [this] { setFrameIndex(frameIndex() + 1); }))
+          [this] { setFrameIndex(nextFrameIndex(frameIndex())); }))
 {
     m_applyTimer.setSingleShot(true);
     connect(
@@ -49,6 +55,9 @@ DeviceControl::DeviceControl(Services services, Timing timing)
         Qt::DirectConnection);
 
     m_taskThread.setObjectName(u"tasks"_s);
+    connect(
+        &m_taskThread, &QThread::started, &m_taskThread,
+        [] { platform::nameCurrentThread("tasks"); }, Qt::DirectConnection);
     m_taskQueue.moveToThread(&m_taskThread);
     connect(this, &DeviceControl::addTask, &m_taskQueue, &TaskQueue::addTask);
     // Names the order that the wait for the thread implies to a race detector that does not see

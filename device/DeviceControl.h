@@ -33,8 +33,9 @@ class WindowRequests;
 /// status, video and UDP. Made and destroyed on the main thread, which also calls the invokable
 /// operations; the setters may be called from any thread. Values are kept under a lock, while
 /// signals are emitted and messages sent outside it, so that neither a binding that reads nor a
-/// channel library that calls back can block. Signals of other threads reach the main thread
-/// queued.
+/// channel library that calls back can block. The one exception is the task that writes
+/// disable_local_dev, which is posted under a lock of its own to keep its order. Signals of other
+/// threads reach the main thread queued.
 class DeviceControl : public QObject, public DisplayReports, public LocalDeviceStatus
 {
     Q_OBJECT

@@ -69,6 +69,8 @@ QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill
     const int chromaRows = (height + 1) / 2;
     FrameMemory::Block block = m_memory.take(std::size_t(bytesPerLine) * (height + chromaRows));
     uchar* const luma = block.data();
+    if (!luma)
+        return {};
     const Planes planes{{{luma, bytesPerLine, height},
                          {luma + std::size_t(bytesPerLine) * height, bytesPerLine, chromaRows}}};
     if (!fill(planes))

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <optional>
 
 /// Layout of the shared memory that carries the display's screen. All numbers are little-endian:
 ///

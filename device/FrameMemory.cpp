@@ -21,7 +21,7 @@ FrameMemory::Block::~Block()
     if (!m_store) // moved from
         return;
     const std::scoped_lock lock(m_store->mutex);
-    if (m_size == m_store->blockSize && m_store->idle.size() < BlockCount)
+    if (m_memory && m_size == m_store->blockSize && m_store->idle.size() < BlockCount)
         m_store->idle.push_back(std::move(m_memory));
 }
 
@@ -38,7 +38,7 @@ FrameMemory::~FrameMemory()
 
 FrameMemory::Memory FrameMemory::allocate(std::size_t size)
 {
-    return Memory(static_cast<uchar*>(::operator new(size, Alignment)));
+    return Memory(static_cast<uchar*>(::operator new(size, Alignment, std::nothrow)));
 }
 
 FrameMemory::Block FrameMemory::take(std::size_t size)
@@ -49,8 +49,11 @@ FrameMemory::Block FrameMemory::take(std::size_t size)
         idle.clear();
         blockSize = size;
         while (idle.size() < BlockCount) {
-            idle.push_back(allocate(blockSize));
-            std::memset(idle.back().get(), 0, blockSize);
+            Memory fresh = allocate(blockSize);
+            if (!fresh)
+                break;
+            std::memset(fresh.get(), 0, blockSize);
+            idle.push_back(std::move(fresh));
         }
     }
     if (idle.empty())

@@ -31,7 +31,8 @@ public:
         Block(Block&&) noexcept = default;
         Block& operator=(Block&&) = delete;
 
-        /// Aligned to a page. The content is what the last owner left.
+        /// Aligned to a page; null when there was no memory. The content is what the last owner
+        /// left.
         uchar* data() const { return m_memory.get(); }
 
     private:

@@ -6,7 +6,8 @@ namespace
 {
 
 /// Datagrams are only logged, so a flood may lose its oldest ones rather than fill the memory.
-constexpr std::size_t MaximumQueued = 4096;
+constexpr std::size_t MaximumQueued = 256; // of 64 KB at most
+constexpr int DatagramsPerTurn = 64;
 
 } // namespace
 
@@ -82,7 +83,7 @@ void UdpClient::stop()
 
 void UdpClient::readPendingDatagrams()
 {
-    while (m_socket->hasPendingDatagrams()) {
+    for (int i = 0; i < DatagramsPerTurn && m_socket->hasPendingDatagrams(); ++i) {
         QNetworkDatagram datagram = m_socket->receiveDatagram();
         if (!datagram.isValid())
             continue;
@@ -94,6 +95,9 @@ void UdpClient::readPendingDatagrams()
         }
         m_cond.notify_one();
     }
+    // A sender without pause must not keep the event loop here.
+    if (m_socket->hasPendingDatagrams())
+        QMetaObject::invokeMethod(this, &UdpClient::readPendingDatagrams, Qt::QueuedConnection);
 }
 
 QByteArray UdpClient::hexDump(QByteArrayView bytes)

@@ -5,8 +5,9 @@
 #include <QStringList>
 
 /// Every dealing with other programs on this PC: starting them, ending them by image name, keeping
-/// them alive, and finding where Zoom and Teams are installed. Stateless; any thread but the main
-/// one, since the operations block their caller. "true" means success, and every failure is logged.
+/// them alive, and finding where Zoom and Teams are installed. Stateless; any
+/// thread. The operations block their caller, of which the main thread can afford killProcess()
+/// only. "true" means success, and every failure is logged.
 class ProcessManager : public QObject
 {
     Q_OBJECT

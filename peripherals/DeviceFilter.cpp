@@ -9,9 +9,10 @@ namespace
 
 // The engine's own interpreter counts its steps the same on every system, unlike compiled matching.
 // Steps count from each start position; the useful filters need some hundred, one that backtracks
-// without end is over in a fraction of a millisecond. The empty group ends the list of options: a
-// filter that begins with such options of its own could otherwise lift the limits.
-constexpr auto Limits = "(*NO_JIT)(*LIMIT_MATCH=10000)(*LIMIT_HEAP=4096)(?:)"_L1;
+// without end is over in a fraction of a millisecond. The empty comment ends the list of options: a
+// filter that begins with such options of its own could otherwise lift the limits. Unlike an empty
+// group, it is nothing that a quantifier at the filter's beginning could repeat.
+constexpr auto Limits = "(*NO_JIT)(*LIMIT_MATCH=10000)(*LIMIT_HEAP=4096)(?#)"_L1;
 
 std::optional<QRegularExpression> compile(const QString& text)
 {

@@ -76,6 +76,8 @@ void FileInfo::readConfig()
     }
 
     const QSettings settings(m_configPath, QSettings::IniFormat);
+    if (settings.status() == QSettings::FormatError)
+        Log::error("FileInfo::FileInfo") << m_configPath << " holds lines that cannot be read";
     readString(settings, u"K4V/lowest_ver"_s, m_k4vLowestVer);
     readInterval(settings, u"VORNApp/use_remote_device_interval"_s, m_useRemoteDeviceInterval);
     readBool(settings, u"VORNApp/use_remote_device"_s, m_useRemoteDevice);
@@ -130,7 +132,7 @@ void FileInfo::saveConfig(const QString& iniPath, const QString& key, const QVar
         QSettings settings(iniPath, QSettings::IniFormat);
         settings.setValue(key, value);
         settings.sync();
-        if (settings.status() != QSettings::NoError)
+        if (settings.status() == QSettings::AccessError)
             Log::error("FileInfo::saveConfig") << "cannot write " << iniPath;
     }
     const QSettings written(iniPath, QSettings::IniFormat);

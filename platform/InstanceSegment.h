@@ -8,7 +8,7 @@
 namespace platform
 {
 
-/// Held by a start while it attaches to, clears or creates the segment, so that two starts never
+/// Held by a start while it attaches to or creates the segment, so that two starts never
 /// take each other's short attachment for a running instance. The system frees it when its holder
 /// dies.
 class InstanceLock
@@ -26,11 +26,6 @@ private:
     class Private;
     std::unique_ptr<Private> d;
 };
-
-/// Removes the segment if a crash left it behind, that is, if no live process is attached; true
-/// when it did. The caller must not be attached itself and should hold the InstanceLock. On Windows
-/// the system removes it with its last process, and the answer is always false.
-bool clearStaleSegment(const QString& key);
 
 /// How long a second start tries to reach the first one, in milliseconds.
 [[nodiscard]] int handOverPatienceMs();

@@ -48,7 +48,9 @@ void platform::streamCopy(void* target, const void* source, std::size_t length)
     if (length >= SmallestStreamed) {
         auto* to = static_cast<char*>(target);
         const auto* from = static_cast<const char*>(source);
-        const std::size_t head = -reinterpret_cast<std::uintptr_t>(to) % sizeof(__m128i);
+        constexpr std::size_t alignment = sizeof(__m128i);
+        const std::size_t head =
+            (alignment - reinterpret_cast<std::uintptr_t>(to) % alignment) % alignment;
         std::memcpy(to, from, head);
         const std::size_t lines = (length - head) / LineSize;
         streamLines(to + head, from + head, lines);

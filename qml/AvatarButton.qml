@@ -39,7 +39,6 @@ ControlButton {
         anchors.verticalCenter: ring.verticalCenter
         width: Math.min(implicitWidth, button.maximumWidth - x)
         elide: Text.ElideRight
-        textFormat: Text.PlainText
         font.pixelSize: 16
         font.weight: Font.Medium
     }

@@ -5,6 +5,8 @@ import QtQuick.Controls.Basic
 // the linter cannot see; every other file takes the font from here.
 Label {
     font.family: LatoRegular // qmllint disable unqualified
+    // What comes from outside must not be read as markup.
+    textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     color: "#FFFFFF"

@@ -35,6 +35,9 @@ Item {
         id: sublineLabel
 
         y: 143
+        // An address can be longer than the window is wide.
+        width: Math.min(implicitWidth, 427)
+        wrapMode: Text.Wrap
         color: "#BBC7CE"
         font.pixelSize: 14
     }
@@ -60,9 +63,9 @@ Item {
         x: 15
         y: submitButton.y - height - 5
         width: Math.min(implicitWidth, form.responseWidth)
+        wrapMode: Text.Wrap
         elide: Text.ElideRight
-        maximumLineCount: 1
-        textFormat: Text.PlainText
+        maximumLineCount: 2
         font.pixelSize: 14
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage

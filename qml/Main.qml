@@ -106,28 +106,16 @@ Window {
             anchors.rightMargin: 10
             spacing: 8
 
-            ControlButton {
-                width: 30
-                height: 30
+            TitleButton {
                 accessibleName: qsTr("Minimise")
+                source: "qrc:/images/minimize_30x120.png"
                 onClicked: mainWindow.showMinimized()
-
-                Image {
-                    source: "qrc:/images/minimize_30x120.png"
-                    sourceClipRect: Qt.rect(0, 0, 30, 30)
-                }
             }
 
-            ControlButton {
-                width: 30
-                height: 30
+            TitleButton {
                 accessibleName: qsTr("Close")
+                source: "qrc:/images/close_30x120.png"
                 onClicked: mainWindow.windows.hideToTray()
-
-                Image {
-                    source: "qrc:/images/close_30x120.png"
-                    sourceClipRect: Qt.rect(0, 0, 30, 30)
-                }
             }
         }
     }

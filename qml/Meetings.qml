@@ -62,6 +62,13 @@ Item {
         return blinks && page.blinkState ? page.connectedColor : page.defaultColor;
     }
 
+    // The same for those who hear the page.
+    function stateName(shown: bool): string {
+        if (shown)
+            return qsTr("Connected");
+        return page.connectTimeout ? qsTr("Not connected") : "";
+    }
+
     function go(): void {
         page.currentPage = page.page_id_launch_meeting;
         page.device.setByodSwitch(2);
@@ -154,6 +161,7 @@ Item {
                     source: "qrc:/images/mic_16x25.png"
                     accessibleName: qsTr("Microphone")
                     tint: page.tint(page.showMicConnected, true)
+                    accessibleState: page.stateName(page.showMicConnected)
                 }
 
                 StagingIcon {
@@ -161,6 +169,7 @@ Item {
                     source: "qrc:/images/spk_27x21.png"
                     accessibleName: qsTr("Speaker")
                     tint: page.tint(page.showSpkConnected, page.showMicConnected)
+                    accessibleState: page.stateName(page.showSpkConnected)
                 }
 
                 StagingIcon {
@@ -168,6 +177,7 @@ Item {
                     source: "qrc:/images/cam_27x17.png"
                     accessibleName: qsTr("Camera")
                     tint: page.tint(page.showCamConnected, page.showMicConnected && page.showSpkConnected)
+                    accessibleState: page.stateName(page.showCamConnected)
                 }
             }
         }

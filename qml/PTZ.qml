@@ -29,7 +29,8 @@ FocusScope {
     }
     onVisibleChanged: {
         const holder = Window.activeFocusItem;
-        if (panel.visible && (!holder || holder === Window.contentItem))
+        // It comes here unless a control that the user sees has it.
+        if (panel.visible && !(holder?.visible && holder.activeFocusOnTab))
             panel.forceActiveFocus();
     }
     Component.onCompleted: followFraming()

@@ -10,6 +10,8 @@ Item {
     property int currentPage: page_id_personal_info
     property string serverResponse: ""
     property color serverResponseColor: "#DB4747"
+    // The file dialog's last selection, also when it was refused: what a save sends.
+    property string chosenFile: ""
     // Bytes; a picture has to be smaller.
     readonly property int pictureLimit: 2097152
 
@@ -32,9 +34,11 @@ Item {
         edit.settle();
     }
 
-    // A refused file stays the dialog's selection, and is what a later save sends.
     function adoptPicture(file: string): void {
-        if (page.service.imageSize(file) >= page.pictureLimit) {
+        page.chosenFile = file;
+        const size = page.service.imageSize(file);
+        // One of more than 2 GB has a negative size.
+        if (size < 0 || size >= page.pictureLimit) {
             picturePopup.error = qsTr("The file must be under 2MB.");
             return;
         }
@@ -46,7 +50,7 @@ Item {
         page.serverResponse = "";
         if (edit.check())
             page.service.profileUpdate(edit.firstName, edit.lastName, edit.company, edit.title,
-                                       String(fileDialog.selectedFile));
+                                       page.chosenFile);
     }
 
     onCurrentPageChanged: {
@@ -54,12 +58,21 @@ Item {
         page.reload();
         if (page.currentPage === page.page_id_personal_edit)
             edit.focusFirstField();
-        else
+        else if (page.visible)
             view.forceActiveFocus(); // away from the hidden fields
     }
     onVisibleChanged: {
         if (!visible)
             picturePopup.close();
+    }
+
+    Connections {
+        target: page.device
+
+        // The next user must not save the picture that this one chose.
+        function onLoginChanged(): void {
+            page.chosenFile = "";
+        }
     }
 
     Connections {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 
 // Chooses the user's picture.
 Popup {
@@ -24,6 +25,11 @@ Popup {
     background: Rectangle {
         color: "#383838"
         radius: 8
+    }
+    // As round as the window that it dims.
+    T.Overlay.modal: Rectangle {
+        color: "#7F28282A"
+        radius: 10
     }
 
     LatoRegularLabel {

@@ -34,6 +34,8 @@ Item {
 
     // A whole press and release, for a screen reader's press action.
     function press(): void {
+        if (!area.enabled)
+            return;
         area.pressed();
         area.released();
         area.clicked();

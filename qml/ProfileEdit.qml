@@ -130,7 +130,6 @@ Item {
         width: Math.min(implicitWidth, view.width - 2 * 47)
         elide: Text.ElideRight
         maximumLineCount: 1
-        textFormat: Text.PlainText
         font.pixelSize: 14
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage

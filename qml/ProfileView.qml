@@ -26,7 +26,6 @@ Item {
         width: Math.min(implicitWidth, editLink.x - x - 20)
         text: view.name
         elide: Text.ElideRight
-        textFormat: Text.PlainText
         font.pixelSize: 21
         font.weight: Font.Medium
         Accessible.role: Accessible.Heading
@@ -72,10 +71,10 @@ Item {
             LatoRegularLabel {
                 required property string modelData
 
-                width: Math.min(implicitWidth, view.width - 246 - 20)
+                // Not that of the text: an empty one would leave its row to the next.
+                width: view.width - 246 - 20
                 text: modelData
                 elide: Text.ElideRight
-                textFormat: Text.PlainText
                 font.pixelSize: 16
             }
         }

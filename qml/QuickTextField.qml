@@ -183,6 +183,11 @@ TextField {
         else if (initialized && Window.active) // a look at another window is not the end of the entry
             focusChangedCheckInput();
     }
+    // A hidden item keeps the focus and with it the keys.
+    onVisibleChanged: {
+        if (!visible)
+            focus = false;
+    }
     Keys.onReturnPressed: (event) => submit(event)
     Keys.onEnterPressed: (event) => submit(event)
     Keys.onPressed: (event) => {

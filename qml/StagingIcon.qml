@@ -9,11 +9,13 @@ Item {
     property alias source: picture.source
     property alias tint: overlay.color
     property string accessibleName: ""
+    property string accessibleState: ""
 
     width: picture.width
     height: picture.height
     Accessible.role: Accessible.Graphic
     Accessible.name: accessibleName
+    Accessible.description: accessibleState
 
     Image {
         id: picture

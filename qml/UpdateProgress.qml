@@ -66,7 +66,7 @@ Row {
     LatoRegularLabel {
         id: label
 
-        text: root.value + "%"
+        text: qsTr("%1%").arg(root.value)
         font.pixelSize: 16
         color: "#2C2C2C"
     }

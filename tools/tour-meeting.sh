@@ -109,12 +109,16 @@ first_run_chapter() {
   click 129 229
   point 900 40
   shot set-up-detected "A display that is new"
-  display video start
   mark "$out/display.jsonl"
   click 563 430
   check "the set-up was asked for" appears '"cmd":22,' "$out/display.jsonl"
   check "the monitor window opened" eventually find_window '^VORN Bar$'
   local monitor=$found step
+  eventually is_painted "$monitor"
+  shot monitor-waiting "No picture yet" "$monitor"
+  sleep 5
+  shot monitor-failed "No picture for five seconds" "$monitor"
+  display video start
   check "its picture moves" eventually window_moves "$monitor"
   shot monitor "The display's screen" "$monitor"
   check "its colours are right" patches_are_right "$out/monitor.png" "#000000" "#FFFFFF" "#FF0000" "#00FF00" "#0000FF"

@@ -78,6 +78,11 @@ shot() { # shot <name> <caption> [<window>]
     sleep 0.15
   done
   import -window "$target" "$out/$1.png"
+  show "$1" "$2"
+}
+
+# Takes a picture of the folder into the index.
+show() { # show <name> <caption>
   printf '<figure><img src="%s.png" alt=""><figcaption>%s</figcaption></figure>\n' "$1" "$2" >>"$out/index.body"
 }
 

@@ -7,7 +7,7 @@
 set -euo pipefail
 here=$(dirname "$0")
 source "$here/common.sh"
-for part in support account meeting settings; do
+for part in support account meeting settings states; do
   source "$here/tour-$part.sh"
 done
 bin=$(realpath "$1")
@@ -28,5 +28,6 @@ camera_chapter
 settings_chapters
 first_run_chapter
 upgrade_chapter
+states_chapter
 
 step "$checks checks hold. Pictures are in $out/index.html, log and messages beside it"

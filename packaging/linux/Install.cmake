@@ -29,7 +29,8 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Desktop companion for VORN meeting-room d
 set(CPACK_PACKAGE_DESCRIPTION "Follows the connection to a display, launches meetings, shows and operates
 the display's screen and steers its camera, from one window and the tray.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
+# Crash reports name the program's functions by its table of symbols.
+set(CPACK_STRIP_FILES OFF)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

@@ -22,8 +22,11 @@ if(CMAKE_CROSSCOMPILING)
   install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/CrossDeploy.cmake")
 else()
   qt_generate_deploy_qml_app_script(TARGET VORNApp OUTPUT_SCRIPT deploy_script)
-  set(QT_DEPLOY_BIN_DIR .)
+  # Read when installing, like the script itself.
+  install(CODE "set(QT_DEPLOY_BIN_DIR .)")
   install(SCRIPT "${deploy_script}")
+  # Qt's step takes Qt only.
+  install(FILES $<TARGET_RUNTIME_DLLS:VORNApp> DESTINATION .)
 endif()
 
 # The installer, from the installed tree: ninja installer

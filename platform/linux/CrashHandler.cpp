@@ -3,6 +3,7 @@
 #include "platform/linux/AlternateStack.h"
 #include "platform/linux/CrashReport.h"
 #include "platform/linux/MemoryGuard.h"
+#include "platform/linux/ProgramSymbols.h"
 #include "platform/linux/SignalChain.h"
 
 #include <array>
@@ -30,16 +31,25 @@ constexpr std::array kFatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 constexpr int kPollMs = 5;
 constexpr int kLogPatienceMs = 1'000;
 constexpr int kOtherCrashPatienceMs = 5'000;
+constexpr int kOffsetIntervalSeconds = 600;
 
 std::array<struct sigaction, kFatalSignals.size()> g_previous;
 std::terminate_handler g_previousTerminate = nullptr;
 
 // Found out before anything crashes, since a handler may not.
 FixedText g_program;
-long g_utcOffset = 0;
+std::atomic<long> g_utcOffset{0};
 
 std::atomic<pid_t> g_reporter{0}; // the thread that crashed first
 std::atomic<bool> g_reported{false};
+
+void noteUtcOffset()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    if (::localtime_r(&now, &local))
+        g_utcOffset = local.tm_gmtoff;
+}
 
 /// Writes the log lines. The crashed thread may hold the logger's lock or the heap's, so it takes
 /// neither: a thread that has waited for this moment writes, and is not waited for long.
@@ -51,11 +61,24 @@ struct LogWriter {
 
     void run()
     {
-        while (::sem_wait(&wake) != 0) {
-        }
+        while (!isWoken())
+            noteUtcOffset(); // the program may run from winter into summer
         writeLine("Creating dump file...");
         writeLine(outcome.c_str());
         done = true;
+    }
+
+private:
+    bool isWoken()
+    {
+        timespec until = {};
+        ::clock_gettime(CLOCK_MONOTONIC, &until);
+        until.tv_sec += kOffsetIntervalSeconds;
+        int result = 0;
+        do
+            result = ::sem_clockwait(&wake, CLOCK_MONOTONIC, &until);
+        while (result != 0 && errno == EINTR);
+        return result == 0;
     }
 };
 LogWriter g_log;
@@ -156,14 +179,12 @@ FixedText describeException()
 void prepare(platform::CrashLine writeLine)
 {
     g_program << program_invocation_short_name;
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    if (::localtime_r(&now, &local))
-        g_utcOffset = local.tm_gmtoff;
+    noteUtcOffset();
 
     // The first backtrace loads the unwinder's library, which allocates.
     void* frame = nullptr;
     ::backtrace(&frame, 1);
+    platform::loadProgramSymbols();
 
     g_log.writeLine = writeLine;
     ::sem_init(&g_log.wake, 0, 0);

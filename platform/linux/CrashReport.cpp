@@ -1,9 +1,12 @@
 #include "platform/linux/CrashReport.h"
 
+#include "platform/linux/ProgramSymbols.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#include <span>
 
 #include <execinfo.h>
 #include <fcntl.h>
@@ -157,12 +160,33 @@ void writeRegisters(Output& output, const void* context)
 #endif
 }
 
-void writeStack(Output& output, int fd)
+void writeAddresses(Output& output, std::span<void* const> frames)
+{
+    output.write("addresses:");
+    for (void* const frame : frames) {
+        FixedText text;
+        text << " ";
+        text.hex(reinterpret_cast<std::uintptr_t>(frame));
+        output.write(text);
+    }
+    output.write("\n");
+}
+
+void writeStack(Output& output, int fd, std::span<void* const> frames)
 {
     output.write("stack:\n");
-    std::array<void*, kMaxFrames> frames{};
-    const int count = ::backtrace(frames.data(), kMaxFrames);
-    ::backtrace_symbols_fd(frames.data(), count, fd);
+    for (void* const frame : frames) {
+        const auto symbol = platform::programSymbol(frame);
+        if (!symbol) {
+            ::backtrace_symbols_fd(&frame, 1, fd);
+            continue;
+        }
+        FixedText line;
+        line << symbol->name << "+";
+        line.hex(symbol->offset) << " [";
+        line.hex(reinterpret_cast<std::uintptr_t>(frame)) << "]\n";
+        output.write(line);
+    }
 }
 
 void writeModules(Output& output)
@@ -252,8 +276,14 @@ int writeCrashReport(int fd, const Crash& crash)
     Output output(fd);
     writeHead(output, crash);
     writeRegisters(output, crash.context);
-    writeStack(output, fd);
+    std::array<void*, kMaxFrames> memory{};
+    const int count = ::backtrace(memory.data(), kMaxFrames);
+    const std::span<void* const> frames(memory.data(), static_cast<std::size_t>(count));
+    writeAddresses(output, frames);
     writeModules(output);
+    // Last, since naming the functions of libraries takes the loader's lock, which the crashed
+    // thread may hold.
+    writeStack(output, fd, frames);
     return output.error();
 }
 

@@ -8,8 +8,8 @@
 #include <csignal>
 #include <sys/types.h>
 
-/// The crash report's text and file, written with nothing but what a signal handler may use: no
-/// memory is allocated, no lock taken, and no function of the C library called that does either.
+/// The crash report's text and file, written with what a signal handler may use: no memory is
+/// allocated and no lock taken, but for the names of the libraries' functions, which come last.
 namespace platform
 {
 

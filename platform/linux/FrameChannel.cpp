@@ -3,6 +3,7 @@
 #include "platform/StreamCopy.h"
 #include "platform/linux/MemoryGuard.h"
 
+#include <atomic>
 #include <cerrno>
 #include <mutex>
 #include <utility>
@@ -166,13 +167,14 @@ private:
     }
 
     // An event knows only "set" and "not set", however often it was set. The count is asked once,
-    // so that a writer who posts without pause cannot hold the reader here.
+    // so that a writer who posts without pause cannot hold the reader here; it lies in memory that
+    // the writer can change, so that a huge one must not hold up an interruption either.
     void takePendingPosts()
     {
         const bool intact = platform::guarded([this] {
             int pending = 0;
             ::sem_getvalue(m_event, &pending);
-            while (pending-- > 0 && ::sem_trywait(m_event) == 0) {
+            while (pending-- > 0 && !m_interrupted && ::sem_trywait(m_event) == 0) {
             }
         });
         Q_UNUSED(intact) // the copy that follows tells
@@ -232,8 +234,8 @@ private:
     // m_event is changed by the reading thread under the mutex, hence read by it without.
     std::mutex m_mutex;
     sem_t* m_event = nullptr;
-    bool m_interrupted = false;
-    int m_ownPosts = 0; // made by interrupt() and perhaps still pending
+    std::atomic_bool m_interrupted = false; // written under the mutex
+    int m_ownPosts = 0;                     // made by interrupt() and perhaps still pending
 };
 
 } // namespace

@@ -3,7 +3,6 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QSharedMemory>
 
 #include <cerrno>
 
@@ -64,16 +63,6 @@ InstanceLock::~InstanceLock()
 bool InstanceLock::isHeld() const
 {
     return d->held;
-}
-
-bool clearStaleSegment(const QString& key)
-{
-    // The last one to detach removes the segment; if it is still there, somebody else is attached.
-    QSharedMemory segment(key);
-    if (!segment.attach(QSharedMemory::ReadOnly))
-        return false;
-    segment.detach();
-    return !segment.attach(QSharedMemory::ReadOnly);
 }
 
 int handOverPatienceMs()

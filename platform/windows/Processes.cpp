@@ -14,7 +14,7 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
     QProcess process;
     if (!runCommand(process, u"taskkill"_s, {u"/IM"_s, name, u"/F"_s}, patience))
         return {false, -1, process.errorString()};
-    return {true, process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError())};
+    return {true, process.exitCode(), toolOutput(process.readAllStandardError())};
 }
 
 RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds patience)

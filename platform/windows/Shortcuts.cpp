@@ -25,8 +25,8 @@ ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds pat
         return result;
     }
     result.exitCode = process.exitCode();
-    result.errorOutput = QString::fromLocal8Bit(process.readAllStandardError());
-    result.output = QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
+    result.errorOutput = toolOutput(process.readAllStandardError());
+    result.output = toolOutput(process.readAllStandardOutput()).trimmed();
     return result;
 }
 

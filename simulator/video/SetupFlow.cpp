@@ -105,7 +105,8 @@ QString SetupFlow::take(const PointerEvent& event)
     if (isDown)
         return {};
     QString released = buttonAt(event.position);
-    if (released.isEmpty() || std::exchange(m_armed, {}) != released)
+    const QString armed = std::exchange(m_armed, {});
+    if (released.isEmpty() || armed != released)
         return {};
     activate(released);
     return released;

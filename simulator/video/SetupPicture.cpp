@@ -75,7 +75,7 @@ const QByteArray& SetupPicture::draw(const SetupFlow& flow, const std::optional<
 {
     if (m_drawnRevision != flow.revision()) {
         drawScreen(flow);
-        drawCamera(camera);
+        drawCamera(flow, camera);
         drawMovingParts(frameNumber);
         convertToNv12(m_canvas, m_canvas.rect(), m_nv12);
         m_drawnRevision = flow.revision();
@@ -83,7 +83,7 @@ const QByteArray& SetupPicture::draw(const SetupFlow& flow, const std::optional<
     }
     drawMovingParts(frameNumber);
     if (camera != m_drawnCamera) {
-        drawCamera(camera);
+        drawCamera(flow, camera);
         convertToNv12(m_canvas, movingPlace(CameraArea), m_nv12);
     }
     for (const QRectF& area : {ClockArea, CounterArea, TrackArea})
@@ -183,21 +183,27 @@ void SetupPicture::drawMark(QPainter& painter, const SetupFlow& flow) const
     painter.drawEllipse(centre, letters(0.016), letters(0.016));
 }
 
-/// A wall with a window, a table and three people, a room three times as wide as the picture.
-void SetupPicture::drawCamera(const std::optional<CameraView>& camera)
+void SetupPicture::drawCamera(const SetupFlow& flow, const std::optional<CameraView>& camera)
 {
     m_drawnCamera = camera;
     const QRect area = movingPlace(CameraArea);
     QPainter painter(&m_canvas);
-    painter.fillRect(area, QColor(Background));
-    if (!camera)
-        return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(area);
+    painter.fillRect(area, QColor(Background));
+    if (camera)
+        drawRoom(painter, *camera, area);
+    drawMark(painter, flow);
+}
+
+/// A wall with a window, a table and three people, a room three times as wide as the picture.
+void SetupPicture::drawRoom(QPainter& painter, const CameraView& camera, const QRect& area)
+{
+    painter.save();
     const double unit = area.height();
     painter.translate(area.center());
-    painter.scale(camera->zoom * unit, camera->zoom * unit);
-    painter.translate(-camera->pan / 45, camera->tilt / 45);
+    painter.scale(camera.zoom * unit, camera.zoom * unit);
+    painter.translate(-camera.pan / 45, camera.tilt / 45);
     painter.setPen(Qt::NoPen);
     painter.fillRect(QRectF(-3, -2, 6, 4), QColor(0xFF3A4A54));
     painter.fillRect(QRectF(-1.4, -0.4, 0.7, 0.45), QColor(0xFF9FC6DE));
@@ -208,6 +214,7 @@ void SetupPicture::drawCamera(const std::optional<CameraView>& camera)
         painter.drawEllipse(QPointF(x, -0.02), 0.085, 0.1);
     }
     painter.fillRect(QRectF(-0.8, 0.3, 1.7, 1), QColor(0xFF7A5A3C));
+    painter.restore();
 }
 
 void SetupPicture::drawMovingParts(quint32 frameNumber)

@@ -39,7 +39,8 @@ private:
     void drawButtons(QPainter& painter, const SetupFlow& flow) const;
     void drawPatches(QPainter& painter) const;
     void drawMark(QPainter& painter, const SetupFlow& flow) const;
-    void drawCamera(const std::optional<CameraView>& camera);
+    void drawCamera(const SetupFlow& flow, const std::optional<CameraView>& camera);
+    static void drawRoom(QPainter& painter, const CameraView& camera, const QRect& area);
     void drawMovingParts(quint32 frameNumber);
     QRectF place(const QRectF& fractions) const;
     QRect movingPlace(const QRectF& fractions) const;

@@ -96,9 +96,14 @@ QString VideoFeature::makeObjects()
     m_writer.reset();
     m_objects.reset(); // before its names are given to others
     m_objects = makeFrameObjects(m_names.mapping, m_names.event, frame::MappingSize, error);
-    if (m_objects)
-        m_writer.emplace(*m_objects);
-    return error;
+    if (!m_objects) {
+        m_timer.stop();
+        if (m_state != State::Stopped)
+            setState(State::Dead); // from which the return can be tried again
+        return error;
+    }
+    m_writer.emplace(*m_objects);
+    return {};
 }
 
 QString VideoFeature::listenToThePointer()
@@ -174,6 +179,7 @@ QString VideoFeature::cutShort()
         return u"the video does not run"_s;
     if (!m_objects->cutShort(CutSize))
         return u"this system cannot cut a shared memory short"_s;
+    m_timer.start(); // it goes on announcing
     setState(State::CutShort);
     return {};
 }

@@ -35,6 +35,12 @@ public:
         m_environment.insert(QStringLiteral("VORN_PORTALHUB_SOCKET"), socketPath());
     }
 
+    /// For the runs that follow.
+    void set(const QString& variable, const QString& value)
+    {
+        m_environment.insert(variable, value);
+    }
+
     QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
     QString path() const { return m_folder.path(); }
 

@@ -50,6 +50,7 @@ void tst_StartAndQuit::oneOfTwoStartsSurvives()
         QByteArray log;
         QTRY_VERIFY_WITH_TIMEOUT(
             (log += survivor.readAll()).contains("onNewConnection]VORNApp reopen!"), Patience);
+        QVERIFY2(!log.contains("sharedMemory attach"), "it took leftovers for an instance");
         survivor.kill();
         QVERIFY(survivor.waitForFinished(Patience));
     }

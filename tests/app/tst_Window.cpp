@@ -38,6 +38,7 @@ private slots:
     void hidesToTheTrayAndComesBackByDoubleClick();
     void closingByTheSystemHidesToo();
     void secondStartBringsItForward();
+    void dragMovesIt_data();
     void dragMovesIt();
 
 private:
@@ -57,6 +58,8 @@ private:
 void tst_Window::init()
 {
     m_home.emplace();
+    if (QTest::currentDataTag()) // the screen's scale
+        m_home->set(u"QT_SCALE_FACTOR"_s, QString::fromLatin1(QTest::currentDataTag()));
     m_display.emplace(*m_home);
     m_log.clear();
     m_program = m_home->start(u"xcb"_s);
@@ -173,14 +176,24 @@ void tst_Window::secondStartBringsItForward()
                              Patience);
 }
 
+void tst_Window::dragMovesIt_data()
+{
+    QTest::addColumn<double>("scale");
+    for (const double scale : {1.0, 1.25, 1.5, 2.0})
+        QTest::newRow(qPrintable(QString::number(scale))) << scale;
+}
+
 void tst_Window::dragMovesIt()
 {
-    xdotool({u"windowmove"_s, u"--sync"_s, m_window, u"100"_s, u"100"_s});
-    xdotool({u"mousemove"_s, u"--sync"_s, u"--window"_s, m_window, u"500"_s, u"20"_s,
-             u"mousedown"_s, u"1"_s, u"mousemove_relative"_s, u"--sync"_s, u"40"_s, u"30"_s,
-             u"mousemove_relative"_s, u"--sync"_s, u"40"_s, u"30"_s, u"mouseup"_s, u"1"_s});
+    QFETCH(double, scale);
+    // Whole pixels of the program's at each of the scales.
+    xdotool({u"windowmove"_s, u"--sync"_s, m_window, u"120"_s, u"120"_s});
+    xdotool({u"mousemove"_s, u"--sync"_s, u"--window"_s, m_window, QString::number(500 * scale),
+             QString::number(20 * scale), u"mousedown"_s, u"1"_s, u"mousemove_relative"_s,
+             u"--sync"_s, u"60"_s, u"30"_s, u"mousemove_relative"_s, u"--sync"_s, u"60"_s, u"30"_s,
+             u"mouseup"_s, u"1"_s});
     QTRY_VERIFY_WITH_TIMEOUT(
-        xdotool({u"getwindowgeometry"_s, m_window}).contains(u"Position: 180,160"_s), Patience);
+        xdotool({u"getwindowgeometry"_s, m_window}).contains(u"Position: 240,180"_s), Patience);
 }
 
 QTEST_GUILESS_MAIN(tst_Window)

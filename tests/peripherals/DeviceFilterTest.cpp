@@ -62,6 +62,8 @@ void DeviceFilterTest::fitsIdsAndNames_data()
     QTest::newRow("unbalanced parenthesis as text") << u"camera (fr"_s << Webcam << true;
     QTest::newRow("unbalanced parenthesis elsewhere") << u"camera (fr"_s << Headset << false;
     QTest::newRow("two halves that a group would repair") << u"a)|(b"_s << Webcam << false;
+    QTest::newRow("quantifier of nothing") << u"*"_s << Webcam << false;
+    QTest::newRow("wildcard as text") << u"?hd"_s << Webcam << false;
     QTest::newRow("brackets as text") << u"audio [hdmi 1]"_s << Hdmi << true;
     QTest::newRow("braces as text") << u"MMDEVAPI\\{0.0.1"_s << Endpoint << true;
     QTest::newRow("alternatives") << u"nothing|HDAUDIO"_s << Hdmi << true;

@@ -11,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSharedMemory>
 
 #include <cstdio>
 #include <cstdlib>
@@ -119,10 +118,6 @@ int run(const QStringList& arguments)
         return writeValues(first, arguments.value(3), arguments.value(4).toInt());
     if (mode == "kill-own-name"_L1)
         return killOwnName();
-    if (mode == "segment"_L1) {
-        QSharedMemory segment(first);
-        return segment.create(1) ? waitForEnd() : 1;
-    }
     if (mode == "lock"_L1) {
         const platform::InstanceLock lock(first);
         return lock.isHeld() ? waitForEnd() : 1;

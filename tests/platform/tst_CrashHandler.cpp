@@ -98,9 +98,12 @@ void tst_CrashHandler::reports()
     QCOMPARE(report.contains("\nregisters:\n"), hasRegisters);
     const qsizetype stack = report.indexOf("\nstack:\n");
     const qsizetype modules = report.indexOf("\nmodules:\n");
-    QVERIFY(stack > 0 && modules > stack);
-    QVERIFY(report.first(modules).indexOf("platform_helper(", stack) > 0);
+    QVERIFY(modules > 0 && stack > modules);
     QVERIFY(report.indexOf("platform_helper\n", modules) > 0);
+    // A function of the program's own, which exports none.
+    static const QRegularExpression function(u"\n(_Z\\w+|main)\\+0x[0-9a-f]+ \\[0x"_s);
+    const QString names = QString::fromUtf8(report.sliced(stack));
+    QVERIFY2(names.contains(function), qPrintable(names));
 
     // The log lines in their order, then the handler that was there before.
     const QString lines = u"Creating dump file...\nDump file created successfully at:./"_s +

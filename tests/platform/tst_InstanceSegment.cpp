@@ -1,7 +1,6 @@
 #include "platform/InstanceSegment.h"
 #include "tests/platform/HelperProcess.h"
 
-#include <QSharedMemory>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,8 +12,6 @@ class tst_InstanceSegment : public QObject
 
 private slots:
     void initTestCase();
-    void keepsTheSegmentOfALiveProcess();
-    void clearsWhatACrashLeft();
     void locksAmongProcesses();
 
 private:
@@ -24,35 +21,6 @@ private:
 void tst_InstanceSegment::initTestCase()
 {
     qputenv("TMPDIR", m_folder.path().toUtf8());
-}
-
-void tst_InstanceSegment::keepsTheSegmentOfALiveProcess()
-{
-    const QString key = uniqueName(u"vorn_test_segment_"_s);
-    QVERIFY(!platform::clearStaleSegment(key)); // there is none
-
-    HelperProcess holder;
-    QVERIFY(holder.startAndWait(HelperProcess::path(u"platform_helper"_s), {u"segment"_s, key}));
-    QVERIFY(!platform::clearStaleSegment(key));
-    QVERIFY(QSharedMemory(key).attach());
-
-    holder.closeWriteChannel();
-    QVERIFY(holder.waitForFinished());
-    QVERIFY(!platform::clearStaleSegment(key)); // its holder has removed it
-}
-
-void tst_InstanceSegment::clearsWhatACrashLeft()
-{
-    const QString key = uniqueName(u"vorn_test_segment_"_s);
-    HelperProcess holder;
-    QVERIFY(holder.startAndWait(HelperProcess::path(u"platform_helper"_s), {u"segment"_s, key}));
-    QVERIFY(holder.crash());
-
-    // Windows has removed it with its last process.
-    QCOMPARE(platform::clearStaleSegment(key), !kIsWindows);
-    QVERIFY(!platform::clearStaleSegment(key));
-    QSharedMemory own(key);
-    QVERIFY(own.create(1));
 }
 
 void tst_InstanceSegment::locksAmongProcesses()

@@ -34,9 +34,11 @@ fetch() {
     printf '%s is left out: the package source does not give it\n' "$1"
     return 1
   }
-  mkdir "$windows_root$work/$1.new"
-  tar -xf "$windows_root$work"/sources/"$1"_*.orig.tar.* -C "$windows_root$work/$1.new" --strip-components=1
-  mv "$windows_root$work/$1.new" "$windows_root$work/$1"
+  # Callers ask for the outcome, so that a failure inside does not end the script by itself.
+  { rm -rf "$windows_root$work/$1.new" && mkdir "$windows_root$work/$1.new" &&
+    tar -xf "$windows_root$work"/sources/"$1"_*.orig.tar.* -C "$windows_root$work/$1.new" --strip-components=1 &&
+    mv "$windows_root$work/$1.new" "$windows_root$work/$1"; } ||
+    fail "unpacking $1" "look at the lines above; a full disk is the usual reason"
 }
 
 # done_once <name> <command...>: does it unless it has been done, and says how long it took.

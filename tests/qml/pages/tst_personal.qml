@@ -138,12 +138,37 @@ PageTest {
         compare(page.serverResponse, "");
     }
 
+    function test_anEmptyValueKeepsItsRow(): void {
+        deviceControl.company = "";
+        const caption = test.visibleText("Job Title");
+        const value = test.visibleText(deviceControl.title);
+        tryVerify(() => value.mapToItem(page, 0, 0).y === caption.mapToItem(page, 0, 0).y);
+    }
+
+    function test_aHiddenFieldTakesNoKeys(): void {
+        openEdit();
+        const field = visibleChild("titleField");
+        field.forceActiveFocus();
+        const before = field.text;
+        rig.takeRequests();
+        page.visible = false;
+        keyClick("x");
+        keyClick(Qt.Key_Return);
+        page.visible = true;
+        compare(field.text, before);
+        compare(rig.takeRequests().length, 0);
+    }
+
     function test_signOut(): void {
         openEdit();
+        choose(rig.makePicture("hers.png", 1000));
+        verify(page.chosenFile !== "");
         click("Sign Out");
         compare(page.currentPage, page.page_id_personal_info);
         compare(deviceControl.login, false);
         compare(deviceControl.email, "");
         compare(deviceControl.userImage, test.defaultPicture);
+        // The next user must not save her picture.
+        compare(page.chosenFile, "");
     }
 }

@@ -1,0 +1,36 @@
+# Chapter of the tour: states that take minutes to come, or that nothing opens, in windows of
+# vorn-item-tree.
+
+# A page in a window of its own, brought into a state by scripts that run in its scope.
+state() { # state <picture> <caption> <page> <size> <script>...
+  local picture=$1 caption=$2 page=$3 size=$4 scripts=()
+  shift 4
+  for script in "$@"; do scripts+=(--run "$script"); done
+  check "$caption" timeout 60 "$bin/vorn-item-tree" "$page" --size "$size" --quiet --settle 2500 \
+    --png "$out/$picture.png" "${scripts[@]}" 2>>"$out/states.log"
+  show "$picture" "$caption"
+}
+
+states_chapter() {
+  local connected='rig.report(0, `{"cmd":0,"type":2,"isReady":1}`)'
+  local at_once='staging.firstShowDelay = 0; staging.deviceShowInterval = 0'
+  local versions='rig.setInstalledVersion("version", "1.0.0.0"); rig.setInstalledVersion("newver", "1.1.0.0")'
+
+  chapter "States that take minutes, or that nothing opens"
+  state plug-in "Nothing is plugged in" Meetings 706x666
+  state speaker-up "Microphone and speaker are there" Meetings 706x666 \
+    "$at_once; rig.plug(true, true, false); $connected"
+  state time-out "The devices did not come up" Meetings 706x666 "staging.connectionTimeout = 0; $connected"
+  state setting-up "A set-up runs" Meetings 706x666 'currentPage = page_id_oobe_setuping'
+  state update-failed "An update that never completes" General 706x666 \
+    "$versions; progress.timeout = 0; startUpdating()"
+  state profile-incomplete "Nothing may be left empty" Personal 706x666 \
+    'currentPage = page_id_personal_edit' 'save()'
+  state picture-refused "A picture that is too large" Personal 706x666 \
+    'currentPage = page_id_personal_edit; picturePopup.open()' 'adoptPicture(rig.makePicture("large.png", 2097152))'
+  state firmware-warning "The display's firmware is too old" CheckRemoteVersion 680x342
+  state overview-waiting "The overview before the display has answered" MeetingControl 1092x835
+  state overview "The overview with BYOD selected" MeetingControl 1092x835 "$connected" \
+    'rig.report(1, `{"cmd":1,"seq":1,"type":1,"volume":40}`)' \
+    'rig.report(6, `{"cmd":6,"seq":1,"type":1,"byod_status":2,"zoom_status":1,"is_byodui_show":1}`)'
+}
