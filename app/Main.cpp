@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
+#include <QQuickWindow>
 #include <QtQml>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +52,14 @@ void logQmlWarnings(const QList<QQmlError>& warnings)
 {
     for (const QQmlError& warning : warnings)
         Log::warning("main") << warning.toString();
+}
+
+void showTrayIconAfterFirstFrame(const QQmlApplicationEngine& engine, WindowManager& windows)
+{
+    const auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, &windows, &WindowManager::showTrayIcon,
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 } // namespace
@@ -102,6 +111,7 @@ int main(int argc, char* argv[])
         engine.reset(); // before the objects that its context names
         return LoadFailure;
     }
+    showTrayIconAfterFirstFrame(*engine, program.windowManager());
     program.openChannel();
     const int exitCode = QApplication::exec();
 

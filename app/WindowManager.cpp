@@ -44,7 +44,6 @@ WindowManager::WindowManager(std::chrono::milliseconds peerWait)
         return;
     }
     connect(m_localServer, &QLocalServer::newConnection, this, &WindowManager::onNewConnection);
-    createTrayIcon();
 }
 
 WindowManager::~WindowManager()
@@ -82,7 +81,14 @@ void WindowManager::createTrayIcon()
     m_trayIcon->setContextMenu(m_trayMenu.get());
     connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this, &WindowManager::onTrayIconActivated);
-    m_trayIcon->setVisible(true);
+}
+
+void WindowManager::showTrayIcon()
+{
+    if (!m_trayIcon && m_localServer->isListening())
+        createTrayIcon();
+    if (m_trayIcon)
+        m_trayIcon->setVisible(true);
 }
 
 void WindowManager::closeServer()
@@ -129,8 +135,7 @@ void WindowManager::onTrayIconActivated(QSystemTrayIcon::ActivationReason reason
 void WindowManager::hideToTray()
 {
     Log::info("WindowManager::hideToTray") << "hide to tray";
-    if (m_trayIcon)
-        m_trayIcon->setVisible(true);
+    showTrayIcon();
     emit requestShow(false);
 }
 

@@ -30,6 +30,9 @@ public:
     /// The program's own one, for code that cannot be given it.
     static WindowManager& instance();
 
+    /// Puts the icon into the tray; none without the server. Not part of the construction, since
+    /// the icon is a window of its own for which the main one would have to wait.
+    void showTrayIcon();
     Q_INVOKABLE void hideToTray();
     /// Where the pointer is on the screens, in device-independent pixels.
     Q_INVOKABLE QPoint cursorPosition() const;

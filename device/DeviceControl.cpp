@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr quint16 ReceivePort = 49175;
-constexpr auto ReceiveWait = std::chrono::seconds(1);
+constexpr auto ReceiveWait = std::chrono::hours(1); // a datagram or the end comes sooner
 
 DeviceControl* s_instance = nullptr;
 

@@ -52,22 +52,47 @@ VideoReceiver::VideoReceiver(FrameSink sink, Delivered delivered,
 
 VideoReceiver::~VideoReceiver() = default;
 
+void VideoReceiver::setPlaying(bool playing)
+{
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_playing = playing;
+    }
+    m_changed.notify_all();
+}
+
 void VideoReceiver::interrupt()
 {
     m_channel->interrupt();
+    // With the lock, so that the worker is either before its look at the request or in its wait.
+    const std::scoped_lock lock(m_mutex);
+    m_changed.notify_all();
+}
+
+bool VideoReceiver::isPlaying()
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_playing;
+}
+
+void VideoReceiver::waitUntilPlaying(const StopRequest& stop)
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [&] { return m_playing || stop.isMade(); });
 }
 
 void VideoReceiver::run(const StopRequest& stop)
 {
     Log::info(Function) << "thread start";
     while (!stop.isMade()) {
-        if (!m_playing)
+        if (!isPlaying()) {
             m_frames.rest();
-        const bool isReady = m_playing && (m_channel->isOpen() || connectChannel());
-        if (isReady)
+            waitUntilPlaying(stop);
+        } else if (m_channel->isOpen() || connectChannel()) {
             waitForFrame(stop);
-        else
+        } else {
             stop.waitFor(m_timing.pause);
+        }
     }
     m_channel->close();
     Log::info(Function) << "thread end";

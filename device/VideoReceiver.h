@@ -6,10 +6,11 @@
 
 #include <QVideoFrame>
 
-#include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <functional>
 #include <memory>
+#include <mutex>
 
 struct FrameHeader;
 
@@ -26,7 +27,7 @@ public:
     /// Called on the video worker after each delivered frame.
     using Delivered = std::function<void()>;
     struct Timing {
-        /// Pause while nothing is wanted, and between attempts to connect.
+        /// Pause between attempts to connect.
         std::chrono::milliseconds pause = std::chrono::seconds(1);
         std::chrono::milliseconds frameWait = std::chrono::seconds(1);
     };
@@ -39,11 +40,13 @@ public:
     /// The worker's body: connects, waits for frames and delivers them until asked to stop.
     void run(const StopRequest& stop);
     /// Whether frames are wanted. While they are not, nothing is opened or read. Any thread.
-    void setPlaying(bool playing) { m_playing = playing; }
-    /// Ends a wait for the next frame at once. Any thread.
+    void setPlaying(bool playing);
+    /// Ends a wait at once. Any thread; the worker's end has to be requested before.
     void interrupt();
 
 private:
+    bool isPlaying();
+    void waitUntilPlaying(const StopRequest& stop);
     bool connectChannel();
     void waitForFrame(const StopRequest& stop);
     void processFrame();
@@ -55,7 +58,9 @@ private:
     const Delivered m_delivered;
     const std::unique_ptr<platform::FrameChannel> m_channel;
     const Timing m_timing;
-    std::atomic_bool m_playing = false;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_playing = false; // under the mutex
     // Video worker only.
     FrameFactory m_frames;
     quint64 m_validFrames = 0;

@@ -13,6 +13,9 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+/// Changes that the stamp does not show are found this late.
+constexpr int RoundsPerScan = 10;
+
 using StatusSetter = void (LocalDeviceStatus::*)(int);
 
 StatusSetter statusSetter(const QString& kind)
@@ -35,8 +38,14 @@ std::vector<DeviceFilter> makeFilters(const QList<DeviceRule>& rules)
 
 } // namespace
 
-DeviceCheck::DeviceCheck(Scan scan, std::chrono::nanoseconds budget)
+DeviceCheck::DeviceCheck()
+    : DeviceCheck(platform::scanDevices, platform::deviceStamp)
+{
+}
+
+DeviceCheck::DeviceCheck(Scan scan, Stamp stamp, std::chrono::nanoseconds budget)
     : m_scan(std::move(scan))
+    , m_stamp(std::move(stamp))
     , m_budget(budget)
 {
 }
@@ -77,11 +86,13 @@ bool DeviceCheck::ReadJsonConfig(const QString& path)
 
 void DeviceCheck::checkDevices(LocalDeviceStatus& status)
 {
-    if (QList<platform::DeviceRecord> devices = scanDevices(); devices != m_devices) {
-        m_devices = std::move(devices);
-        for (auto& kind : m_kinds) {
-            kind.next = 0;
-            kind.found = false;
+    if (isScanDue()) {
+        if (QList<platform::DeviceRecord> devices = scanDevices(); devices != m_devices) {
+            m_devices = std::move(devices);
+            for (auto& kind : m_kinds) {
+                kind.next = 0;
+                kind.found = false;
+            }
         }
     }
 
@@ -93,15 +104,29 @@ void DeviceCheck::checkDevices(LocalDeviceStatus& status)
     }
 }
 
-QList<platform::DeviceRecord> DeviceCheck::scanDevices() const
+/// The stamp is taken before the scan, so that what changes in between is seen the next time.
+bool DeviceCheck::isScanDue()
+{
+    const std::optional<std::size_t> stamp = m_stamp ? m_stamp() : std::nullopt;
+    const bool isSame = stamp && stamp == m_lastStamp;
+    m_lastStamp = stamp;
+    if (isSame && ++m_roundsSinceScan < RoundsPerScan)
+        return false;
+    m_roundsSinceScan = 0;
+    return true;
+}
+
+QList<platform::DeviceRecord> DeviceCheck::scanDevices()
 {
     using platform::DeviceClass;
     QList<platform::DeviceRecord> devices;
     for (const auto deviceClass :
          {DeviceClass::Media, DeviceClass::Camera, DeviceClass::AudioEndpoint}) {
         quint32 errorCode = 0;
-        if (!m_scan(deviceClass, devices, errorCode))
+        if (!m_scan(deviceClass, devices, errorCode)) {
             Log::error("DeviceCheck::scanDevices") << "SetupDiGetClassDevs err:" << errorCode;
+            m_lastStamp.reset(); // to be tried again in the next round
+        }
     }
     return devices;
 }

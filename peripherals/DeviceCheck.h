@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// Finds the display's microphone, camera and speaker among this PC's devices, by the rules of the
@@ -19,16 +20,22 @@ public:
     using Scan =
         std::function<bool(platform::DeviceClass, QList<platform::DeviceRecord>&, quint32&)>;
 
+    using Stamp = std::function<std::optional<std::size_t>()>;
+
+    /// Checks the devices of this PC.
+    DeviceCheck();
     /// @param scan    lists the devices of one class
+    /// @param stamp   changes with the devices; without it every round lists them
     /// @param budget  how long one round may compare; what is left over waits for the next round.
     ///                Ordinary rules need a small part of the default.
-    explicit DeviceCheck(Scan scan = platform::scanDevices,
+    explicit DeviceCheck(Scan scan, Stamp stamp = {},
                          std::chrono::nanoseconds budget = std::chrono::milliseconds(50));
 
     /// Replaces the rules. A file that can be opened but not understood leaves no rules.
     bool ReadJsonConfig(const QString& path) override;
-    /// Sets the status of every kind that has rules. Devices are compared only when another list of
-    /// them is found than the round before.
+    /// Sets the status of every kind that has rules. Devices are listed when their stamp has
+    /// changed, and every tenth round in any case; they are compared only when the list is another
+    /// one.
     void checkDevices(LocalDeviceStatus& status) override;
 
     /// The largest rule file that is read, in bytes.
@@ -43,11 +50,15 @@ private:
         bool found = false;
     };
 
-    QList<platform::DeviceRecord> scanDevices() const;
+    bool isScanDue();
+    QList<platform::DeviceRecord> scanDevices();
     bool compare(Kind& kind, std::chrono::steady_clock::time_point deadline) const;
 
     Scan m_scan;
+    Stamp m_stamp;
     std::chrono::nanoseconds m_budget;
     std::vector<Kind> m_kinds;
     QList<platform::DeviceRecord> m_devices;
+    std::optional<std::size_t> m_lastStamp;
+    int m_roundsSinceScan = 0;
 };

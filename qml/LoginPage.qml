@@ -27,6 +27,10 @@ Item {
     readonly property var device: deviceControl // qmllint disable unqualified
     readonly property var service: network // qmllint disable unqualified
 
+    // Made when they are first wanted: the window comes up sooner with one form than with five.
+    readonly property CreateAccountForm createAccountForm: createAccountLoader.item as CreateAccountForm
+    readonly property ResetPasswordForm resetPasswordForm: resetPasswordLoader.item as ResetPasswordForm
+
     function signIn(): void {
         page.serverResponse = "";
         signInForm.submit();
@@ -34,12 +38,12 @@ Item {
 
     function createAccount(): void {
         page.serverResponse = "";
-        createAccountForm.submit();
+        page.createAccountForm.submit();
     }
 
     function resetPassword(): void {
         page.serverResponse = "";
-        resetPasswordForm.submit();
+        page.resetPasswordForm.submit();
     }
 
     onCurrentPageChanged: {
@@ -50,18 +54,22 @@ Item {
             signInForm.forceActiveFocus();
             break;
         case page.page_id_create_account:
-            createAccountForm.reset();
-            createAccountForm.focusFirstField();
+            createAccountLoader.active = true;
+            page.createAccountForm.reset();
+            page.createAccountForm.focusFirstField();
             break;
         case page.page_id_verify_account:
-            verifyForm.submitButton.forceActiveFocus();
+            verifyLoader.active = true;
+            (verifyLoader.item as LoginForm).submitButton.forceActiveFocus();
             break;
         case page.page_id_reset_password:
-            resetPasswordForm.reset();
-            resetPasswordForm.focusFirstField();
+            resetPasswordLoader.active = true;
+            page.resetPasswordForm.reset();
+            page.resetPasswordForm.focusFirstField();
             break;
         case page.page_id_reset_password_complete:
-            resetCompleteForm.submitButton.forceActiveFocus();
+            resetCompleteLoader.active = true;
+            (resetCompleteLoader.item as LoginForm).submitButton.forceActiveFocus();
             break;
         }
     }
@@ -94,6 +102,7 @@ Item {
     Image {
         x: 26
         y: 58
+        asynchronous: true // read while the window is made
         source: page.currentPage === page.page_id_create_account ? "qrc:/images/background_2_437x576.png"
                                                                  : "qrc:/images/background_1_437x576.png"
 
@@ -118,61 +127,76 @@ Item {
         onForgotPassword: page.currentPage = page.page_id_reset_password
     }
 
-    CreateAccountForm {
-        id: createAccountForm
+    // Qt 6.4 refuses to make a bound component later on, and the linter wants these to be bound.
+    // qmllint disable unqualified
+    Loader {
+        id: createAccountLoader
 
         x: 521
         height: parent.height
+        active: false
         visible: page.currentPage === page.page_id_create_account
-        notCompanyEmail: page.notCompanyEmail
-        serverResponse: page.serverResponse
-        serverResponseColor: page.serverResponseColor
-        onSubmitted: page.createAccount()
-        onAccepted: {
-            page.str_email = email;
-            page.service.registerUser(firstName, lastName, email, password);
+        sourceComponent: CreateAccountForm {
+            notCompanyEmail: page.notCompanyEmail
+            serverResponse: page.serverResponse
+            serverResponseColor: page.serverResponseColor
+            onSubmitted: page.createAccount()
+            onAccepted: {
+                page.str_email = email;
+                page.service.registerUser(firstName, lastName, email, password);
+            }
+            onLinkClicked: page.currentPage = page.page_id_sign_in
         }
-        onLinkClicked: page.currentPage = page.page_id_sign_in
     }
 
-    LoginForm {
-        id: verifyForm
+    Loader {
+        id: verifyLoader
 
         x: 521
         height: parent.height
+        active: false
         visible: page.currentPage === page.page_id_verify_account
-        title: qsTr("Verify Account")
-        subline: qsTr("We’ve sent a verification link to %1\nPlease check the email to verify your account.").arg(page.str_email)
-        submitText: qsTr("Sign In")
-        submitY: 280
-        onSubmitted: page.currentPage = page.page_id_sign_in
-    }
-
-    ResetPasswordForm {
-        id: resetPasswordForm
-
-        x: 521
-        height: parent.height
-        visible: page.currentPage === page.page_id_reset_password
-        serverResponse: page.serverResponse
-        serverResponseColor: page.serverResponseColor
-        onSubmitted: page.resetPassword()
-        onAccepted: {
-            page.str_email = email;
-            page.service.resetPassword(email);
+        sourceComponent: LoginForm {
+            title: qsTr("Verify Account")
+            subline: qsTr("We’ve sent a verification link to %1\nPlease check the email to verify your account.").arg(page.str_email)
+            submitText: qsTr("Sign In")
+            submitY: 280
+            onSubmitted: page.currentPage = page.page_id_sign_in
         }
     }
 
-    LoginForm {
-        id: resetCompleteForm
+    Loader {
+        id: resetPasswordLoader
 
         x: 521
         height: parent.height
-        visible: page.currentPage === page.page_id_reset_password_complete
-        title: qsTr("Password Reset")
-        subline: qsTr("We sent an email to %1\nPlease check the email to reset your password.").arg(page.str_email)
-        submitText: qsTr("Sign In")
-        submitY: 280
-        onSubmitted: page.currentPage = page.page_id_sign_in
+        active: false
+        visible: page.currentPage === page.page_id_reset_password
+        sourceComponent: ResetPasswordForm {
+            serverResponse: page.serverResponse
+            serverResponseColor: page.serverResponseColor
+            onSubmitted: page.resetPassword()
+            onAccepted: {
+                page.str_email = email;
+                page.service.resetPassword(email);
+            }
+        }
     }
+
+    Loader {
+        id: resetCompleteLoader
+
+        x: 521
+        height: parent.height
+        active: false
+        visible: page.currentPage === page.page_id_reset_password_complete
+        sourceComponent: LoginForm {
+            title: qsTr("Password Reset")
+            subline: qsTr("We sent an email to %1\nPlease check the email to reset your password.").arg(page.str_email)
+            submitText: qsTr("Sign In")
+            submitY: 280
+            onSubmitted: page.currentPage = page.page_id_sign_in
+        }
+    }
+    // qmllint enable unqualified
 }

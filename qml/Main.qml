@@ -87,16 +87,13 @@ Window {
             visible: !mainWindow.device.login
         }
 
-        // To a user who has to sign in first it comes after the window is there.
+        // To a user who has to sign in first it comes after the window is there. By its file's name, since
+        // a component would have all the pages behind it read with this file.
         Loader {
             anchors.fill: parent
             active: mainWindow.device.login || mainWindow.shown
-            sourceComponent: MainPage {
-                id: mainPage
-
-                visible: mainPage.device.login
-                onVisibleChanged: currentPage = page_id_meetings
-            }
+            visible: mainWindow.device.login
+            source: "MainPage.qml"
         }
 
         Row {

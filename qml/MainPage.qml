@@ -26,6 +26,8 @@ Item {
         navigation.currentIndex = -1;
     }
 
+    // Who signs in begins with the meetings.
+    onVisibleChanged: currentPage = page_id_meetings
     Component.onCompleted: page.service.requestUserProfile()
 
     Image {

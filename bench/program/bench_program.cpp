@@ -1,3 +1,5 @@
+#include "simulator/devices/DeviceTree.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -18,6 +20,7 @@
 #include <vector>
 
 using namespace Qt::StringLiterals;
+using simulator::DeviceTree;
 
 namespace
 {
@@ -25,6 +28,7 @@ namespace
 constexpr int StartRounds = 9;
 constexpr int SettleTime = 2000;
 constexpr int IdleTime = 20000;
+constexpr int StagingTime = 17000; // until the display's devices have all been shown
 constexpr int Patience = 60000;
 
 void waitFor(int milliseconds)
@@ -75,6 +79,7 @@ public:
                                      "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "TMPDIR"})
             environment.insert(QLatin1String(variable), home.path());
         environment.insert(u"VORN_PORTALHUB_SOCKET"_s, home.filePath(u"portalhub"_s));
+        environment.insert(u"VORN_SYSFS_ROOT"_s, home.filePath(u"sys"_s));
         environment.insert(u"QT_LOGGING_RULES"_s, u"qt.scenegraph.time.renderloop.debug=true"_s);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::MergedChannels);
@@ -137,6 +142,18 @@ double idleSeconds(const Run& run)
     return processorSeconds(run.pid()) - before;
 }
 
+/// Empty, or why they cannot be.
+QString plugAll(DeviceTree& tree, const QString& root)
+{
+    QString error = tree.open(root);
+    for (const auto device : {DeviceTree::Device::Microphone, DeviceTree::Device::Speaker,
+                              DeviceTree::Device::Camera}) {
+        if (error.isEmpty())
+            error = tree.plug(device);
+    }
+    return error;
+}
+
 /// The connected program asks for the firmware version and checks the devices all the while.
 void compareIdling(const QTemporaryDir& home)
 {
@@ -150,11 +167,14 @@ void compareIdling(const QTemporaryDir& home)
                 program->write("11 {\"cmd\":11,\"type\":1,\"ota_ver\":\"4.1.0\"}\n");
         });
     });
+    DeviceTree devices;
+    if (const QString error = plugAll(devices, home.filePath(u"sys"_s)); !error.isEmpty())
+        qFatal("The devices cannot be plugged in: %s", qPrintable(error));
     const Run bare(QStringLiteral(BARE_WINDOW), home);
     waitFor(SettleTime);
     const double baseline = idleSeconds(bare);
     const Run program(QStringLiteral(VORN_PROGRAM), home);
-    waitFor(SettleTime * 2);
+    waitFor(StagingTime);
     const double connected = idleSeconds(program);
     printRatio("processor time of idling, connected", connected * 1000, baseline * 1000,
                "ms in 20 s", 1.5);

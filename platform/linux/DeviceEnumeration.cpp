@@ -3,11 +3,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHashFunctions>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 
 #include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -44,12 +50,26 @@ bool belongsTo(const ClassFolder& folder, const QString& name)
     return folder.suffixes.isEmpty() ? last.isDigit() : folder.suffixes.contains(last);
 }
 
+/// Where a path leads to, free of links; empty when there is nothing. The kernel is asked once,
+/// while realpath() asks it for each part of the path.
+QString placeOf(const QString& path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+    if (fd < 0)
+        return {};
+    std::array<char, PATH_MAX> place;
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(fd);
+    const auto length = ::readlink(link.constData(), place.data(), place.size());
+    ::close(fd);
+    return length > 0 ? QFile::decodeName(QByteArray(place.data(), length)) : QString();
+}
+
 /// One tree of device attributes.
 class DeviceTree
 {
 public:
     explicit DeviceTree(const QString& root)
-        : m_root(QFileInfo(root).canonicalFilePath())
+        : m_root(placeOf(root))
     {
     }
 
@@ -58,11 +78,11 @@ public:
     [[nodiscard]] platform::DeviceRecord describe(const QString& entry) const
     {
         // From the entry towards the hardware: its own place, then where `device` leads.
-        QStringList places{QFileInfo(entry).canonicalFilePath()};
+        QStringList places{placeOf(entry)};
         if (const QString card = cardOf(entry); !card.isEmpty())
             places << card;
         for (int i = 0; i < places.size() && places.size() < kMaxLinks; ++i) {
-            const QString next = QFileInfo(places[i] + "/device"_L1).canonicalFilePath();
+            const QString next = placeOf(places[i] + "/device"_L1);
             if (!next.isEmpty() && !places.contains(next))
                 places << next;
         }
@@ -79,7 +99,7 @@ private:
         if (!name.startsWith("pcmC"_L1))
             return {};
         const QString number = name.sliced(4, qMax<qsizetype>(name.indexOf(u'D') - 4, 0));
-        return QFileInfo(info.path() + "/card"_L1 + number).canonicalFilePath();
+        return placeOf(info.path() + "/card"_L1 + number);
     }
 
     [[nodiscard]] QString findUsbDevice(const QStringList& places) const
@@ -133,6 +153,12 @@ private:
     QString m_root;
 };
 
+QString rootOfTree()
+{
+    const QString configured = qEnvironmentVariable("VORN_SYSFS_ROOT");
+    return configured.isEmpty() ? u"/sys"_s : configured;
+}
+
 // QDir cannot tell an empty folder from one that may not be read.
 int listFolder(const QString& path, QStringList& names)
 {
@@ -144,6 +170,33 @@ int listFolder(const QString& path, QStringList& names)
         names << QFile::decodeName(entry->d_name);
     ::closedir(folder);
     return 0;
+}
+
+std::size_t stampOf(const struct stat& status)
+{
+    return qHashMulti(0, status.st_dev, status.st_ino, status.st_mtim.tv_sec,
+                      status.st_mtim.tv_nsec, status.st_ctim.tv_sec, status.st_ctim.tv_nsec);
+}
+
+/// Of each entry's name and of the folder it leads to, in whatever order they are listed.
+std::size_t stampOfFolder(const QByteArray& path)
+{
+    DIR* const folder = ::opendir(path.constData());
+    if (!folder)
+        return 0;
+    std::size_t stamp = 0;
+    const int fd = ::dirfd(folder);
+    while (const dirent* entry = ::readdir(folder)) { // NOLINT(concurrency-mt-unsafe)
+        if (entry->d_name[0] == '.')
+            continue;
+        struct stat status = {};
+        std::size_t ofEntry = qHash(QByteArrayView(entry->d_name));
+        if (::fstatat(fd, entry->d_name, &status, 0) == 0)
+            ofEntry = qHashMulti(ofEntry, stampOf(status));
+        stamp += ofEntry;
+    }
+    ::closedir(folder);
+    return stamp;
 }
 
 // Shorter names first, so that card2 comes before card10.
@@ -161,8 +214,7 @@ namespace platform
 
 bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32& errorCode)
 {
-    const QString configured = qEnvironmentVariable("VORN_SYSFS_ROOT");
-    const DeviceTree tree(configured.isEmpty() ? u"/sys"_s : configured);
+    const DeviceTree tree(rootOfTree());
     errorCode = ENOENT;
     if (tree.root().isEmpty())
         return false;
@@ -182,6 +234,13 @@ bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32&
         records << tree.describe(path + u'/' + name);
     errorCode = 0;
     return true;
+}
+
+std::optional<std::size_t> deviceStamp()
+{
+    const QByteArray root = QFile::encodeName(rootOfTree());
+    return qHashMulti(0, stampOfFolder(root + "/class/sound"),
+                      stampOfFolder(root + "/class/video4linux"));
 }
 
 } // namespace platform

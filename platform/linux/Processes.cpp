@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -223,7 +224,14 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
 
 RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds)
 {
-    return {true, !processesNamed(ImageName(name)).empty()};
+    // The one that was found the last time is most often still there, and cheap to look at.
+    static std::atomic<pid_t> s_lastFound{0};
+    const ImageName image(name);
+    if (const pid_t last = s_lastFound; last != 0 && image.isNameOf(last))
+        return {true, true};
+    const std::vector<pid_t> found = processesNamed(image);
+    s_lastFound = found.empty() ? 0 : found.front();
+    return {true, !found.empty()};
 }
 
 } // namespace platform

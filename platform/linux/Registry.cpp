@@ -1,7 +1,16 @@
 #include "platform/Registry.h"
 
+#include <QFile>
+#include <QHash>
 #include <QSettings>
 #include <QStandardPaths>
+
+#include <array>
+#include <mutex>
+#include <optional>
+
+#include <sys/stat.h>
+#include <time.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +28,61 @@ QString iniKey(QString keyPath, const QString& name)
     return keyPath.replace(u'\\', u'/') + u'/' + name;
 }
 
+/// Tells one content of a file from another.
+struct FileState {
+    QString path;
+    std::array<qint64, 5> marks{};
+    bool operator==(const FileState&) const = default;
+};
+
+/// Empty when two writes so close together may have left the same marks.
+std::optional<FileState> settledState(const QString& path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return FileState{path, {}};
+    timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    constexpr time_t kSettlingSeconds = 2;
+    if (now.tv_sec - status.st_mtim.tv_sec < kSettlingSeconds)
+        return std::nullopt;
+    return FileState{path,
+                     {qint64(status.st_ino), qint64(status.st_size), status.st_mtim.tv_sec,
+                      status.st_mtim.tv_nsec, status.st_ctim.tv_nsec}};
+}
+
+/// The file's values as they were last read. Two of them are asked for every second, for which the
+/// file's state is enough to look at.
+class RegistryValues
+{
+public:
+    QVariant value(const QString& key)
+    {
+        const std::scoped_lock lock(m_mutex);
+        const QString path = registryFile();
+        const std::optional<FileState> state = settledState(path);
+        if (!state || state != m_state) {
+            read(path);
+            m_state = state;
+        }
+        return m_values.value(key);
+    }
+
+private:
+    void read(const QString& path)
+    {
+        m_values.clear();
+        const QSettings settings(path, QSettings::IniFormat);
+        const QStringList keys = settings.allKeys();
+        for (const QString& key : keys)
+            m_values.insert(key, settings.value(key));
+    }
+
+    std::mutex m_mutex;
+    QHash<QString, QVariant> m_values;
+    std::optional<FileState> m_state;
+};
+
 } // namespace
 
 namespace platform
@@ -26,8 +90,8 @@ namespace platform
 
 QVariant readRegistry(const QString& keyPath, const QString& name)
 {
-    // A fresh object looks whether the file has changed since any other one read it.
-    QVariant value = QSettings(registryFile(), QSettings::IniFormat).value(iniKey(keyPath, name));
+    static RegistryValues s_values;
+    QVariant value = s_values.value(iniKey(keyPath, name));
 
     // A file written by hand may hold an unquoted comma, as in an icon reference.
     if (value.typeId() == QMetaType::QStringList)

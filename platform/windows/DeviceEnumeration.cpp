@@ -97,4 +97,9 @@ bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32&
     return true;
 }
 
+std::optional<std::size_t> deviceStamp()
+{
+    return std::nullopt;
+}
+
 } // namespace platform

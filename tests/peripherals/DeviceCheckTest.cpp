@@ -92,6 +92,7 @@ private slots:
     void followsTheDisplaysDevices();
     void leavesKindsWithoutRulesAlone();
     void skipsAFailingClass();
+    void listsWhenTheStampChanges();
     void spreadsALongComparisonOverRounds();
     void keepsMemoryFlat();
 
@@ -294,11 +295,47 @@ void DeviceCheckTest::skipsAFailingClass()
     QVERIFY(log.take().isEmpty());
 }
 
+void DeviceCheckTest::listsWhenTheStampChanges()
+{
+    FakePc pc;
+    std::optional<std::size_t> stamp = 1;
+    DeviceCheck check(pc.scan(), [&] { return stamp; });
+    QVERIFY(check.ReadJsonConfig(writeConfig(oneRule("vorncam", "VORN"))));
+    Statuses statuses;
+    const auto status = [&] {
+        check.checkDevices(statuses);
+        return statuses.cam;
+    };
+    QCOMPARE(status(), 0);
+    pc.devices[DeviceClass::Camera] << DisplayCam;
+    QCOMPARE(status(), 0);
+    stamp = 2;
+    QCOMPARE(status(), 1);
+
+    // What the stamp does not show is found all the same, only later.
+    pc.devices[DeviceClass::Camera].clear();
+    QCOMPARE(status(), 1);
+    int rounds = 0;
+    while (status() == 1 && rounds < 100)
+        ++rounds;
+    QVERIFY(rounds < 100);
+
+    // A class that could not be listed is tried again at once.
+    pc.failing[DeviceClass::Camera] = 5;
+    pc.devices[DeviceClass::Camera] << DisplayCam;
+    stamp = 3;
+    LogCapture log;
+    QCOMPARE(status(), 0);
+    pc.failing.clear();
+    QCOMPARE(status(), 1);
+    QCOMPARE(log.take().size(), 1);
+}
+
 void DeviceCheckTest::spreadsALongComparisonOverRounds()
 {
     FakePc pc;
     pc.devices[DeviceClass::AudioEndpoint] << DisplayMic;
-    DeviceCheck check(pc.scan(), std::chrono::nanoseconds(-1));
+    DeviceCheck check(pc.scan(), {}, std::chrono::nanoseconds(-1));
     QVERIFY(check.ReadJsonConfig(writeConfig(oneRule("vornmic", "Microphone"))));
     Statuses statuses;
     // Without time left, each round compares one device with one filter; nothing is set before it

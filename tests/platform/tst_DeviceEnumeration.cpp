@@ -25,6 +25,7 @@ private slots:
     void appendsToTheList();
     void endsInCircles();
     void saysWhenItCannotList();
+    void stampsTheDevices();
 
 private:
     void write(const QString& path, const QByteArray& text) const;
@@ -177,6 +178,33 @@ void tst_DeviceEnumeration::saysWhenItCannotList()
     QVERIFY(!platform::scanDevices(DeviceClass::Camera, records, error));
     QCOMPARE(error, quint32(ENOENT));
     QVERIFY(records.isEmpty());
+}
+
+void tst_DeviceEnumeration::stampsTheDevices()
+{
+    QList<std::size_t> stamps;
+    const auto hasChanged = [&] {
+        const std::size_t stamp = platform::deviceStamp().value_or(0);
+        const bool isNew = !stamps.contains(stamp);
+        stamps << stamp;
+        return isNew;
+    };
+    QVERIFY(hasChanged());
+    write(u"devices/first/id"_s, "K4V\n");
+    link(u"class/sound/card1"_s, u"../../devices/first"_s);
+    QVERIFY(hasChanged());
+    QVERIFY(!hasChanged());
+    write(u"devices/first/serial"_s, "a1\n"); // an attribute that came late
+    QVERIFY(hasChanged());
+
+    // Another device under the name of the first.
+    write(u"devices/second/id"_s, "Dock\n");
+    QVERIFY(QFile::remove(m_root->filePath(u"class/sound/card1"_s)));
+    link(u"class/sound/card1"_s, u"../../devices/second"_s);
+    QVERIFY(hasChanged());
+    write(u"class/video4linux/video0/name"_s, "Camera\n");
+    QVERIFY(hasChanged());
+    QVERIFY(!hasChanged());
 }
 
 QTEST_GUILESS_MAIN(tst_DeviceEnumeration)
