@@ -122,6 +122,9 @@ first_run_chapter() {
   check "its picture moves" eventually window_moves "$monitor"
   shot monitor "The display's screen" "$monitor"
   check "its colours are right" patches_are_right "$out/monitor.png" "#000000" "#FFFFFF" "#FF0000" "#00FF00" "#0000FF"
+  xdotool windowsize --sync "$monitor" 1440 1000
+  shot monitor-bars "In a window of another shape" "$monitor"
+  xdotool windowsize --sync "$monitor" 1440 810
   for step in language network room-name finish done; do
     check "a press on the drawn button leads to \"$step\"" press_next "$monitor" "$step"
   done

@@ -16,14 +16,40 @@ states_chapter() {
   local at_once='staging.firstShowDelay = 0; staging.deviceShowInterval = 0'
   local versions='rig.setInstalledVersion("version", "1.0.0.0"); rig.setInstalledVersion("newver", "1.1.0.0")'
 
+  # The first item of that name below the page.
+  local find='(function find(item, name) { if (item.objectName === name) return item;
+    for (let i = 0; i < item.children.length; ++i) { const found = find(item.children[i], name); if (found) return found; }
+    return null; })'
+  local address="$find(page, 'email').text" password="$find(page, 'password').text"
+
+  chapter "Entries that are refused"
+  state sign-in-format "No address" LoginPage 968x666 "$address = 'ada'; $password = 'Engine1843'; signIn()"
+  state sign-in-empty "No password, and one revealed" LoginPage 968x666 \
+    "$address = 'ada@example.com'; $find(page, 'password').showPassword = true; signIn()"
+  state service-away "The service cannot be reached" LoginPage 968x666 \
+    "rig.stopService(); $address = 'ada@example.com'; $password = 'Engine1843'; signIn()"
+  state passwords-differ "Two passwords" LoginPage 968x666 'currentPage = page_id_create_account' \
+    "for (const [name, text] of [['firstName', 'Ada'], ['lastName', 'Byron'], ['email', 'ada@example.org'], ['password', 'Engine1843'], ['confirmPassword', 'Engine1844']]) $find(createAccountForm, name).text = text; createAccount()"
+  state reset-empty "No address to write to" LoginPage 968x666 'currentPage = page_id_reset_password' 'resetPassword()'
+  state profile-refused "A session that has ended" Personal 706x666 \
+    'rig.addAccount({ email: "ada@example.com", password: "Engine1843", firstName: "Ada", lastName: "Byron", company: "Analytical Engines", title: "Countess" })' \
+    'network.loginSuccess.connect(data => { deviceControl.loginSuccess(data); currentPage = page_id_personal_edit; rig.endSessions("ada@example.com"); save(); })' \
+    'network.login("ada@example.com", "Engine1843")'
+
   chapter "States that take minutes, or that nothing opens"
   state plug-in "Nothing is plugged in" Meetings 706x666
   state speaker-up "Microphone and speaker are there" Meetings 706x666 \
     "$at_once; rig.plug(true, true, false); $connected"
   state time-out "The devices did not come up" Meetings 706x666 "staging.connectionTimeout = 0; $connected"
+  state all-up "All three are there" Meetings 706x666 \
+    "$at_once; staging.completeInterval = 60000; rig.plug(true, true, true); $connected"
+  state launcher-one "One app in the launcher" Meetings 706x666 \
+    'deviceControl.supportLaunchZoom = false; deviceControl.supportLaunchGoogle = false; currentPage = page_id_launch_meeting'
   state setting-up "A set-up runs" Meetings 706x666 'currentPage = page_id_oobe_setuping'
   state update-failed "An update that never completes" General 706x666 \
     "$versions; progress.timeout = 0; startUpdating()"
+  state update-complete "The new version is there" General 706x666 \
+    "$versions; quitDelay = 60000; startUpdating()" 'rig.setInstalledVersion("version", "1.1.0.0")'
   state profile-incomplete "Nothing may be left empty" Personal 706x666 \
     'currentPage = page_id_personal_edit' 'save()'
   state picture-refused "A picture that is too large" Personal 706x666 \
@@ -33,4 +59,6 @@ states_chapter() {
   state overview "The overview with BYOD selected" MeetingControl 1092x835 "$connected" \
     'rig.report(1, `{"cmd":1,"seq":1,"type":1,"volume":40}`)' \
     'rig.report(6, `{"cmd":6,"seq":1,"type":1,"byod_status":2,"zoom_status":1,"is_byodui_show":1}`)'
+  state overview-share "The overview with the screen shared" MeetingControl 1092x835 "$connected" \
+    'rig.report(6, `{"cmd":6,"seq":1,"type":1,"byod_status":1,"zoom_status":2,"is_byodui_show":1}`)'
 }
