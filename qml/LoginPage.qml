@@ -102,7 +102,6 @@ Item {
     Image {
         x: 26
         y: 58
-        asynchronous: true // read while the window is made
         source: page.currentPage === page.page_id_create_account ? "qrc:/images/background_2_437x576.png"
                                                                  : "qrc:/images/background_1_437x576.png"
 

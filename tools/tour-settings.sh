@@ -76,10 +76,11 @@ upgrade_chapter() {
   check "it said good-bye" grep -q 'VORNApp quit!!!' "$out/program.log"
 
   chapter "The new version"
+  display account close
   mark "$out/display.jsonl"
   mark "$out/program.log"
   start_program
-  check "the user is signed in still" appears 'newFirstName:Ada' "$out/program.log"
+  check "the user is signed in still, though the service is away" appears 'newFirstName:Ada' "$out/program.log"
   check "the new version runs" appears 'version:1\.1\.0\.0' "$out/program.log"
   click 129 611
   click 774 198

@@ -42,7 +42,7 @@ states_chapter() {
     "$at_once; rig.plug(true, true, false); $connected"
   state time-out "The devices did not come up" Meetings 706x666 "staging.connectionTimeout = 0; $connected"
   state all-up "All three are there" Meetings 706x666 \
-    "$at_once; staging.completeInterval = 60000; rig.plug(true, true, true); $connected"
+    "$at_once; staging.tickInterval = 50; staging.completeInterval = 60000; rig.plug(true, true, true); $connected"
   state launcher-one "One app in the launcher" Meetings 706x666 \
     'deviceControl.supportLaunchZoom = false; deviceControl.supportLaunchGoogle = false; currentPage = page_id_launch_meeting'
   state setting-up "A set-up runs" Meetings 706x666 'currentPage = page_id_oobe_setuping'

@@ -29,10 +29,12 @@ in_root() {
     CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 "$@"
 }
 
-# Puts the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, into the root.
+# Puts the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, into the root. Where nothing is set,
+# an archive in a folder beside the checkout will do.
 need_windows_qt() {
   [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ] && return
   local from=${VORN_WINDOWS_QT:-}
+  [ -n "$from" ] || from=$(find "$root/.." -maxdepth 3 -name 'qt-*mingw-w64.tar.xz' -print -quit 2>/dev/null)
   [ -n "$from" ] || fail "there is no Windows Qt" \
     "set VORN_WINDOWS_QT to an archive or folder of one made for /opt/qtwin, or make one with tools/windows/make-qt.sh (hours)"
   [ -e "$from" ] || fail "there is no Windows Qt at $from" "set VORN_WINDOWS_QT to an archive or folder"

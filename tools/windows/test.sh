@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# ./tools/windows/test.sh [ctest options]   builds the Windows program and its tests, and runs them under Wine.
+# ./tools/windows/test.sh [--core] [ctest options]   builds the Windows program and its tests, and runs them under Wine.
 #
 # Everything happens in a Debian 13 root, which is made when it is missing (tools/windows/make-root.sh).
-# VORN_WINDOWS_QT names a ready Windows Qt, an archive or a folder; see docs/windows.md. With -N it
-# only builds. Needs root.
+# VORN_WINDOWS_QT names a ready Windows Qt, an archive or a folder; see docs/windows.md. With --core
+# only the tests of the rooms behind the window, with -N it only builds. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
@@ -15,6 +15,13 @@ case "${1:-}" in
   ;;
 esac
 [ "$(id -u)" -eq 0 ] || fail "the Debian root needs root" "run it again as root or with sudo"
+
+targets=()
+if [ "${1:-}" = --core ]; then
+  shift
+  targets=(core_tests)
+  set -- -L '^(logging|platform|launch|persistence|account|device|peripherals)$' "$@"
+fi
 
 began=$SECONDS
 "$root/tools/windows/make-root.sh" "$windows_root"
@@ -28,7 +35,7 @@ in_root "$windows_qt/bin/qt-cmake" -G Ninja -S /src -B /build/windows -DCMAKE_BU
   tail -30 "$windows_root/build/configure.log" >&2
   fail "configuring for Windows" "look at $windows_root/build/configure.log"
 }
-in_root ninja -C /build/windows || fail "building for Windows" "look at the compiler's first message above"
+in_root ninja -C /build/windows "${targets[@]}" || fail "building for Windows" "look at the compiler's first message above"
 built=$SECONDS
 
 step "Testing under Wine"

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# ./tools/windows/bench.sh   measures a frame's way from another process to a sink under Wine.
+#
+# Run tools/windows/test.sh first, which makes the build. Needs root.
+set -euo pipefail
+source "$(dirname "$0")/../common.sh"
+source "$root/tools/windows/settings.sh"
+case "${1:-}" in
+-h | --help)
+  sed -n '2,4s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
+mount_root
+step "Building the benchmark"
+in_root cmake -B /build/windows -DVORN_BUILD_BENCH=ON >"$windows_root/build/configure.log" 2>&1 ||
+  fail "configuring for Windows" "look at $windows_root/build/configure.log"
+in_root ninja -C /build/windows bench_video || fail "building for Windows" "look at the compiler's first message above"
+step "Measuring under Wine"
+in_root /src/tools/windows/run-wine.sh /build/windows/bin/bench_video.exe
