@@ -13,7 +13,7 @@ case "${1:-}" in
 esac
 mount_root
 step "Building the benchmark"
-in_root cmake -B /build/windows -DVORN_BUILD_BENCH=ON >"$windows_root/build/configure.log" 2>&1 ||
+in_root "$windows_qt/bin/qt-cmake" -S /src -B /build/windows -DVORN_BUILD_BENCH=ON >"$windows_root/build/configure.log" 2>&1 ||
   fail "configuring for Windows" "look at $windows_root/build/configure.log"
 in_root ninja -C /build/windows bench_video || fail "building for Windows" "look at the compiler's first message above"
 step "Measuring under Wine"

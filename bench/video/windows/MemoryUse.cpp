@@ -4,10 +4,6 @@
 
 #include <psapi.h>
 
-#include <fstream>
-#include <sstream>
-#include <string>
-
 namespace
 {
 
@@ -18,28 +14,11 @@ PROCESS_MEMORY_COUNTERS counters()
     return found;
 }
 
-/// Wine leaves the count at zero. The system below it counts for each thread, and is reached by a
-/// path that Windows itself does not have.
-qint64 faultsBelowWine()
-{
-    std::ifstream file("Z:\\proc\\thread-self\\stat");
-    std::string line;
-    std::getline(file, line);
-    std::istringstream fields(line.substr(line.rfind(')') + 1)); // the name may hold blanks
-    std::string skipped;
-    for (int i = 0; i < 7; ++i) // state to flags
-        fields >> skipped;
-    qint64 faults = 0;
-    fields >> faults;
-    return faults;
-}
-
 } // namespace
 
 qint64 pageFaults()
 {
-    const qint64 faults = counters().PageFaultCount;
-    return faults > 0 ? faults : faultsBelowWine();
+    return counters().PageFaultCount;
 }
 
 qint64 residentBytes()
