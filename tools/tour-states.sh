@@ -20,14 +20,14 @@ states_chapter() {
   local find='(function find(item, name) { if (item.objectName === name) return item;
     for (let i = 0; i < item.children.length; ++i) { const found = find(item.children[i], name); if (found) return found; }
     return null; })'
-  local address="$find(page, 'email').text" password="$find(page, 'password').text"
+  local address_text="$find(page, 'email').text" password_text="$find(page, 'password').text"
 
   chapter "Entries that are refused"
-  state sign-in-format "No address" LoginPage 968x666 "$address = 'ada'; $password = 'Engine1843'; signIn()"
+  state sign-in-format "No address" LoginPage 968x666 "$address_text = 'ada'; $password_text = 'Engine1843'; signIn()"
   state sign-in-empty "No password, and one revealed" LoginPage 968x666 \
-    "$address = 'ada@example.com'; $find(page, 'password').showPassword = true; signIn()"
+    "$address_text = 'ada@example.com'; $find(page, 'password').showPassword = true; signIn()"
   state service-away "The service cannot be reached" LoginPage 968x666 \
-    "rig.stopService(); $address = 'ada@example.com'; $password = 'Engine1843'; signIn()"
+    "rig.stopService(); $address_text = 'ada@example.com'; $password_text = 'Engine1843'; signIn()"
   state passwords-differ "Two passwords" LoginPage 968x666 'currentPage = page_id_create_account' \
     "for (const [name, text] of [['firstName', 'Ada'], ['lastName', 'Byron'], ['email', 'ada@example.org'], ['password', 'Engine1843'], ['confirmPassword', 'Engine1844']]) $find(createAccountForm, name).text = text; createAccount()"
   state reset-empty "No address to write to" LoginPage 968x666 'currentPage = page_id_reset_password' 'resetPassword()'
