@@ -33,6 +33,12 @@ meeting_chapters() {
   xdotool windowkill "$found"
 }
 
+# The framing commands that have reached the display since the last mark.
+framing_commands() {
+  tail -n "+$((${marks[$out/display.jsonl]} + 1))" "$out/display.jsonl" |
+    sed -nE 's/.*"event":"message","id":(13|15),.*"type":2\}.*/\1/p' | xargs
+}
+
 camera_chapter() {
   chapter "The camera"
   display camera off
@@ -59,10 +65,16 @@ camera_chapter() {
   mark "$out/display.jsonl"
   display autoframing on
   sleep 0.5
+  check "its framing was shown and not sent back" test "$(framing_commands)" = ""
   shot auto-framing "The display frames by itself"
   click 715 230
   check "smart framing was asked for" appears '"cmd":15,' "$out/display.jsonl"
   shot smart-framing "Smart framing"
+  click 473 172
+  mark "$out/display.jsonl"
+  click 653 172
+  check "auto framing brings smart framing along" appears '"event":"message".*"cmd":15,' "$out/display.jsonl"
+  check "in this order" test "$(framing_commands)" = "13 15"
 }
 
 # Whether two pictures of a window differ.
