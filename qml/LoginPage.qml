@@ -102,12 +102,14 @@ Item {
     Image {
         x: 26
         y: 58
+        asynchronous: true // decoded while the window is made
         source: page.currentPage === page.page_id_create_account ? "qrc:/images/background_2_437x576.png"
                                                                  : "qrc:/images/background_1_437x576.png"
 
         Image {
             x: 20
             y: 20
+            asynchronous: true
             source: "qrc:/images/vorn_logo_84x26.png"
         }
     }

@@ -1,5 +1,4 @@
 import QtQuick
-import Qt5Compat.GraphicalEffects
 
 // Follows the cable to the display, from plugging it in to the launch of a meeting, and the display's
 // first set-up.
@@ -187,21 +186,18 @@ Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_connected
 
+            // A picture of the light, since an effect that blurs would compile its shaders at the start.
+            Image {
+                anchors.centerIn: readyLogo
+                source: "qrc:/images/glow_173x172.png"
+            }
+
             Image {
                 id: readyLogo
 
                 anchors.horizontalCenter: parent.horizontalCenter
                 y: 99
                 source: "qrc:/images/vorn_141x140.png"
-            }
-
-            Glow {
-                anchors.fill: readyLogo
-                source: readyLogo
-                radius: 16
-                samples: 32
-                color: "#804DAF4E"
-                transparentBorder: true
             }
 
             FaceLabel {

@@ -207,6 +207,7 @@ TextField {
         id: clipboard
 
         visible: false
+        font: field.font // another one would be loaded for nothing
     }
 
     // Takes the middle button, which would paste, from a password.

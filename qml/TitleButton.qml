@@ -16,6 +16,8 @@ ControlButton {
 
         Image {
             id: picture
+
+            asynchronous: true // the window is made meanwhile
         }
     }
 }

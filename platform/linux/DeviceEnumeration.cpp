@@ -172,29 +172,21 @@ int listFolder(const QString& path, QStringList& names)
     return 0;
 }
 
-std::size_t stampOf(const struct stat& status)
-{
-    return qHashMulti(0, status.st_dev, status.st_ino, status.st_mtim.tv_sec,
-                      status.st_mtim.tv_nsec, status.st_ctim.tv_sec, status.st_ctim.tv_nsec);
-}
-
-/// Of each entry's name and of the folder it leads to, in whatever order they are listed.
+/// Of the folder's own change and of its entries, in whatever order they are listed. A device that
+/// comes back is a new entry; where the entries are links they are not followed, which is what would
+/// cost most of a look that is taken every second.
 std::size_t stampOfFolder(const QByteArray& path)
 {
     DIR* const folder = ::opendir(path.constData());
     if (!folder)
         return 0;
     std::size_t stamp = 0;
-    const int fd = ::dirfd(folder);
-    while (const dirent* entry = ::readdir(folder)) { // NOLINT(concurrency-mt-unsafe)
-        if (entry->d_name[0] == '.')
-            continue;
-        struct stat status = {};
-        std::size_t ofEntry = qHash(QByteArrayView(entry->d_name));
-        if (::fstatat(fd, entry->d_name, &status, 0) == 0)
-            ofEntry = qHashMulti(ofEntry, stampOf(status));
-        stamp += ofEntry;
-    }
+    struct stat status = {};
+    if (::fstat(::dirfd(folder), &status) == 0)
+        stamp = qHashMulti(0, status.st_dev, status.st_ino, status.st_mtim.tv_sec,
+                           status.st_mtim.tv_nsec);
+    while (const dirent* entry = ::readdir(folder)) // NOLINT(concurrency-mt-unsafe)
+        stamp += qHashMulti(0, QByteArrayView(entry->d_name), entry->d_ino);
     ::closedir(folder);
     return stamp;
 }

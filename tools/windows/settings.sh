@@ -26,7 +26,7 @@ mount_root() {
 # Runs a command in the root.
 in_root() {
   chroot "$windows_root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/build LANG=C.UTF-8 \
-    CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 "$@"
+    CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 QT_HASH_SEED=0 "$@"
 }
 
 # Puts the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, into the root. Where nothing is set,
