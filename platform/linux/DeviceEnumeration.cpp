@@ -173,8 +173,8 @@ int listFolder(const QString& path, QStringList& names)
 }
 
 /// Of the folder's own change and of its entries, in whatever order they are listed. A device that
-/// comes back is a new entry; where the entries are links they are not followed, which is what would
-/// cost most of a look that is taken every second.
+/// comes back is a new entry; where the entries are links they are not followed, which is what
+/// would cost most of a look that is taken every second.
 std::size_t stampOfFolder(const QByteArray& path)
 {
     DIR* const folder = ::opendir(path.constData());
