@@ -4,24 +4,34 @@
 #include <cstring>
 
 #if defined(__x86_64__) || defined(_M_X64)
-#include <emmintrin.h>
+#define VORN_STREAMS
+#include <immintrin.h>
+#ifdef _MSC_VER
+#include <windows.h>
+#define VORN_WIDE_CODE
+// On Windows GCC puts registers of this width on the stack at addresses that they may not have; in
+// optimised code these stay in the processor.
+#elif !defined(__MINGW32__) || defined(__OPTIMIZE__)
+#define VORN_WIDE_CODE __attribute__((target("avx512f")))
+#endif
 #endif
 
 namespace
 {
 
-#if defined(__x86_64__) || defined(_M_X64)
+#ifdef VORN_STREAMS
 
 constexpr std::size_t LineSize = 64;
-constexpr std::size_t ReadAhead = 8 * LineSize;
+constexpr std::size_t ReadAhead = 16 * LineSize;
 /// What is smaller is better kept in the caches.
 constexpr std::size_t SmallestStreamed = 1 << 20;
 
-// Whole lines; the target is aligned to 16 bytes.
+// Both copy whole lines to a target that is aligned to one. A prefetch beyond the end of the source
+// is no access: it never faults.
+
 void streamLines(char* target, const char* source, std::size_t lines)
 {
     for (; lines > 0; --lines, target += LineSize, source += LineSize) {
-        // A prefetch beyond the end is no access: it never faults.
         _mm_prefetch(source + ReadAhead, _MM_HINT_NTA);
         const auto* const from = reinterpret_cast<const __m128i*>(source);
         auto* const to = reinterpret_cast<__m128i*>(target);
@@ -34,8 +44,53 @@ void streamLines(char* target, const char* source, std::size_t lines)
         _mm_stream_si128(to + 2, c);
         _mm_stream_si128(to + 3, d);
     }
+}
+
+#ifdef VORN_WIDE_CODE
+
+VORN_WIDE_CODE void streamLinesWide(char* target, const char* source, std::size_t lines)
+{
+    for (; lines > 0; --lines, target += LineSize, source += LineSize) {
+        _mm_prefetch(source + ReadAhead, _MM_HINT_NTA);
+        _mm512_stream_si512(reinterpret_cast<__m512i*>(target), _mm512_loadu_si512(source));
+    }
+}
+
+bool hasWideRegisters()
+{
+#ifdef _MSC_VER
+    return IsProcessorFeaturePresent(PF_AVX512F_INSTRUCTIONS_AVAILABLE);
+#else
+    return __builtin_cpu_supports("avx512f") != 0;
+#endif
+}
+
+#endif
+
+using StreamLines = void (*)(char* target, const char* source, std::size_t lines);
+
+/// A line written at once is what some processors need to leave their caches out of it.
+StreamLines bestOfProcessor()
+{
+#ifdef VORN_WIDE_CODE
+    if (hasWideRegisters())
+        return streamLinesWide;
+#endif
+    return streamLines;
+}
+
+void stream(char* target, const char* source, std::size_t length)
+{
+    static const StreamLines s_streamLines = bestOfProcessor();
+    const std::size_t head =
+        (LineSize - reinterpret_cast<std::uintptr_t>(target) % LineSize) % LineSize;
+    std::memcpy(target, source, head);
+    const std::size_t lines = (length - head) / LineSize;
+    s_streamLines(target + head, source + head, lines);
     // Streamed writes are seen by other threads in no order without this.
     _mm_sfence();
+    const std::size_t done = head + lines * LineSize;
+    std::memcpy(target + done, source + done, length - done);
 }
 
 #endif
@@ -44,18 +99,9 @@ void streamLines(char* target, const char* source, std::size_t lines)
 
 void platform::streamCopy(void* target, const void* source, std::size_t length)
 {
-#if defined(__x86_64__) || defined(_M_X64)
+#ifdef VORN_STREAMS
     if (length >= SmallestStreamed) {
-        auto* to = static_cast<char*>(target);
-        const auto* from = static_cast<const char*>(source);
-        constexpr std::size_t alignment = sizeof(__m128i);
-        const std::size_t head =
-            (alignment - reinterpret_cast<std::uintptr_t>(to) % alignment) % alignment;
-        std::memcpy(to, from, head);
-        const std::size_t lines = (length - head) / LineSize;
-        streamLines(to + head, from + head, lines);
-        const std::size_t done = head + lines * LineSize;
-        std::memcpy(to + done, from + done, length - done);
+        stream(static_cast<char*>(target), static_cast<const char*>(source), length);
         return;
     }
 #endif
