@@ -86,6 +86,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
     const QApplication app(argc, argv);
+    const platform::TerminationSignals signalsToQuit([] { QCoreApplication::quit(); });
     // Hiding to the tray closes the last window without ending the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     logProgram(appPath, fileName);
@@ -96,7 +97,6 @@ int main(int argc, char* argv[])
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());
-    const platform::TerminationSignals signalsToQuit([] { QCoreApplication::quit(); });
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, [&] {
         Log::info("main") << "VORNApp quit!!!";
         // The server first: closing it later would delete the socket file of the next instance.

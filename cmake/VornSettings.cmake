@@ -38,7 +38,8 @@ endif()
 
 # The whole program is instrumented, the channel library included.
 if(VORN_SANITIZE)
-  add_compile_options(-fsanitize=${VORN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined -O1)
+  add_compile_options(-fsanitize=${VORN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined -O1
+    -g1) # reports name functions and lines; whole debug information takes a quarter of the build
   add_link_options(-fsanitize=${VORN_SANITIZE})
 endif()
 
