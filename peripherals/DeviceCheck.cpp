@@ -14,7 +14,7 @@ namespace
 {
 
 /// Changes that the stamp does not show are found this late.
-constexpr int RoundsPerScan = 10;
+constexpr int RoundsPerScan = 20;
 
 using StatusSetter = void (LocalDeviceStatus::*)(int);
 

@@ -34,8 +34,8 @@ public:
     /// Replaces the rules. A file that can be opened but not understood leaves no rules.
     bool ReadJsonConfig(const QString& path) override;
     /// Sets the status of every kind that has rules. Devices are listed when their stamp has
-    /// changed, and every tenth round in any case; they are compared only when the list is another
-    /// one.
+    /// changed, and every twentieth round in any case; they are compared only when the list is
+    /// another one.
     void checkDevices(LocalDeviceStatus& status) override;
 
     /// The largest rule file that is read, in bytes.

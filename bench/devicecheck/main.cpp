@@ -64,7 +64,7 @@ double secondsOf(Body body)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// A round in ten lists the devices whatever their stamp says, which a median would leave out.
+/// A round in twenty lists the devices whatever their stamp says, which a median would leave out.
 double mean(const std::vector<double>& values)
 {
     return std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 kAttributeLimit = 4096;
+constexpr std::size_t kAttributeLimit = 4096;
 constexpr int kMaxLinks = 4; // card, interface, device; more is a tree that leads in circles
 
 struct ClassFolder {
@@ -138,16 +138,18 @@ private:
         return usbDevice.isEmpty() ? QString() : attribute(usbDevice, "product"_L1);
     }
 
-    // Empty when there is none: devices vanish while they are listed.
+    // Empty when there is none, as devices vanish while they are listed, and when it is a folder,
+    // as the `id` of a bus is. An attribute is read in one piece.
     [[nodiscard]] static QString attribute(const QString& folder, QLatin1StringView name)
     {
-        const QString path = folder + u'/' + name;
-        if (!QFileInfo(path).isFile()) // `id` of a bus is a folder
+        const QByteArray path = QFile::encodeName(folder + u'/' + name);
+        const int fd = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        if (fd < 0)
             return {};
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        return QString::fromUtf8(file.read(kAttributeLimit)).trimmed();
+        std::array<char, kAttributeLimit> text;
+        const auto length = ::read(fd, text.data(), text.size());
+        ::close(fd);
+        return length > 0 ? QString::fromUtf8(text.data(), length).trimmed() : QString();
     }
 
     QString m_root;
