@@ -1,3 +1,4 @@
+#include "app/ExitGuard.h"
 #include "app/LoadCustomFont.h"
 #include "app/LogInit.h"
 #include "app/Program.h"
@@ -113,6 +114,10 @@ int main(int argc, char* argv[])
     }
     showTrayIconAfterFirstFrame(*engine, program.windowManager());
     program.openChannel();
+    const ExitGuard exitGuard([&program] {
+        Log::error("main") << "ended from outside, without quitting";
+        program.endThreads();
+    });
     const int exitCode = QApplication::exec();
 
     program.closeChannel();

@@ -76,3 +76,9 @@ void Program::closeChannel()
 {
     m_channel.close();
 }
+
+void Program::endThreads()
+{
+    closeChannel();
+    m_deviceControl->endThreads();
+}

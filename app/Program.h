@@ -29,6 +29,9 @@ public:
     void openChannel();
     /// No message of the display is handled after this.
     void closeChannel();
+    /// Nothing of the program's runs beside the calling thread after this, which may be any. For an
+    /// end of the process without an end of this object.
+    void endThreads();
     WindowManager& windowManager() { return *m_windowManager; }
 
 private:

@@ -83,16 +83,24 @@ DeviceControl::~DeviceControl()
     if (s_instance == this)
         s_instance = nullptr;
     m_services.programs.killProcess(u"BridgeAgent.exe"_s);
+    m_applyTimer.stop();
+    endThreads();
+}
+
+void DeviceControl::endThreads()
+{
     m_udpWorker->requestStop();
     m_udpClient.stop();
     m_statusWorker->requestStop();
     m_videoWorker->requestStop();
     m_videoReceiver->interrupt();
-    m_applyTimer.stop();
     m_taskThread.requestInterruption();
     m_taskThread.quit();
     m_taskThread.wait();
     (void)m_taskThreadEnded.load(std::memory_order_acquire);
+    for (const auto& worker : {&m_udpWorker, &m_statusWorker, &m_videoWorker})
+        (*worker)->end();
+    m_upgrade.end();
 }
 
 void DeviceControl::readConfig()

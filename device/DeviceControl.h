@@ -103,6 +103,10 @@ public:
     DeviceControl(Services services, Timing timing);
     ~DeviceControl() override;
 
+    /// Ends all threads of this object, which does nothing by itself after that. Any thread but
+    /// those.
+    void endThreads();
+
     /// The program's object, from the end of its construction to its destruction. Only the
     /// composition of the program uses this.
     static DeviceControl& instance();

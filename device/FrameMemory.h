@@ -11,8 +11,8 @@
 /// Memory for video frames that is used again and again: a fresh block of this size costs a page
 /// fault every 4096 bytes, which takes longer than filling it.
 ///
-/// The blocks are all of one size, that of the largest frame so far. They are handed out by one
-/// thread and may come back on any, also when this object is gone.
+/// The blocks are all of one size, that of the largest frame since the last clear(). They are
+/// handed out by one thread and may come back on any, also when this object is gone.
 class FrameMemory
 {
     struct Free {

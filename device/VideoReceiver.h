@@ -39,7 +39,8 @@ public:
 
     /// The worker's body: connects, waits for frames and delivers them until asked to stop.
     void run(const StopRequest& stop);
-    /// Whether frames are wanted. While they are not, nothing is opened or read. Any thread.
+    /// Whether frames are wanted. While they are not, nothing is opened or read; a wait under way
+    /// still ends with its frame or its line. Any thread.
     void setPlaying(bool playing);
     /// Ends a wait at once. Any thread; the worker's end has to be requested before.
     void interrupt();

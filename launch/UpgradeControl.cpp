@@ -31,12 +31,18 @@ UpgradeControl::UpgradeControl(ProgramControl& programs, QString executablePath,
 
 UpgradeControl::~UpgradeControl()
 {
+    end();
+}
+
+void UpgradeControl::end()
+{
     {
         const std::scoped_lock lock(m_stepsMutex);
         m_stopping = true;
     }
     m_stepPosted.notify_all();
-    m_worker.reset();
+    if (m_worker)
+        m_worker->end();
 }
 
 void UpgradeControl::start()
@@ -66,7 +72,7 @@ void UpgradeControl::post(Step step)
         const std::scoped_lock lock(m_stepsMutex);
         m_steps.push_back(step);
         // Most runs of the program never upgrade, so the thread starts with the first step.
-        if (!m_worker)
+        if (!m_worker && !m_stopping)
             m_worker =
                 std::make_unique<Worker>("upgrade", [this](const StopRequest& stop) { run(stop); });
     }

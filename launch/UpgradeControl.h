@@ -33,9 +33,11 @@ public:
     /// @param pauseAfterKill  time the killed updater is given before it is started again
     UpgradeControl(ProgramControl& programs, QString executablePath,
                    std::chrono::milliseconds pauseAfterKill = std::chrono::seconds(3));
-    /// Ends a step under way without waiting for its pause.
     ~UpgradeControl();
 
+    /// Ends a step under way without waiting for its pause. No step is done after this. Any thread
+    /// but the step's own.
+    void end();
     void start();
     void timeOut();
     /// One pass of the once-a-second loop: looks after the updater on the first pass and every

@@ -49,6 +49,12 @@ Worker::Worker(const char* name, Body body)
 
 Worker::~Worker()
 {
+    end();
+}
+
+void Worker::end()
+{
     requestStop();
-    m_thread.join();
+    if (m_thread.joinable())
+        m_thread.join();
 }

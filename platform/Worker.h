@@ -41,6 +41,8 @@ public:
 
     /// Asks the body to leave its loop, without waiting for it.
     void requestStop() { m_stop.make(); }
+    /// Asks it and waits for the thread's end. From one thread at a time, not the worker's own.
+    void end();
 
 private:
     StopRequest m_stop;

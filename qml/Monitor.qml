@@ -110,6 +110,7 @@ Window {
         visible: monitor.currentPage === monitor.page_id_waiting
         text: qsTr("Connecting, please wait.")
         font.pixelSize: 32
+        Accessible.role: Accessible.AlertMessage
     }
 
     MonitorFace {

@@ -18,5 +18,6 @@ Item {
 
         anchors.centerIn: parent
         font.pixelSize: 32
+        Accessible.role: Accessible.AlertMessage
     }
 }

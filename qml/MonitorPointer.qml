@@ -55,6 +55,8 @@ MouseArea {
     }
 
     acceptedButtons: Qt.LeftButton
+    Accessible.role: Accessible.Graphic
+    Accessible.name: qsTr("The display's screen")
     onPressed: mouse => {
         pointer.holding = true;
         pointer.lastPlace = null;

@@ -22,15 +22,21 @@ foreach(entry IN LISTS entries)
     string(APPEND removal "Delete \"$INSTDIR\\${path}\"\n")
   endif()
 endforeach()
-file(WRITE "${BUILD}/removal.nsh" "${removal}")
+set(list "${BUILD}/removal.nsh")
+file(WRITE "${list}" "${removal}")
 
 # A 64-bit installer where NSIS can make one; Windows' own NSIS makes only the other.
 set(target "")
 if(CMAKE_HOST_UNIX)
   set(target "-XTarget amd64-unicode")
 endif()
+# Windows' own NSIS takes the folder of a file only from before a backslash.
+cmake_path(SET icon NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico")
+cmake_path(NATIVE_PATH icon icon)
+cmake_path(NATIVE_PATH STAGE stage)
+cmake_path(NATIVE_PATH list list)
+cmake_path(NATIVE_PATH OUTPUT output)
 execute_process(
-  COMMAND "${MAKENSIS}" -V2 ${target} "-DVERSION=${VERSION}" "-DSTAGE=${STAGE}" "-DREMOVAL=${BUILD}/removal.nsh"
-    "-DICON=${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico" "-DOUTPUT=${OUTPUT}"
-    "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
+  COMMAND "${MAKENSIS}" -V2 ${target} "-DVERSION=${VERSION}" "-DSTAGE=${stage}" "-DREMOVAL=${list}"
+    "-DICON=${icon}" "-DOUTPUT=${output}" "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
   COMMAND_ERROR_IS_FATAL ANY)

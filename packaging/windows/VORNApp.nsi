@@ -45,12 +45,16 @@ VIAddVersionKey "LegalCopyright" "VORN"
 
 Section "VORNApp"
   !insertmacro REFUSE_WHILE_RUNNING
+  ; What an earlier version installed goes first, or files that are no more would stay for ever.
+  ${If} ${FileExists} "$INSTDIR\Uninstall.exe"
+    ExecWait '"$INSTDIR\Uninstall.exe" /S _?=$INSTDIR'
+  ${EndIf}
   SetOutPath "$INSTDIR"
   SetOverwrite on
-  File /r /x config.ini "${STAGE}/*.*"
+  File /r /x config.ini "${STAGE}\*.*"
   ; The user's switches outlive an update.
   SetOverwrite off
-  File "${STAGE}/config.ini"
+  File "${STAGE}\config.ini"
   SetOverwrite on
   WriteUninstaller "$INSTDIR\Uninstall.exe"
   CreateShortCut "$SMPROGRAMS\VORNApp.lnk" "$INSTDIR\VORNApp.exe"
@@ -73,6 +77,9 @@ Section "un.VORNApp"
   !insertmacro REFUSE_WHILE_RUNNING
   !include "${REMOVAL}"
   Delete "$SMPROGRAMS\VORNApp.lnk"
+  ; Compiled pages and shaders, which come again by themselves.
+  RMDir /r "$LOCALAPPDATA\VORNApp\cache"
+  RMDir "$LOCALAPPDATA\VORNApp"
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
   DeleteRegKey HKCU "${KEY}"
@@ -88,9 +95,9 @@ Section /o "un.My settings, account data and logs" PURGE
   RMDir "$INSTDIR"
   DeleteRegKey HKCU "${SETTINGS_KEY}"
   ReadEnvStr $0 ProgramData
-  Delete "$0\VORNApp\VORNApp.exe*.log"
+  Delete "$0\VORNApp\VORNApp*.log"
   RMDir "$0\VORNApp"
-  Delete "$0\vorn_temp\log\VORNApp.exe*.log"
+  Delete "$0\vorn_temp\log\VORNApp*.log"
   RMDir "$0\vorn_temp\log"
   RMDir "$0\vorn_temp"
 SectionEnd

@@ -101,8 +101,11 @@ void writeCause(Output& output, const platform::Crash& crash)
     }
     line << "signal: " << crash.signal << " (" << signalName(crash.signal) << ")";
     if (crash.info) {
-        line << ", code " << crash.info->si_code << ", address ";
-        line.hex(reinterpret_cast<std::uintptr_t>(crash.info->si_addr));
+        line << ", code " << crash.info->si_code;
+        if (crash.info->si_code > 0) { // else it was sent, and the sender stands in that place
+            line << ", address ";
+            line.hex(reinterpret_cast<std::uintptr_t>(crash.info->si_addr));
+        }
     }
     line << "\n";
     output.write(line);

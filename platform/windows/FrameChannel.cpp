@@ -22,6 +22,19 @@ struct ViewCloser {
 };
 using UniqueView = std::unique_ptr<const void, ViewCloser>;
 
+/// Memory may be mapped that is only reserved, and reading that would end the program.
+bool isCommitted(const void* view, std::size_t size)
+{
+    const auto* const end = static_cast<const std::byte*>(view) + size;
+    for (const auto* at = static_cast<const std::byte*>(view); at < end;) {
+        MEMORY_BASIC_INFORMATION pages;
+        if (VirtualQuery(at, &pages, sizeof pages) == 0 || pages.State != MEM_COMMIT)
+            return false;
+        at = static_cast<const std::byte*>(pages.BaseAddress) + pages.RegionSize;
+    }
+    return true;
+}
+
 /// Named file mapping and auto-reset event. Neither can shrink, and both names live on with the
 /// writer's successor, so there is nothing to look after between two frames.
 class KernelFrameChannel final : public FrameChannel
@@ -44,6 +57,10 @@ public:
         m_view.reset(MapViewOfFile(m_mapping.get(), FILE_MAP_READ, 0, 0, m_viewSize));
         if (!m_view)
             return failed(OpenStep::View);
+        if (!isCommitted(m_view.get(), m_viewSize)) {
+            SetLastError(ERROR_INVALID_ADDRESS);
+            return failed(OpenStep::View);
+        }
         m_event.reset(OpenEventA(EVENT_ALL_ACCESS, FALSE, m_eventName.c_str()));
         if (!m_event)
             return failed(OpenStep::Event);

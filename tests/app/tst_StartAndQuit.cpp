@@ -30,6 +30,7 @@ class tst_StartAndQuit : public QObject
 private slots:
     void oneOfTwoStartsSurvives();
     void quitsCleanlyAHundredTimes();
+    void endsWithItsScreen();
     void logsItsLifeInOrder();
 };
 
@@ -83,6 +84,29 @@ void tst_StartAndQuit::quitsCleanlyAHundredTimes()
         QCOMPARE(log.count("]thread start"), 3);
         QCOMPARE(log.count("]thread end"), 3);
         connection->deleteLater();
+    }
+}
+
+/// The window system's library then ends the process where it stands.
+void tst_StartAndQuit::endsWithItsScreen()
+{
+    for (int round = 0; round < 5; ++round) {
+        QProcess screen;
+        screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(screen.canReadLine(), Patience);
+        ProgramHome home;
+        home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
+        DisplayEnd display(home);
+        const auto program = home.start(u"xcb"_s);
+        QVERIFY(display.nextProgram());
+        screen.kill();
+        QVERIFY(screen.waitForFinished(Patience));
+        QVERIFY(program->waitForFinished(Patience));
+        const QByteArray log = program->readAll();
+        QVERIFY2(program->exitStatus() == QProcess::NormalExit, log.constData());
+        QVERIFY2(log.contains("[main]ended from outside, without quitting"), log.constData());
+        QCOMPARE(log.count("]thread end"), 3);
+        QVERIFY(QDir(home.path()).entryList({u"*.dmp"_s}).isEmpty());
     }
 }
 

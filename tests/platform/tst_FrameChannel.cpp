@@ -43,6 +43,7 @@ private slots:
     void keepsTheObjectsOfAWriterThatIsGone();
     void survivesMemoryTakenAway();
     void survivesMemoryTakenAwayWhileCopying();
+    void refusesMemoryThatIsOnlyReserved();
     void survivesAnEventTakenAway();
     void isInterruptedWhileWaiting();
     void isInterruptedBeforeWaiting();
@@ -228,6 +229,16 @@ void tst_FrameChannel::survivesMemoryTakenAwayWhileCopying()
     }
     QCOMPARE(m_writer->nextLine(), "ok");
     QVERIFY(m_channel->copyOut(0, copy.data(), copy.size()));
+}
+
+void tst_FrameChannel::refusesMemoryThatIsOnlyReserved()
+{
+    if (!kIsWindows)
+        QSKIP("Shared memory is all there when it is mapped.");
+    QVERIFY(m_writer->command("reserve " + QByteArray::number(qulonglong(kViewSize))));
+    const auto result = m_channel->open();
+    QCOMPARE(result.failedAt, Step::View);
+    QCOMPARE(result.error, quint32(487)); // ERROR_INVALID_ADDRESS
 }
 
 void tst_FrameChannel::survivesAnEventTakenAway()

@@ -3,7 +3,7 @@
 #
 # Works in the Debian 13 root of tools/windows/make-root.sh, with its MinGW-w64 and Qt host tools, and
 # leaves an archive that tools/windows/test.sh takes as VORN_WINDOWS_QT. Interrupted, it goes on where
-# it was. It takes hours: see docs/windows.md. Modules whose source the package source does not give are
+# it was. It takes 80 minutes on two cores. Modules whose source the package source does not give are
 # left out with a message. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"

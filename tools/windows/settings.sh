@@ -36,7 +36,7 @@ need_windows_qt() {
   local from=${VORN_WINDOWS_QT:-}
   [ -n "$from" ] || from=$(find "$root/.." -maxdepth 3 -name 'qt-*mingw-w64.tar.xz' -print -quit 2>/dev/null)
   [ -n "$from" ] || fail "there is no Windows Qt" \
-    "set VORN_WINDOWS_QT to an archive or folder of one made for /opt/qtwin, or make one with tools/windows/make-qt.sh (hours)"
+    "set VORN_WINDOWS_QT to an archive or folder of one made for /opt/qtwin, or make one with tools/windows/make-qt.sh (80 minutes on two cores)"
   [ -e "$from" ] || fail "there is no Windows Qt at $from" "set VORN_WINDOWS_QT to an archive or folder"
   step "Unpacking the Windows Qt"
   if [ -d "$from" ]; then

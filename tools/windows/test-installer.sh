@@ -51,8 +51,19 @@ folder_windows=C:/users/root/AppData/Local/Programs/VORNApp
 link="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/VORNApp.lnk"
 uninstall_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\VORNApp'
 
-step "Installing silently"
+step "Installing silently, over an older version with a file that is no more"
+older=$windows_root/build/older
+rm -rf "$older"
+mkdir -p "$older/stage"
+touch "$older/stage/VORNApp.exe" "$older/stage/config.ini" "$older/stage/Gone.dll"
+printf 'Delete "$INSTDIR\\%s"\n' VORNApp.exe Gone.dll >"$older/removal.nsh"
+in_root makensis -V2 -XTarget\ amd64-unicode -DVERSION=0.9.0.0 -DSTAGE=/build/older/stage \
+  -DREMOVAL=/build/older/removal.nsh -DICON=/src/qml/images/VORNApp.ico -DOUTPUT=/build/older/setup.exe \
+  /src/packaging/windows/VORNApp.nsi || fail "the older installer" "look at packaging/windows/VORNApp.nsi"
+wine_plain Z:/build/older/setup.exe /S
+[ -f "$folder/Gone.dll" ] || fail "the older version was not installed" "look at packaging/windows/VORNApp.nsi"
 wine_plain "Z:/$setup" /S
+[ -f "$folder/Gone.dll" ] && fail "an older version's file stayed" "look at packaging/windows/VORNApp.nsi"
 for file in VORNApp.exe PortalHub.dll config.ini config.json Qt6Core.dll libglog.dll Uninstall.exe \
   plugins/platforms/qwindows.dll plugins/sqldrivers/qsqlite.dll qml/QtQuick/qmldir; do
   [ -f "$folder/$file" ] || fail "$file was not installed" "look at packaging/windows"

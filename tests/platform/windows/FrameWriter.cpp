@@ -1,6 +1,7 @@
 // frame_writer <mapping> <event>: plays the process that fills the shared memory. Commands, one a
 // line:
 //   mapping <bytes>   make the memory anew
+//   reserve <bytes>   make it of memory that is not there before it is asked for, but for a page
 //   event             make the event anew
 //   fill <byte>       set every byte of the memory
 //   post <count>      announce that often
@@ -42,7 +43,10 @@ public:
     bool run(const std::string& command, long number, long second)
     {
         if (command == "mapping")
-            return makeMapping(static_cast<std::size_t>(number));
+            return makeMapping(static_cast<std::size_t>(number), SEC_COMMIT);
+        if (command == "reserve")
+            return makeMapping(static_cast<std::size_t>(number), SEC_RESERVE) &&
+                   VirtualAlloc(m_view, 1, MEM_COMMIT, PAGE_READWRITE);
         if (command == "event")
             return makeEvent();
         if (command == "fill")
@@ -65,11 +69,11 @@ private:
         m_mapping = nullptr;
     }
 
-    bool makeMapping(std::size_t size)
+    bool makeMapping(std::size_t size, DWORD kind)
     {
         closeMapping();
         m_size = size;
-        m_mapping = CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
+        m_mapping = CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE | kind, 0,
                                        static_cast<DWORD>(size), m_mappingName.c_str());
         if (m_mapping)
             m_view = static_cast<char*>(MapViewOfFile(m_mapping, FILE_MAP_WRITE, 0, 0, size));

@@ -1,0 +1,35 @@
+#include "app/ExitGuard.h"
+
+#include <cstdlib>
+#include <mutex>
+#include <utility>
+
+namespace
+{
+
+// Both are still there when objects of static life have gone.
+constinit std::mutex g_mutex;
+constinit const std::function<void()>* g_work = nullptr;
+
+void onExit()
+{
+    const std::scoped_lock lock(g_mutex);
+    if (g_work)
+        (*g_work)();
+}
+
+} // namespace
+
+ExitGuard::ExitGuard(std::function<void()> work)
+    : m_work(std::move(work))
+{
+    const std::scoped_lock lock(g_mutex);
+    g_work = &m_work;
+    std::atexit(onExit);
+}
+
+ExitGuard::~ExitGuard()
+{
+    const std::scoped_lock lock(g_mutex);
+    g_work = nullptr;
+}
