@@ -119,7 +119,13 @@ void NetworkManager::login(const QString& email, const QString& password)
 
     startRequestTimer(reply, [this] { emit loginFailed(tr("Login request timed out.")); });
     handleResponse(
-        reply, [this](const QJsonObject& object) { emit loginSuccess(object); },
+        reply,
+        [this, number = ++m_latestLogin](const QJsonObject& object) {
+            if (number == m_latestLogin)
+                emit loginSuccess(object);
+            else // it would undo what has happened since, a sign-out too
+                Log::info("NetworkManager::login") << "another sign-in followed, dropped";
+        },
         [this](const QString& message) { emit loginFailed(message); });
 }
 

@@ -20,7 +20,7 @@ class QTimer;
 /// Each request ends in its success signal or its failure signal. One that outlives the time-out
 /// fails twice, first for the broken connection, then for the time-out: pages show the text they
 /// got last. A profile that arrives when another user, or none, is signed in than the one who asked
-/// is dropped.
+/// is dropped; so is the success of a sign-in that another one was asked for after.
 ///
 /// Main thread only. E-mail and password travel as Base64url text in the request; to keep them and
 /// the token from anybody else, redirections are followed only to the same host and never from
@@ -95,6 +95,7 @@ private:
     const AccountIdentity& m_identity;
     QNetworkAccessManager* m_networkAccess; // child
     QMap<QNetworkReply*, QTimer*> m_activeRequests;
+    quint64 m_latestLogin = 0;
     const int m_requestTimeout;
     const QString m_baseUrl;
     const QString m_loginUrl;

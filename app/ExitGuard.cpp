@@ -7,9 +7,9 @@
 namespace
 {
 
-// Both are still there when objects of static life have gone.
-constinit std::mutex g_mutex;
-constinit const std::function<void()>* g_work = nullptr;
+// Made before the handler is registered, and so destroyed after it has run.
+std::mutex g_mutex;
+const std::function<void()>* g_work = nullptr;
 
 void onExit()
 {

@@ -4,6 +4,7 @@
 #include "app/Program.h"
 #include "app/SingleInstance.h"
 #include "logging/Log.h"
+#include "platform/BrokenPipes.h"
 #include "platform/CrashHandler.h"
 #include "platform/Folders.h"
 #include "platform/TerminationSignals.h"
@@ -13,7 +14,10 @@
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QTimer>
 #include <QtQml>
+
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +29,7 @@ namespace
 
 constexpr int KeptLogFiles = 5;
 constexpr int LoadFailure = -1;
+constexpr auto FirstFramePatience = std::chrono::seconds(2);
 
 void reportCrashLine(const char* text)
 {
@@ -55,18 +60,21 @@ void logQmlWarnings(const QList<QQmlError>& warnings)
         Log::warning("main") << warning.toString();
 }
 
+/// A window that nobody sees yet, on another workspace say, draws nothing.
 void showTrayIconAfterFirstFrame(const QQmlApplicationEngine& engine, WindowManager& windows)
 {
     const auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &windows, &WindowManager::showTrayIcon,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    QTimer::singleShot(FirstFramePatience, &windows, &WindowManager::showTrayIcon);
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    platform::surviveBrokenPipes();
     SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
     switch (instance.start()) {
     case SingleInstance::Outcome::First:
@@ -87,7 +95,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
     const QApplication app(argc, argv);
-    const platform::TerminationSignals signalsToQuit([] { QCoreApplication::quit(); });
+    const platform::TerminationSignals signalsToQuit([] { QCoreApplication::exit(); });
     // Hiding to the tray closes the last window without ending the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     logProgram(appPath, fileName);

@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr quint16 ReceivePort = 49175;
 constexpr auto ReceiveWait = std::chrono::hours(1); // a datagram or the end comes sooner
 
 DeviceControl* s_instance = nullptr;

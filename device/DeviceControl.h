@@ -31,11 +31,11 @@ class WindowRequests;
 /// It holds device, version and account state as properties, owns the task queue and its thread,
 /// the video source, the UDP client and the local device check, and runs three workers: program
 /// status, video and UDP. Made and destroyed on the main thread, which also calls the invokable
-/// operations; the setters may be called from any thread. Values are kept under a lock, while
-/// signals are emitted and messages sent outside it, so that neither a binding that reads nor a
-/// channel library that calls back can block. The one exception is the task that writes
-/// disable_local_dev, which is posted under a lock of its own to keep its order. Signals of other
-/// threads reach the main thread queued.
+/// operations; the setters but setUseRemoteDevice() may be called from any thread. Values are kept
+/// under a lock, while signals are emitted and messages sent outside it, so that neither a binding
+/// that reads nor a channel library that calls back can block. The one exception is the task that
+/// writes disable_local_dev, which is posted under a lock of its own to keep its order. Signals of
+/// other threads reach the main thread queued.
 class DeviceControl : public QObject, public DisplayReports, public LocalDeviceStatus
 {
     Q_OBJECT
@@ -228,6 +228,8 @@ signals:
     void frameIndexChanged();
 
 private:
+    static constexpr quint16 ReceivePort = 49175;
+
     /// What a setter's log line says besides the values.
     struct ChangeLabels {
         const char* function;

@@ -69,5 +69,8 @@ void DeviceControl::monitorPlay(bool play)
 {
     if (!change(m_monitor_play, play, {"DeviceControl::monitorPlay", "m_monitor_play:", ", play:"}))
         return;
+    // At the start the instance before this one may still have had the port.
+    if (play && !m_udpClient.isBound())
+        m_udpClient.bind(ReceivePort);
     m_videoReceiver->setPlaying(play);
 }

@@ -23,14 +23,19 @@ UdpClient::~UdpClient()
 {
     Log::info("UdpClient::~UdpClient") << "~UdpClient";
     stop();
-    if (m_socket->state() == QAbstractSocket::BoundState)
+    if (isBound())
         m_socket->close();
+}
+
+bool UdpClient::isBound() const
+{
+    return m_socket->state() == QAbstractSocket::BoundState;
 }
 
 bool UdpClient::bind(quint16 port)
 {
     Log::info("UdpClient::bind") << "bound to port:" << port;
-    if (m_socket->state() == QAbstractSocket::BoundState) {
+    if (isBound()) {
         Log::info("UdpClient::bind") << "Socket is already bound";
         return true;
     }
@@ -44,7 +49,7 @@ bool UdpClient::bind(quint16 port)
 
 void UdpClient::send(const char* data, int len, quint16 port, const QHostAddress& address)
 {
-    if (m_socket->state() != QAbstractSocket::BoundState) {
+    if (!isBound()) {
         Log::error("UdpClient::send") << "Cannot send data: socket not bound";
         return;
     }

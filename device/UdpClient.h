@@ -21,6 +21,7 @@ public:
 
     /// Binds to the loopback address; true also when bound already.
     bool bind(quint16 port);
+    [[nodiscard]] bool isBound() const;
     void send(const char* data, int len, quint16 port, const QHostAddress& address);
 
     /// Moves the oldest datagram into `out`; false when none came in time or the client is

@@ -94,9 +94,9 @@ private:
     return {Severity::Error, function, file, line};
 }
 
-/// Writes one record at once, for text that is already whole. Takes no memory from the heap, so
-/// that a crash handler may use it; when the crash came from inside the log, the text goes to
-/// standard error only.
+/// Writes one record at once, for text that is already whole. Takes no memory from the heap, except
+/// where the record begins a new file, so that a crash handler may use it; when the crash came from
+/// inside the log, the text goes to standard error only.
 /// @param function  as for Message.
 void write(Severity severity, const char* function, std::string_view text,
            const char* file = __builtin_FILE(), int line = __builtin_LINE()) noexcept;

@@ -101,7 +101,9 @@ bool LogFile::openNew(const QString& stem)
         // '_' sorts behind the '.' of the extension, so the first file of a second stays the first.
         const auto suffix = count == 0 ? QString() : u"_%1"_s.arg(count, 3, 10, '0'_L1);
         m_file.setFileName(stem + suffix + m_extension);
-        if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        // What people type and the account's token stand in it.
+        if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
+                        QFile::ReadOwner | QFile::WriteOwner))
             return true;
         m_error = m_file.errorString();
         if (!m_file.exists())

@@ -13,7 +13,8 @@
 /// thread.
 ///
 /// A folder that cannot be written, or a full disk, costs records but never more: the reason is
-/// told once on standard error, and writing is tried again from time to time.
+/// told once on standard error, and writing is tried again from time to time. Other users cannot
+/// read the files.
 class LogFile
 {
 public:

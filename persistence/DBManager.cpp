@@ -1,7 +1,9 @@
 #include "persistence/DBManager.h"
 
 #include "logging/Log.h"
+#include "platform/Worker.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QHash>
 #include <QSqlError>
@@ -10,9 +12,18 @@
 #include <QThreadStorage>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
+
+// How long one statement waits for another program that has the file locked.
+constexpr auto kMainPatience = 1000ms;
+constexpr auto kMainPatienceWhileLocked = 10ms;
+constexpr auto kThreadPatience = 200ms;
+// How long a write off the main thread is tried again, letting others at the file in between.
+constexpr auto kWritePatience = 3s;
+constexpr unsigned long kPauseMs = 20;
 
 /// The connections that a thread other than the main one has opened, by DBManager; removed by that
 /// very thread when it ends, as Qt demands.
@@ -49,11 +60,10 @@ quint64 nextId()
     return ++s_last;
 }
 
-void setPragma(const QSqlDatabase& db, const QString& pragma, const char* whatFailed)
+bool isLocked(const QSqlError& error)
 {
-    QSqlQuery query(db);
-    if (!query.exec(pragma))
-        Log::error("DBManager::openDatabase") << whatFailed << query.lastError().text();
+    constexpr int Busy = 5; // SQLite's number, whose upper bytes may say more
+    return (error.nativeErrorCode().toInt() & 0xff) == Busy;
 }
 
 } // namespace
@@ -79,20 +89,26 @@ DBManager::~DBManager()
 
 void DBManager::initialize()
 {
-    const bool isNew = !QFile::exists(m_dbPath);
-    if (!openDatabase())
+    const std::scoped_lock lock(m_mutex);
+    m_clearingIsDue = QFile::exists(clearingNote());
+    if (!open())
         Log::error("DBManager::initialize") << "Failed to open database";
-    else if (isNew) // The file will hold the account's token.
+    else // The file holds the account's token.
         QFile::setPermissions(m_dbPath, QFile::ReadOwner | QFile::WriteOwner);
-    if (!execQuery(u"CREATE TABLE IF NOT EXISTS user_settings "
-                   "(key TEXT PRIMARY KEY NOT NULL, value BLOB)"_s,
-                   {}))
+    if (!report(attempt(u"CREATE TABLE IF NOT EXISTS user_settings "
+                        "(key TEXT PRIMARY KEY NOT NULL, value BLOB)"_s,
+                        {})))
         Log::error("DBManager::initialize") << "Failed to create tables";
+}
+
+bool DBManager::isOnMainThread() const
+{
+    return QThread::currentThread() == m_mainThread;
 }
 
 QString DBManager::connectionName() const
 {
-    if (QThread::currentThread() == m_mainThread)
+    if (isOnMainThread())
         return QLatin1StringView(QSqlDatabase::defaultConnection);
     if (!s_threadConnections.hasLocalData())
         s_threadConnections.setLocalData(new ThreadConnections);
@@ -108,28 +124,48 @@ QSqlDatabase DBManager::connection() const
 
 bool DBManager::openDatabase()
 {
+    const std::scoped_lock lock(m_mutex);
+    return open();
+}
+
+bool DBManager::open()
+{
+    constexpr auto Function = "DBManager::openDatabase";
     QSqlDatabase db = connection();
     if (db.isOpen())
         return true;
     db.setDatabaseName(m_dbPath);
-    // In milliseconds, for another program that has the file open.
-    db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=3000"_s);
+    const auto patience = isOnMainThread() ? kMainPatience : kThreadPatience;
+    db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(patience.count()));
     if (!db.open()) {
-        Log::error("DBManager::openDatabase") << "Database open error:" << db.lastError().text();
+        Log::error(Function) << "Database open error:" << db.lastError().text();
         return false;
     }
-    setPragma(db, u"PRAGMA synchronous = FULL"_s, "Failed to set synchronous mode:");
+    const Attempt synchronous = attemptOpen(u"PRAGMA synchronous = FULL"_s, {});
+    if (synchronous.outcome != Attempt::Outcome::Done)
+        Log::error(Function) << "Failed to set synchronous mode:" << synchronous.error;
     // Overwrite what is deleted, so that nothing of an account stays readable in the file.
-    setPragma(db, u"PRAGMA secure_delete = ON"_s, "Failed to set secure delete:");
+    const Attempt secureDelete = attemptOpen(u"PRAGMA secure_delete = ON"_s, {});
+    if (secureDelete.outcome != Attempt::Outcome::Done)
+        Log::error(Function) << "Failed to set secure delete:" << secureDelete.error;
     return true;
 }
 
 bool DBManager::execQuery(const QString& sql, const QMap<QString, QVariant>& params)
 {
-    if (!openDatabase()) {
-        Log::error("DBManager::execQuery") << "Database not open";
-        return false;
-    }
+    const std::scoped_lock lock(m_mutex);
+    return report(attempt(sql, params));
+}
+
+DBManager::Attempt DBManager::attempt(const QString& sql, const QMap<QString, QVariant>& params)
+{
+    if (!open())
+        return {Attempt::Outcome::NotOpen, sql, {}};
+    return attemptOpen(sql, params);
+}
+
+DBManager::Attempt DBManager::attemptOpen(const QString& sql, const QMap<QString, QVariant>& params)
+{
     QSqlQuery query(connection());
     bool done = query.prepare(sql);
     if (done) {
@@ -137,28 +173,56 @@ bool DBManager::execQuery(const QString& sql, const QMap<QString, QVariant>& par
             query.bindValue(u':' + it.key(), it.value());
         done = query.exec();
     }
-    if (!done)
-        Log::error("DBManager::execQuery")
-            << "Query failed:" << query.lastError().text() << " - Query:" << sql;
-    return done;
+    const bool locked = !done && isLocked(query.lastError());
+    adaptPatience(locked);
+    if (done)
+        return {};
+    return {locked ? Attempt::Outcome::Locked : Attempt::Outcome::Failed, sql,
+            query.lastError().text()};
+}
+
+/// Else every statement of a start would hold up the window for the whole time.
+void DBManager::adaptPatience(bool isLocked)
+{
+    if (!isOnMainThread() || m_isMainPatient == !isLocked)
+        return;
+    m_isMainPatient = !isLocked;
+    const auto patience = isLocked ? kMainPatienceWhileLocked : kMainPatience;
+    QSqlQuery(connection()).exec(u"PRAGMA busy_timeout = %1"_s.arg(patience.count()));
+}
+
+bool DBManager::report(const Attempt& attempt)
+{
+    if (attempt.outcome == Attempt::Outcome::Done)
+        return true;
+    auto message = Log::error("DBManager::execQuery");
+    if (attempt.outcome == Attempt::Outcome::NotOpen)
+        message << "Database not open";
+    else
+        message << "Query failed:" << attempt.error << " - Query:" << attempt.sql;
+    return false;
 }
 
 QVariant DBManager::getUserData(const QString& key, const QVariant& defaultValue)
 {
-    Log::info("DBManager::getUserData") << "key:" << key;
+    constexpr auto Function = "DBManager::getUserData";
+    Log::info(Function) << "key:" << key;
     const std::scoped_lock lock(m_mutex);
-    if (!openDatabase()) {
-        Log::error("DBManager::getUserData") << "Database not open";
+    if (!open()) {
+        Log::error(Function) << "Database not open";
         return defaultValue;
     }
+    if (!report(catchUp()))
+        return defaultValue;
     QSqlQuery query(connection());
     bool done = query.prepare(u"SELECT value FROM user_settings WHERE key = :key"_s);
     if (done) {
         query.bindValue(u":key"_s, key);
         done = query.exec();
     }
+    adaptPatience(!done && isLocked(query.lastError()));
     if (!done) {
-        Log::error("DBManager::getUserData") << "Query failed:" << query.lastError().text();
+        Log::error(Function) << "Query failed:" << query.lastError().text();
         return defaultValue;
     }
     return query.next() ? query.value(0) : defaultValue;
@@ -167,30 +231,79 @@ QVariant DBManager::getUserData(const QString& key, const QVariant& defaultValue
 bool DBManager::saveUserData(const QString& key, const QVariant& value)
 {
     const std::scoped_lock lock(m_mutex);
-    return store(key, value);
+    return report(attemptStore(key, value));
 }
 
 bool DBManager::saveUserData(const QString& key, const QVariant& value, quint64 signIn)
 {
-    const std::scoped_lock lock(m_mutex);
-    if (signIn != m_signIn) {
-        Log::info("DBManager::saveUserData") << "signed out meanwhile, dropped key:" << key;
-        return true;
+    const QDeadlineTimer patience(isOnMainThread() ? 0s : kWritePatience);
+    while (true) {
+        {
+            const std::scoped_lock lock(m_mutex);
+            if (signIn != m_signIn) {
+                Log::info("DBManager::saveUserData") << "signed out meanwhile, dropped key:" << key;
+                return true;
+            }
+            const Attempt attempt = attemptStore(key, value);
+            if (attempt.outcome != Attempt::Outcome::Locked || patience.hasExpired() ||
+                StopRequest::isMadeToThisThread())
+                return report(attempt);
+        }
+        QThread::msleep(kPauseMs); // or the main thread would not get its turn
     }
-    return store(key, value);
 }
 
 bool DBManager::clearUserData()
 {
     const std::scoped_lock lock(m_mutex);
     ++m_signIn;
-    const bool isDeleted = execQuery(u"DELETE FROM user_settings"_s, {});
-    const bool isVacuumed = execQuery(u"VACUUM"_s, {});
-    return isDeleted && isVacuumed;
+    m_clearingIsDue = true;
+    const Attempt clearing = attemptClear();
+    if (m_clearingIsDue)
+        noteClearing();
+    return report(clearing);
 }
 
-bool DBManager::store(const QString& key, const QVariant& value)
+DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value)
 {
-    return execQuery(u"INSERT OR REPLACE INTO user_settings (key, value) VALUES (:key, :value)"_s,
-                     {{u"key"_s, key}, {u"value"_s, value}});
+    const Attempt clearing = catchUp();
+    if (clearing.outcome != Attempt::Outcome::Done)
+        return clearing;
+    return attempt(u"INSERT OR REPLACE INTO user_settings (key, value) VALUES (:key, :value)"_s,
+                   {{u"key"_s, key}, {u"value"_s, value}});
+}
+
+DBManager::Attempt DBManager::catchUp()
+{
+    if (!m_clearingIsDue)
+        return {};
+    const Attempt clearing = attemptClear();
+    if (m_clearingIsDue)
+        return clearing;
+    report(clearing);
+    return {};
+}
+
+DBManager::Attempt DBManager::attemptClear()
+{
+    const Attempt deletion = attempt(u"DELETE FROM user_settings"_s, {});
+    if (deletion.outcome != Attempt::Outcome::Done)
+        return deletion;
+    m_clearingIsDue = false;
+    QFile::remove(clearingNote());
+    return attempt(u"VACUUM"_s, {});
+}
+
+QString DBManager::clearingNote() const
+{
+    return m_dbPath + "-cleared"_L1;
+}
+
+void DBManager::noteClearing()
+{
+    if (m_dbPath.isEmpty())
+        return;
+    QFile note(clearingNote());
+    if (!note.open(QIODevice::WriteOnly))
+        Log::error("DBManager::clearUserData") << "Cannot note the sign-out:" << note.errorString();
 }

@@ -19,6 +19,11 @@ class QThread;
 /// Qt's default connection; every other thread gets a connection of its own on first use, closed
 /// when that thread ends, since Qt forbids sharing one. Failures are logged and returned, never
 /// thrown.
+///
+/// Another program may have the file locked. The main thread waits a second for it, and no more
+/// until it has got it once; a write on another thread is tried for three seconds, unless the
+/// thread is asked to end. A clearing that fails is noted in a file beside the database and made up
+/// for before anything else is read or written, if need be by the next run.
 class DBManager : public UserSettings
 {
 public:
@@ -40,10 +45,28 @@ public:
     quint64 currentSignIn() const override { return m_signIn; }
 
 private:
+    struct Attempt {
+        enum class Outcome { Done, NotOpen, Locked, Failed };
+        Outcome outcome = Outcome::Done;
+        QString sql;
+        QString error;
+    };
+
     void initialize();
+    bool open();
+    [[nodiscard]] bool isOnMainThread() const;
     QString connectionName() const;
     QSqlDatabase connection() const;
-    bool store(const QString& key, const QVariant& value);
+    [[nodiscard]] QString clearingNote() const;
+
+    Attempt attempt(const QString& sql, const QMap<QString, QVariant>& params);
+    Attempt attemptOpen(const QString& sql, const QMap<QString, QVariant>& params);
+    Attempt attemptStore(const QString& key, const QVariant& value);
+    Attempt attemptClear();
+    Attempt catchUp();
+    void adaptPatience(bool isLocked);
+    static bool report(const Attempt& attempt);
+    void noteClearing();
 
     const quint64 m_id;
     const QThread* const m_mainThread;
@@ -51,5 +74,7 @@ private:
     /// One operation at a time: "still the same sign-in?" and the write that follows are one step,
     /// and the connections of two threads never find the file locked by each other.
     std::mutex m_mutex;
+    bool m_clearingIsDue = false;
+    bool m_isMainPatient = true;
     std::atomic<quint64> m_signIn{1};
 };

@@ -5,6 +5,7 @@
 #include "platform/VersionResource.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <atomic>
@@ -59,6 +60,11 @@ void FileInfo::readConfig()
     QFile file(m_configPath);
     if (!file.exists()) {
         Log::error("FileInfo::FileInfo") << m_configPath << " not exist!!!";
+        return;
+    }
+    const QFileInfo info(m_configPath);
+    if (!info.isFile() && !info.isDir()) { // reading a pipe would hold up the start
+        Log::error("FileInfo::FileInfo") << m_configPath << " is not a file, ignored";
         return;
     }
     if (file.open(QIODevice::ReadOnly | QIODevice::Text)) {

@@ -83,7 +83,8 @@ Item {
             signInForm.submitButton.forceActiveFocus();
         }
         function onLoginFailed(error: string): void {
-            page.serverResponse = error;
+            if (!page.device.login) // else an earlier attempt's, which would be seen after a sign-out
+                page.serverResponse = error;
         }
         function onRegistrationSuccess(): void {
             page.currentPage = page.page_id_verify_account;

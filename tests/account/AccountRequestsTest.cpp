@@ -36,6 +36,7 @@ private slots:
     void tellsTheWholeStory();
     void dropsProfileOfFormerUser_data();
     void dropsProfileOfFormerUser();
+    void dropsAllSignInsButTheLast();
 
 private:
     void signInAs(const QString& userId, const QString& token);
@@ -343,6 +344,17 @@ void AccountRequestsTest::dropsProfileOfFormerUser()
     QTRY_VERIFY(isIdle(*m_network));
     QCOMPARE(m_requests.size(), 2);
     QCOMPARE(m_recorder->events, QStringList());
+}
+
+/// Else the first one's reply could come after the second's, or after a sign-out that followed it.
+void AccountRequestsTest::dropsAllSignInsButTheLast()
+{
+    m_service->setFault(Kind::LargeBody);
+    m_network->login(u"anna"_s, u"pw"_s);
+    m_network->login(u"bert"_s, u"pw"_s);
+    QTRY_VERIFY(isIdle(*m_network));
+    QCOMPARE(m_requests.size(), 2);
+    QCOMPARE(m_recorder->events, QStringList{u"loginSuccess"_s});
 }
 
 QTEST_GUILESS_MAIN(AccountRequestsTest)

@@ -45,7 +45,8 @@ public:
     QString path() const { return m_folder.path(); }
 
     /// Starts the program; its log is what it writes to standard error.
-    std::unique_ptr<QProcess> start(const QString& platform) const
+    std::unique_ptr<QProcess> start(const QString& platform,
+                                    const QString& program = QStringLiteral(VORN_PROGRAM)) const
     {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = m_environment;
@@ -61,7 +62,7 @@ public:
         process->setProcessEnvironment(environment);
         process->setWorkingDirectory(m_folder.path());
         process->setProcessChannelMode(QProcess::MergedChannels);
-        process->start(QStringLiteral(VORN_PROGRAM), QStringList());
+        process->start(program, QStringList());
         return process;
     }
 

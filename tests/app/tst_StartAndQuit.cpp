@@ -1,5 +1,7 @@
 #include "ProgramRun.h"
 
+#include <QLibraryInfo>
+
 #include <csignal>
 #include <cstdio>
 
@@ -31,6 +33,8 @@ private slots:
     void oneOfTwoStartsSurvives();
     void quitsCleanlyAHundredTimes();
     void endsWithItsScreen();
+    void outlivesTheReaderOfItsLog();
+    void endsWhileItTellsOfAFailure();
     void logsItsLifeInOrder();
 };
 
@@ -108,6 +112,43 @@ void tst_StartAndQuit::endsWithItsScreen()
         QCOMPARE(log.count("]thread end"), 3);
         QVERIFY(QDir(home.path()).entryList({u"*.dmp"_s}).isEmpty());
     }
+}
+
+void tst_StartAndQuit::outlivesTheReaderOfItsLog()
+{
+    const ProgramHome home;
+    DisplayEnd display(home);
+    const auto program = home.start(u"offscreen"_s);
+    QLocalSocket* const connection = display.nextProgram();
+    QVERIFY(connection);
+    program->closeReadChannel(QProcess::StandardOutput);          // both streams are one
+    connection->write("1 {\"cmd\":1,\"type\":2,\"volume\":3}\n"); // which is logged and answered
+    QVERIFY(connection->waitForReadyRead(Patience));
+    sendSignal(*program, SIGTERM);
+    QVERIFY(program->waitForFinished(Patience));
+    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->exitCode(), 0);
+}
+
+void tst_StartAndQuit::endsWhileItTellsOfAFailure()
+{
+    const ProgramHome home;
+    const QString copy = home.path() + "/VORNApp"_L1;
+    QVERIFY(QFile::copy(QStringLiteral(VORN_PROGRAM), copy));
+    QFile paths(home.path() + "/qt.conf"_L1);
+    QVERIFY(paths.open(QIODevice::WriteOnly));
+    QVERIFY(paths.write(
+                "[Paths]\nPrefix=/nowhere\nQmlImports=/nowhere\nQml2Imports=/nowhere\nPlugins=" +
+                QLibraryInfo::path(QLibraryInfo::PluginsPath).toUtf8() + '\n') > 0);
+    paths.close();
+    const auto program = home.start(u"offscreen"_s, copy);
+    QByteArray log;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (log += program->readAll()).contains("QQmlApplicationEngine load error"), Patience);
+    sendSignal(*program, SIGTERM);
+    QVERIFY(program->waitForFinished(Patience));
+    QCOMPARE(program->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program->exitCode(), 255);
 }
 
 void tst_StartAndQuit::logsItsLifeInOrder()

@@ -52,6 +52,8 @@ void tst_LogFile::beginsWithHeader()
         "\nLog line format: [IWEF] [mm-dd hh:mm:ss.uuuuuu] "
         "[thread_id] [class::function] msg\none\n";
     QCOMPARE(LogText::read(path), expected);
+    if (QSysInfo::kernelType() != u"winnt") // Folders decide there.
+        QVERIFY(!(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther)));
     QCOMPARE(file.size(), expected.size());
 }
 

@@ -28,6 +28,8 @@ private slots:
     void endedSignInIsDropped();
     void unusableFileIsLogged_data();
     void unusableFileIsLogged();
+    void clearingIsMadeUpFor_data();
+    void clearingIsMadeUpFor();
     void otherUsersCannotRead();
     void failedStatementIsLogged();
 
@@ -38,6 +40,25 @@ private:
 
 namespace
 {
+
+/// Another program that has the file locked.
+class Intruder
+{
+public:
+    explicit Intruder(const QString& path)
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"intruder"_s);
+        db.setDatabaseName(path);
+        if (!db.open() || !QSqlQuery(db).exec(u"BEGIN EXCLUSIVE"_s))
+            qFatal("cannot lock the database");
+    }
+    ~Intruder()
+    {
+        QSqlDatabase::database(u"intruder"_s).close();
+        QSqlDatabase::removeDatabase(u"intruder"_s);
+    }
+    Q_DISABLE_COPY_MOVE(Intruder)
+};
 
 int rows()
 {
@@ -192,10 +213,52 @@ void TestDBManager::unusableFileIsLogged()
     QCOMPARE(garbageFile.readAll(), garbage);
 }
 
+void TestDBManager::clearingIsMadeUpFor_data()
+{
+    QTest::addColumn<bool>("byTheNextRun");
+    QTest::addColumn<bool>("beforeAWrite");
+    QTest::newRow("by the next run") << true << false;
+    QTest::newRow("before the next read") << false << false;
+    QTest::newRow("before the next write") << false << true;
+}
+
+void TestDBManager::clearingIsMadeUpFor()
+{
+    QFETCH(const bool, byTheNextRun);
+    QFETCH(const bool, beforeAWrite);
+    std::optional<DBManager> db(m_path);
+    QVERIFY(db->saveUserData(u"token"_s, u"secret"_s));
+    {
+        const Intruder intruder(m_path);
+        QVERIFY(!db->clearUserData());
+        QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
+        QVERIFY(!db->saveUserData(u"email"_s, u"new"_s, db->currentSignIn()));
+    }
+    if (byTheNextRun) {
+        db.reset();
+        db.emplace(m_path);
+    }
+    if (beforeAWrite)
+        QVERIFY(db->saveUserData(u"email"_s, u"new"_s, db->currentSignIn()));
+    QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
+    QCOMPARE(rows(), beforeAWrite ? 1 : 0);
+
+    // Once, and not again.
+    QVERIFY(db->saveUserData(u"email"_s, u"newer"_s));
+    db.reset();
+    db.emplace(m_path);
+    QCOMPARE(db->getUserData(u"email"_s, {}).toString(), u"newer"_s);
+    QVERIFY(QFile::remove(m_path));
+    QVERIFY(QDir(m_dir->path()).isEmpty());
+}
+
 void TestDBManager::otherUsersCannotRead()
 {
     if (QSysInfo::kernelType() == u"winnt")
         return; // Folders decide there.
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::WriteOnly)); // as an older version may have left it
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
     const DBManager db(m_path);
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     QVERIFY(!(QFile::permissions(m_path) & others));

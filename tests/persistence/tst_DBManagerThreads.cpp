@@ -47,6 +47,8 @@ private slots:
     void connectionEndsWithItsThread();
     void threadOutlivesStore();
     void signOutBeatsPendingWrites();
+    void writeWaitsForALockedFile_data();
+    void writeWaitsForALockedFile();
 
 private:
     std::optional<QTemporaryDir> m_dir;
@@ -139,6 +141,33 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
         QCOMPARE(rows(), 1);
         QCOMPARE(db.getUserData(u"next"_s, -1).toInt(), round);
     }
+}
+
+void TestDBManagerThreads::writeWaitsForALockedFile_data()
+{
+    QTest::addColumn<bool>("isInterrupted");
+    QTest::newRow("until it is free") << false;
+    QTest::newRow("until its thread has to end") << true;
+}
+
+void TestDBManagerThreads::writeWaitsForALockedFile()
+{
+    QFETCH(const bool, isInterrupted);
+    DBManager db(m_path);
+    QVERIFY(db.execQuery(u"BEGIN EXCLUSIVE"_s, {})); // another connection than the thread's
+    bool isDone = false;
+    const std::unique_ptr<QThread> thread(
+        QThread::create([&] { isDone = db.saveUserData(u"a"_s, 1, db.currentSignIn()); }));
+    thread->start();
+    QVERIFY(!thread->wait(500)); // longer than one statement waits
+    if (isInterrupted)
+        thread->requestInterruption();
+    else
+        QVERIFY(db.execQuery(u"COMMIT"_s, {})); // while the thread waits
+    QVERIFY(thread->wait());
+    QCOMPARE(isDone, !isInterrupted);
+    if (isInterrupted)
+        QVERIFY(db.execQuery(u"COMMIT"_s, {}));
 }
 
 QTEST_GUILESS_MAIN(TestDBManagerThreads)
