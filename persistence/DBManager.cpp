@@ -266,7 +266,7 @@ bool DBManager::clearUserData()
 
 DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value)
 {
-    const Attempt clearing = catchUp();
+    Attempt clearing = catchUp();
     if (clearing.outcome != Attempt::Outcome::Done)
         return clearing;
     return attempt(u"INSERT OR REPLACE INTO user_settings (key, value) VALUES (:key, :value)"_s,
@@ -277,7 +277,7 @@ DBManager::Attempt DBManager::catchUp()
 {
     if (!m_clearingIsDue)
         return {};
-    const Attempt clearing = attemptClear();
+    Attempt clearing = attemptClear();
     if (m_clearingIsDue)
         return clearing;
     report(clearing);
@@ -286,7 +286,7 @@ DBManager::Attempt DBManager::catchUp()
 
 DBManager::Attempt DBManager::attemptClear()
 {
-    const Attempt deletion = attempt(u"DELETE FROM user_settings"_s, {});
+    Attempt deletion = attempt(u"DELETE FROM user_settings"_s, {});
     if (deletion.outcome != Attempt::Outcome::Done)
         return deletion;
     m_clearingIsDue = false;

@@ -91,6 +91,7 @@ Section /o "un.My settings, account data and logs" PURGE
   Delete "$INSTDIR\userdata.db-journal"
   Delete "$INSTDIR\userdata.db-wal"
   Delete "$INSTDIR\userdata.db-shm"
+  Delete "$INSTDIR\userdata.db-cleared"
   Delete "$INSTDIR\*.dmp"
   RMDir "$INSTDIR"
   DeleteRegKey HKCU "${SETTINGS_KEY}"
