@@ -14,8 +14,10 @@ const std::function<void()>* g_work = nullptr;
 void onExit()
 {
     const std::scoped_lock lock(g_mutex);
-    if (g_work)
-        (*g_work)();
+    if (!g_work)
+        return;
+    (*g_work)();
+    std::_Exit(EXIT_FAILURE);
 }
 
 } // namespace

@@ -2,12 +2,13 @@
 
 #include <functional>
 
-/// Ends what must not go on when the process is ended by an exit() that is not ours: the library of
-/// the windowing system calls it when its server goes. Objects of static life are destroyed then,
-/// while nothing on main()'s stack is.
+/// Gives the process an orderly end when an exit() that is not ours ends it: the library of the
+/// windowing system calls it when its server goes. Nothing on main()'s stack is destroyed then, but
+/// objects of static life would be, while Qt's own threads still use them; so the process ends as
+/// soon as the work is done, with EXIT_FAILURE.
 ///
-/// Made once in a process, when all that the work needs of static life has been used: what is made
-/// later is destroyed before the work is done.
+/// Made once in a process, as late as can be: what is of static life and made later is destroyed
+/// before the work is done.
 class ExitGuard
 {
 public:
