@@ -35,6 +35,25 @@ Item {
     }
 
     onQuitRequested: Qt.quit()
+    // A button that hides or is disabled takes the keys with it.
+    onCurrentPageChanged: {
+        if (!page.visible)
+            return;
+        switch (page.currentPage) {
+        case page.page_id_root:
+            updateButton.forceActiveFocus();
+            break;
+        case page.page_id_update:
+            updateNowButton.forceActiveFocus();
+            break;
+        case page.page_id_updating:
+            page.forceActiveFocus();
+            break;
+        case page.page_id_update_failed:
+            retryButton.forceActiveFocus();
+            break;
+        }
+    }
 
     Connections {
         target: page.device
@@ -108,6 +127,8 @@ Item {
     }
 
     QuickButton {
+        id: updateButton
+
         objectName: "updateButton"
         anchors.right: parent.right
         anchors.rightMargin: 59
@@ -127,6 +148,7 @@ Item {
 
     UpdatePanel {
         objectName: "offerPanel"
+        accessibleName: offerLabel.text
         anchors.horizontalCenter: parent.horizontalCenter
         y: 280
         visible: page.currentPage === page.page_id_update
@@ -141,6 +163,8 @@ Item {
         }
 
         PanelLabel {
+            id: offerLabel
+
             y: 140
             text: qsTr("New Version (%1) Found").arg(page.newVersion)
         }
@@ -161,6 +185,8 @@ Item {
             }
 
             PanelButton {
+                id: updateNowButton
+
                 objectName: "updateNowButton"
                 text: qsTr("Update Now")
                 onClicked: page.startUpdating()
@@ -172,6 +198,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 280
         visible: page.currentPage === page.page_id_updating
+        accessibleName: updatingLabel.text
         closable: false
 
         Image {
@@ -193,6 +220,8 @@ Item {
         }
 
         PanelLabel {
+            id: updatingLabel
+
             y: 190
             text: qsTr("Updating your VORN APP to New Version (%1)…").arg(page.newVersion)
         }
@@ -200,6 +229,7 @@ Item {
 
     UpdatePanel {
         objectName: "failedPanel"
+        accessibleName: failedLabel.text
         anchors.horizontalCenter: parent.horizontalCenter
         y: 280
         visible: page.currentPage === page.page_id_update_failed
@@ -212,11 +242,15 @@ Item {
         }
 
         PanelLabel {
+            id: failedLabel
+
             y: 140
             text: qsTr("Updating your VORN APP to New Version (%1) failed!").arg(page.newVersion)
         }
 
         PanelButton {
+            id: retryButton
+
             objectName: "retryButton"
             anchors.horizontalCenter: parent.horizontalCenter
             y: 190

@@ -46,11 +46,26 @@ Item {
         page.resetPasswordForm.submit();
     }
 
+    // A failure belongs to the form that asked, and to nobody who has signed in meanwhile.
+    function showFailure(form: int, error: string): void {
+        if (page.currentPage === form && !page.device.login)
+            page.serverResponse = error;
+    }
+
+    function goOn(next: int): void {
+        if (!page.device.login)
+            page.currentPage = next;
+    }
+
+    onVisibleChanged: {
+        if (visible)
+            signInForm.forceActiveFocus(); // else the keys would still go to the page that went
+    }
     onCurrentPageChanged: {
         page.serverResponse = "";
         switch (page.currentPage) {
         case page.page_id_sign_in:
-            // Away from the hidden fields, yet with the address the first stop of the Tab key.
+            // Away from the hidden fields.
             signInForm.forceActiveFocus();
             break;
         case page.page_id_create_account:
@@ -79,24 +94,24 @@ Item {
 
         function onLoginSuccess(userData: var): void {
             page.device.loginSuccess(userData);
+            page.currentPage = page.page_id_sign_in;
             signInForm.reset();
             signInForm.submitButton.forceActiveFocus();
         }
         function onLoginFailed(error: string): void {
-            if (!page.device.login) // else an earlier attempt's, which would be seen after a sign-out
-                page.serverResponse = error;
+            page.showFailure(page.page_id_sign_in, error);
         }
         function onRegistrationSuccess(): void {
-            page.currentPage = page.page_id_verify_account;
+            page.goOn(page.page_id_verify_account);
         }
         function onRegistrationFailed(error: string): void {
-            page.serverResponse = error;
+            page.showFailure(page.page_id_create_account, error);
         }
         function onPasswordResetSent(): void {
-            page.currentPage = page.page_id_reset_password_complete;
+            page.goOn(page.page_id_reset_password_complete);
         }
         function onPasswordResetFailed(error: string): void {
-            page.serverResponse = error;
+            page.showFailure(page.page_id_reset_password, error);
         }
     }
 

@@ -41,6 +41,10 @@ TextField {
 
     property int mark: QuickTextField.Resting
 
+    // The text, and what it was before it changed last.
+    property string textNow: ""
+    property string textBefore: ""
+
     function reset(): void {
         clear();
         settle();
@@ -116,14 +120,25 @@ TextField {
         clipboard.clear();
     }
 
-    // Blanks that come past the keys: an input method, the mouse's selection.
+    // Blanks that come past the keys: an input method, the mouse's selection. Those of a text that a
+    // page has set stay.
     function dropBlanks(): void {
-        const before = text.slice(0, cursorPosition).replace(/\s+/g, "").length;
-        const kept = text.replace(/\s+/g, "");
-        if (kept === text)
+        // Versions of Qt differ in which they tell first, the edit or the change.
+        const before = textNow === text ? textBefore : textNow;
+        const shorter = Math.min(before.length, text.length);
+        let head = 0;
+        while (head < shorter && before[head] === text[head])
+            ++head;
+        let tail = 0;
+        while (tail < shorter - head && before[before.length - 1 - tail] === text[text.length - 1 - tail])
+            ++tail;
+        const added = text.slice(head, text.length - tail);
+        const kept = added.replace(/\s+/g, "");
+        if (kept === added)
             return;
-        text = kept;
-        cursorPosition = before;
+        remove(head, head + added.length);
+        insert(head, kept);
+        cursorPosition = head + kept.length;
     }
 
     width: 375
@@ -172,7 +187,11 @@ TextField {
         initialized = true;
         mark = QuickTextField.Resting;
     }
-    onTextChanged: edit()
+    onTextChanged: {
+        textBefore = textNow;
+        textNow = text;
+        edit();
+    }
     onTextEdited: {
         if (forbidSpace)
             dropBlanks();

@@ -5,6 +5,7 @@ Rectangle {
     id: panel
 
     property bool closable: true
+    property string accessibleName: ""
 
     signal closeClicked
 
@@ -13,6 +14,8 @@ Rectangle {
     radius: 15
     border.width: 1
     border.color: "lightgrey"
+    Accessible.role: Accessible.Dialog
+    Accessible.name: accessibleName
 
     ControlButton {
         objectName: "closeButton"

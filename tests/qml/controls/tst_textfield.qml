@@ -204,6 +204,12 @@ TestCase {
     function test_textOfTheProgramKeepsItsBlanks(): void {
         const field = create({ text: "Mary Ann" });
         compare(field.text, "Mary Ann");
+        field.forceActiveFocus();
+        keyClick(Qt.Key_End);
+        keyClick("e");
+        compare(field.text, "Mary Anne");
+        keyClick(Qt.Key_Backspace);
+        compare(field.text, "Mary Ann");
     }
 
     function test_passwordIsNeitherCopiedNorPasted_data(): var {

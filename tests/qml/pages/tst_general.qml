@@ -52,8 +52,10 @@ PageTest {
             mouseClick(visibleChild("updateButton"));
             verify(shown("New Version (1.1.0) Found"));
             verify(!visibleChild("updateButton").enabled);
+            verify(visibleChild("updateNowButton").activeFocus);
             mouseClick(visibleChild(way));
             compare(page.currentPage, page.page_id_root);
+            verify(visibleChild("updateButton").activeFocus);
         }
     }
 

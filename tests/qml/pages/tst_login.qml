@@ -61,6 +61,35 @@ PageTest {
         deviceControl.setLogin(false);
     }
 
+    // What was asked for before somebody signed in must not be seen after the sign-out.
+    function test_lateRepliesLeaveNoTrace(): void {
+        click("Create an account");
+        type("password", "Secret1");
+        network.loginFailed("late");
+        compare(page.serverResponse, "");
+        network.loginSuccess({ data: { user: { email: "ada@example.com" } } });
+        verify(deviceControl.login);
+        network.registrationSuccess();
+        network.passwordResetSent();
+        network.registrationFailed("late");
+        network.passwordResetFailed("late");
+        network.loginFailed("late");
+        deviceControl.setLogin(false);
+        compare(page.currentPage, page.page_id_sign_in);
+        compare(page.serverResponse, "");
+    }
+
+    function test_keysFindTheSignInAgain(): void {
+        type("email", "ada@example.com");
+        page.visible = false;
+        page.visible = true;
+        keyClick(Qt.Key_Tab);
+        let item = test.Window.activeFocusItem;
+        while (item && item !== page)
+            item = item.parent;
+        compare(item, page);
+    }
+
     function test_emptyPasswordSendsNothing(): void {
         type("email", "ada@example.com");
         submit(formWith("email"));
