@@ -40,10 +40,30 @@ if $headless; then
   exit
 fi
 
-export VORN_PORTALHUB_SOCKET="${XDG_RUNTIME_DIR:-/tmp}/vorn-portalhub"
-step "Starting the program; its log goes to build/run/program.log"
-"$bin/VORNApp" 2>"$root/build/run/program.log" &
-program=$!
-trap 'kill $program 2>/dev/null || true' EXIT
+source "$root/tools/tour-support.sh"
+# The programs end with their home, the updater too, which the program starts by itself.
+clean_up() {
+  [ -s "$home/program.pid" ] && kill "$(cat "$home/program.pid")" 2>/dev/null
+  rm -rf "$home"
+}
+# The account service says where it listens, and the program reads that when it starts.
+start_program() {
+  eventually grep -q '"account-listening"' "$home/display.jsonl" || return
+  printf '[Server]\nurl=%s\n' \
+    "$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$home/display.jsonl" | head -n 1)" \
+    >"$home/app/config.ini"
+  "$home/app/VORNApp" 2>"$root/build/run/program.log" &
+  echo $! >"$home/program.pid"
+  wait $! || { printf '\nThe program has ended. Its last lines:\n'; tail -n 5 "$root/build/run/program.log"; } >&2
+}
+
+make_home "$bin"
+trap clean_up EXIT
+"$home/app/apps/zoom" --install >/dev/null
+step "The program comes up; its log goes to build/run/program.log"
+printf 'Sign in as ada@acme.example with the password Engine1843.\n'
 step "The simulated display takes commands here; \"quit\" ends both"
-"$bin/VORNSimulator" --scenario simulator/scenarios/connect.scenario
+touch "$home/display.jsonl"
+start_program &
+"$bin/VORNSimulator" --sysfs "$VORN_SYSFS_ROOT" --scenario simulator/scenarios/desk.scenario |
+  tee "$home/display.jsonl"

@@ -22,10 +22,6 @@ namespace
 constexpr auto kFormType = "application/x-www-form-urlencoded"_L1;
 constexpr auto kJsonType = "application/json"_L1;
 
-// Bounds what Qt's own thread reads ahead. Well above the largest body: that thread may stop
-// somewhat short of this size, and a body that is too long has to be noticed before it does.
-constexpr qint64 kReadBufferSize = 2 * NetworkManager::kMaxBodySize;
-
 QString encodeCredential(const QString& text)
 {
     return QString::fromLatin1(
@@ -77,12 +73,16 @@ QByteArray compactJson(const QJsonObject& object)
 
 } // namespace
 
+NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity)
+    : NetworkManager(baseUrl, identity, Limits())
+{
+}
+
 NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
-                               int requestTimeout, QObject* parent)
-    : QObject(parent)
-    , m_identity(identity)
+                               Limits limits)
+    : m_identity(identity)
     , m_networkAccess(new QNetworkAccessManager(this))
-    , m_requestTimeout(requestTimeout)
+    , m_limits(limits)
     , m_baseUrl(baseUrl)
     , m_loginUrl(baseUrl + "/nc/auth/login"_L1)
     , m_registerUrl(baseUrl + "/nc/users/register"_L1)
@@ -189,6 +189,12 @@ void NetworkManager::profileUpdate(const QString& firstName, const QString& last
     authorise(request, token);
     const QString picture =
         imagePath.isEmpty() ? m_identity.rawPicture() : loadImageToBase64(imagePath);
+    if (picture.size() > m_limits.bodySize / 4 * 3) {
+        Log::error("NetworkManager::profileUpdate")
+            << "picture of " << picture.size() << " letters is too large to be sent";
+        emit profileUpdateFailed(tr("The picture is too large."));
+        return;
+    }
     const QByteArray json = compactJson({{"firstName"_L1, firstName},
                                          {"lastName"_L1, lastName},
                                          {"company"_L1, company},
@@ -293,7 +299,7 @@ void NetworkManager::startRequestTimer(QNetworkReply* reply, TimeoutCallback onT
         cleanupRequest(reply);
     });
     m_activeRequests.insert(reply, timer);
-    timer->start(m_requestTimeout);
+    timer->start(m_limits.requestTimeout);
 }
 
 void NetworkManager::handleResponse(QNetworkReply* reply, SuccessCallback onSuccess,
@@ -360,12 +366,14 @@ std::optional<QString> NetworkManager::decodeReply(QNetworkReply* reply, QJsonOb
 /// Keeps a reply within bounds while it arrives.
 void NetworkManager::guardReply(QNetworkReply* reply)
 {
-    reply->setReadBufferSize(kReadBufferSize);
-    connect(reply, &QNetworkReply::readyRead, this, [reply] {
-        if (reply->bytesAvailable() <= kMaxBodySize)
+    // Bounds what Qt's own thread reads ahead. Well above the largest body: that thread may stop
+    // somewhat short of this size, and a body that is too long has to be noticed before it does.
+    reply->setReadBufferSize(2 * m_limits.bodySize);
+    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
+        if (reply->bytesAvailable() <= m_limits.bodySize)
             return;
         Log::error("NetworkManager::handleResponse")
-            << "response exceeds " << kMaxBodySize << " bytes";
+            << "response exceeds " << m_limits.bodySize << " bytes";
         reply->abort();
     });
     connect(reply, &QNetworkReply::redirected, this, [reply](const QUrl& target) {

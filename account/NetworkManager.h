@@ -30,19 +30,21 @@ class NetworkManager : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int kDefaultRequestTimeout = 30000;
-
-    /// Largest reply body read, in bytes after decompression; a longer one is cut off and counts as
-    /// a broken connection. A profile carries a picture of up to about 2.8 MB.
-    static constexpr qint64 kMaxBodySize = 8LL * 1024 * 1024;
+    struct Limits {
+        /// Milliseconds from sending a request to the end of its reply.
+        int requestTimeout = 30000;
+        /// Largest reply body read, in bytes after decompression; a longer one is cut off and
+        /// counts as a broken connection. A picture that is sent comes back with each sign-in, so
+        /// one whose text takes more than three quarters of this is not sent.
+        qint64 bodySize = 64LL * 1024 * 1024;
+    };
 
     /// @param baseUrl  HTTP or HTTPS address of the service without a trailing slash. With any
     /// other
     ///                 value every request fails as if the server could not be reached.
     /// @param identity  outlives this object.
-    /// @param requestTimeout  milliseconds from sending a request to the end of its reply.
-    NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
-                   int requestTimeout = kDefaultRequestTimeout, QObject* parent = nullptr);
+    NetworkManager(const QString& baseUrl, const AccountIdentity& identity);
+    NetworkManager(const QString& baseUrl, const AccountIdentity& identity, Limits limits);
 
     /// Aborts the requests in flight; they emit nothing any more.
     ~NetworkManager() override;
@@ -53,7 +55,8 @@ public:
     Q_INVOKABLE void resetPassword(const QString& email);
 
     /// Sends the picture file at `imagePath` (a URL or a path), or the present picture if that is
-    /// empty. Does nothing while nobody is signed in.
+    /// empty. Does nothing while nobody is signed in. Encoding a picture takes its time, up to
+    /// seconds for the largest.
     Q_INVOKABLE void profileUpdate(const QString& firstName, const QString& lastName,
                                    const QString& company, const QString& title,
                                    const QString& imagePath);
@@ -96,7 +99,7 @@ private:
     QNetworkAccessManager* m_networkAccess; // child
     QMap<QNetworkReply*, QTimer*> m_activeRequests;
     quint64 m_latestLogin = 0;
-    const int m_requestTimeout;
+    const Limits m_limits;
     const QString m_baseUrl;
     const QString m_loginUrl;
     const QString m_registerUrl;

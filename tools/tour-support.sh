@@ -1,9 +1,15 @@
 # What the tour is made of: a home of its own, checks, pictures, the pointer and the keyboard. To be
 # sourced after common.sh.
 
-# A home of its own keeps the tour away from the user's files and from a running instance.
+# A home of its own keeps what is shown away from the user's files and from a running instance, but not
+# from the user's screen.
 make_home() { # make_home <folder of the built programs>
   home=$(mktemp -d)
+  export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
+  case ${WAYLAND_DISPLAY:-/} in
+  /*) ;;
+  *) export WAYLAND_DISPLAY=${XDG_RUNTIME_DIR:-}/$WAYLAND_DISPLAY ;;
+  esac
   export HOME=$home XDG_STATE_HOME=$home/state XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
   export XDG_CACHE_HOME=$home/cache XDG_RUNTIME_DIR=$home/run TMPDIR=$home/tmp
   export VORN_PORTALHUB_SOCKET=$home/run/portalhub VORN_SYSFS_ROOT=$home/sys

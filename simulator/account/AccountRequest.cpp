@@ -1,5 +1,7 @@
 #include "simulator/account/AccountRequest.h"
 
+#include <algorithm>
+
 QByteArray AccountRequest::path() const
 {
     return target.first(target.size() - (query().isNull() ? 0 : query().size() + 1));
@@ -44,7 +46,7 @@ std::optional<AccountRequest> takeAccountRequest(QByteArray& received)
     }
 
     const auto bodyStart = headEnd + 4;
-    const auto bodySize = request.header("Content-Length").toLongLong();
+    const auto bodySize = std::max(0LL, request.header("Content-Length").toLongLong());
     if (received.size() - bodyStart < bodySize)
         return std::nullopt;
     request.body = received.sliced(bodyStart, bodySize);

@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 
 #include <map>
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +20,51 @@ namespace
 
 const QString kRegistryKey = u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s;
 
-UpdaterOrders::Behaviour behaviourNamed(const QString& name)
+const std::map<QString, UpdaterOrders::Behaviour>& behaviours()
 {
     using enum UpdaterOrders::Behaviour;
-    static const std::map<QString, UpdaterOrders::Behaviour> s_names{
-        {u"never"_s, Never}, {u"dies"_s, Dies}, {u"late"_s, Late}, {u"unkillable"_s, Unkillable}};
-    const auto found = s_names.find(name);
-    return found == s_names.end() ? Well : found->second;
+    static const std::map<QString, UpdaterOrders::Behaviour> s_behaviours{
+        {u"well"_s, Well},
+        {u"never"_s, Never},
+        {u"dies"_s, Dies},
+        {u"late"_s, Late},
+        {u"unkillable"_s, Unkillable}};
+    return s_behaviours;
+}
+
+std::optional<std::chrono::milliseconds> durationOf(const QString& seconds)
+{
+    bool isNumber = false;
+    const double value = seconds.toDouble(&isNumber);
+    if (!isNumber || value < 0 || value > 3600)
+        return {};
+    return std::chrono::milliseconds(qRound(value * 1000));
+}
+
+bool isUnderstood(const QString& key, const QString& value)
+{
+    if (key == "behaviour"_L1)
+        return behaviours().contains(value);
+    if (key == "seconds"_L1)
+        return durationOf(value).has_value();
+    return key == "installed"_L1 || key == "offer"_L1;
+}
+
+/// The orders are read again and again: a mistake is told when it is new.
+void complainOnce(const QSettings& orders)
+{
+    static QStringList s_told;
+    QStringList mistakes;
+    for (const QString& key : orders.allKeys()) {
+        const QString value = orders.value(key).toString();
+        if (!isUnderstood(key, value))
+            mistakes.append(u"not understood: %1=%2"_s.arg(key, value));
+    }
+    for (const QString& mistake : std::as_const(mistakes)) {
+        if (!s_told.contains(mistake))
+            simulator::logUpdater(mistake);
+    }
+    s_told = mistakes;
 }
 
 } // namespace
@@ -37,15 +77,15 @@ QString updaterFolder()
 UpdaterOrders readOrders()
 {
     const QSettings file(updaterFolder() + "/patchpilot.ini"_L1, QSettings::IniFormat);
+    complainOnce(file);
     UpdaterOrders orders;
-    orders.behaviour = behaviourNamed(file.value("behaviour"_L1).toString());
+    const auto behaviour = behaviours().find(file.value("behaviour"_L1).toString());
+    if (behaviour != behaviours().end())
+        orders.behaviour = behaviour->second;
     orders.installed =
         file.value("installed"_L1, QString::fromLatin1(VORN_INSTALLED_VERSION)).toString();
     orders.offer = file.value("offer"_L1).toString();
-    bool isNumber = false;
-    const double seconds = file.value("seconds"_L1).toDouble(&isNumber);
-    if (isNumber && seconds >= 0 && seconds <= 3600)
-        orders.duration = std::chrono::milliseconds(qRound(seconds * 1000));
+    orders.duration = durationOf(file.value("seconds"_L1).toString()).value_or(orders.duration);
     return orders;
 }
 

@@ -20,7 +20,8 @@ struct UpdaterOrders {
 /// The folder that the orders, the log and, on Linux, the registry lie in.
 [[nodiscard]] QString updaterFolder();
 
-/// Read afresh at each call. A file that is missing or holds nonsense gives the defaults.
+/// Read afresh at each call. A file that is missing or holds nonsense gives the defaults, and
+/// each piece of nonsense a line in the log.
 [[nodiscard]] UpdaterOrders readOrders();
 
 /// Appends one line to the log.

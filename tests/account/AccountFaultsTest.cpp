@@ -14,6 +14,13 @@ namespace
 {
 
 constexpr int kShortTimeout = 250;
+constexpr int kPatience = 30'000;
+
+/// With a body size that an endless reply reaches soon.
+NetworkManager::Limits limits(int requestTimeout)
+{
+    return {requestTimeout, 8LL * 1024 * 1024};
+}
 
 const QString kNoConnection = u"Connection to server failed."_s;
 
@@ -123,7 +130,7 @@ void AccountFaultsTest::reportsEachFault()
 
     m_service->setFault(endpoint, fault);
     NetworkManager network(m_service->baseUrl(), m_identity,
-                           timesOut ? kShortTimeout : NetworkManager::kDefaultRequestTimeout);
+                           limits(timesOut ? kShortTimeout : kPatience));
     SignalRecorder recorder(network);
     request.send(network);
     QVERIFY(recorder.waitForEvents(expected.size()));
@@ -150,7 +157,7 @@ void AccountFaultsTest::boundsWhatItReads()
     constexpr qint64 limit = 100 * 1024 * 1024;
     m_service->setFault(Kind::EndlessBody);
     QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
-    NetworkManager network(m_service->baseUrl(), m_identity);
+    NetworkManager network(m_service->baseUrl(), m_identity, limits(kPatience));
     network.login(u"a"_s, u"b"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!closed.isEmpty(), 30'000);
     QTRY_VERIFY(isIdle(network));
@@ -163,7 +170,8 @@ void AccountFaultsTest::destructionIsSilent()
         m_service->setFault(fault);
         QSignalSpy received(m_service.get(), &AccountService::requestReceived);
         QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
-        auto network = std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity);
+        auto network =
+            std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity, limits(kPatience));
         const SignalRecorder recorder(*network);
         for (const Request& request : kRequests)
             request.send(*network);

@@ -26,6 +26,7 @@ private slots:
     void sendsProfileUpdate();
     void sendsChosenPicture();
     void sendsEmptyPictureForAFileThatIsGone();
+    void keepsAPictureThatCouldNotComeBack();
     void keepsOddUserIdsInTheirSegment_data();
     void keepsOddUserIdsInTheirSegment();
     void tokenCannotAddHeaders();
@@ -173,6 +174,21 @@ void AccountRequestsTest::sendsEmptyPictureForAFileThatIsGone()
                           u"E NetworkManager::loadImageToBase64 Failed to load image: "_s + path}));
     QTRY_COMPARE(m_requests.size(), 1);
     QVERIFY(m_requests[0].body.contains("\"picture\":\"\""));
+}
+
+/// Each sign-in's reply would carry it, be cut off, and so lock the user out.
+void AccountRequestsTest::keepsAPictureThatCouldNotComeBack()
+{
+    signInAs(u"1"_s, u"tok"_s);
+    NetworkManager network(m_service->baseUrl(), m_identity, {.bodySize = 4000});
+    const SignalRecorder recorder(network);
+    m_identity.m_rawPicture = QString(3001, u'A');
+    network.profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
+    QCOMPARE(recorder.events, QStringList{u"profileUpdateFailed: The picture is too large."_s});
+    m_identity.m_rawPicture.chop(1);
+    network.profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
+    QTRY_VERIFY(isIdle(network));
+    QCOMPARE(m_requests.size(), 1);
 }
 
 void AccountRequestsTest::keepsOddUserIdsInTheirSegment_data()

@@ -29,15 +29,23 @@ in_root() {
     CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 QT_HASH_SEED=0 "$@"
 }
 
-# Puts the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, into the root. Where nothing is set,
-# an archive in a folder beside the checkout will do.
-need_windows_qt() {
+# Sets `from` to the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, or where nothing is set to an
+# archive in a folder beside the checkout; to nothing when the root holds one already.
+find_windows_qt() {
+  from=""
   [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ] && return
-  local from=${VORN_WINDOWS_QT:-}
+  from=${VORN_WINDOWS_QT:-}
   [ -n "$from" ] || from=$(find "$root/.." -maxdepth 3 -name 'qt-*mingw-w64.tar.xz' -print -quit 2>/dev/null)
   [ -n "$from" ] || fail "there is no Windows Qt" \
     "set VORN_WINDOWS_QT to an archive or folder of one made for /opt/qtwin, or make one with tools/windows/make-qt.sh (80 minutes on two cores)"
   [ -e "$from" ] || fail "there is no Windows Qt at $from" "set VORN_WINDOWS_QT to an archive or folder"
+}
+
+# Puts it into the root.
+need_windows_qt() {
+  local from
+  find_windows_qt
+  [ -n "$from" ] || return 0
   step "Unpacking the Windows Qt"
   if [ -d "$from" ]; then
     cp -a "$from" "$windows_root$windows_qt"
