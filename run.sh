@@ -46,12 +46,9 @@ clean_up() {
   [ -s "$home/program.pid" ] && kill "$(cat "$home/program.pid")" 2>/dev/null
   rm -rf "$home"
 }
-# The account service says where it listens, and the program reads that when it starts.
 start_program() {
   eventually grep -q '"account-listening"' "$home/display.jsonl" || return
-  printf '[Server]\nurl=%s\n' \
-    "$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$home/display.jsonl" | head -n 1)" \
-    >"$home/app/config.ini"
+  use_account_service "$home/display.jsonl"
   "$home/app/VORNApp" 2>"$root/build/run/program.log" &
   echo $! >"$home/program.pid"
   wait $! || { printf '\nThe program has ended. Its last lines:\n'; tail -n 5 "$root/build/run/program.log"; } >&2

@@ -40,8 +40,7 @@ public:
     };
 
     /// @param baseUrl  HTTP or HTTPS address of the service without a trailing slash. With any
-    /// other
-    ///                 value every request fails as if the server could not be reached.
+    /// other value every request fails as if the server could not be reached.
     /// @param identity  outlives this object.
     NetworkManager(const QString& baseUrl, const AccountIdentity& identity);
     NetworkManager(const QString& baseUrl, const AccountIdentity& identity, Limits limits);

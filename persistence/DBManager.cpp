@@ -167,6 +167,12 @@ DBManager::Attempt DBManager::attempt(const QString& sql, const QMap<QString, QV
 DBManager::Attempt DBManager::attemptOpen(const QString& sql, const QMap<QString, QVariant>& params)
 {
     QSqlQuery query(connection());
+    return run(query, sql, params);
+}
+
+DBManager::Attempt DBManager::run(QSqlQuery& query, const QString& sql,
+                                  const QMap<QString, QVariant>& params)
+{
     bool done = query.prepare(sql);
     if (done) {
         for (auto it = params.cbegin(); it != params.cend(); ++it)
@@ -215,14 +221,10 @@ QVariant DBManager::getUserData(const QString& key, const QVariant& defaultValue
     if (!report(catchUp()))
         return defaultValue;
     QSqlQuery query(connection());
-    bool done = query.prepare(u"SELECT value FROM user_settings WHERE key = :key"_s);
-    if (done) {
-        query.bindValue(u":key"_s, key);
-        done = query.exec();
-    }
-    adaptPatience(!done && isLocked(query.lastError()));
-    if (!done) {
-        Log::error(Function) << "Query failed:" << query.lastError().text();
+    const Attempt reading =
+        run(query, u"SELECT value FROM user_settings WHERE key = :key"_s, {{u"key"_s, key}});
+    if (reading.outcome != Attempt::Outcome::Done) {
+        Log::error(Function) << "Query failed:" << reading.error;
         return defaultValue;
     }
     return query.next() ? query.value(0) : defaultValue;

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <mutex>
 
+class QSqlQuery;
 class QThread;
 
 /// The user's data in the SQLite database userdata.db.
@@ -61,6 +62,7 @@ private:
 
     Attempt attempt(const QString& sql, const QMap<QString, QVariant>& params);
     Attempt attemptOpen(const QString& sql, const QMap<QString, QVariant>& params);
+    Attempt run(QSqlQuery& query, const QString& sql, const QMap<QString, QVariant>& params);
     Attempt attemptStore(const QString& key, const QVariant& value);
     Attempt attemptClear();
     Attempt catchUp();

@@ -11,9 +11,7 @@ start_display() {
   exec {display_input}>"$home/commands"
   display account listen
   check "the account service listens" appears '"account-listening"' "$out/display.jsonl"
-  local url
-  url=$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$out/display.jsonl" | head -n 1)
-  printf '[Server]\nurl=%s\n' "$url" >"$home/app/config.ini"
+  use_account_service "$out/display.jsonl"
   convert -size 200x200 radial-gradient:'#7FD1AE'-'#1F4E8C' -fill white -gravity center \
     -pointsize 90 -annotate 0 A "$home/ada.png"
   convert -size 160x120 plasma:tomato-gold "$home/new picture 100%.png"

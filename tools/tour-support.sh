@@ -19,6 +19,12 @@ make_home() { # make_home <folder of the built programs>
   cp -a "$1"/{VORNApp,PatchPilot,config.json} "$1"/apps "$1"/libPortalHub.so* "$home/app"
 }
 
+# Has the program, when it starts, ask the simulated account service, which has told where it listens.
+use_account_service() { # use_account_service <file of the simulator's events>
+  printf '[Server]\nurl=%s\n' \
+    "$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$1" | head -n 1)" >"$home/app/config.ini"
+}
+
 clean_up() {
   [ ${#pids[@]} -gt 0 ] && kill -KILL "${pids[@]}" 2>/dev/null || true
   cp -r "$XDG_STATE_HOME" "$out/state" 2>/dev/null || true

@@ -38,8 +38,8 @@ ${XDG_CONFIG_HOME:-~/.config}/VORNApp, and may be written at any time. Every key
 
 What it does stands in patchpilot.log beside it, a line each: "background", "recorded 1.0.0.0", "found
 2.0.0.0", "update <program>", "installed 2.0.0.0", "died", "installing" (by the other program),
-"started again", "update <program>: another updater is running", "not understood: <key>=<value>". Only one runs at a time in one such
-folder, and it ends when the folder is removed.
+"started again", "update <program>: another updater is running", "not understood: <key>=<value>" (an
+order). Only one runs at a time in one such folder, and it ends when the folder is removed.
 
 Exit codes: 0; 1 for an upgrade that failed and for another updater that is running; 2 for a mistake in
 the command line.
