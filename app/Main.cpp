@@ -13,11 +13,13 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QTimer>
 #include <QtQml>
 
 #include <chrono>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -103,7 +105,13 @@ int main(int argc, char* argv[])
     qml_register_types_VORNApp();
     auto engine = std::make_unique<QQmlApplicationEngine>();
     QObject::connect(engine.get(), &QQmlEngine::warnings, &app, logQmlWarnings);
+    const QUrl mainWindow(u"qrc:/Main.qml"_s);
+    // The engine's own thread reads the pages while this one prepares what they need. It asks by an
+    // event for each module that it has loaded to be set up here.
+    auto pages =
+        std::make_unique<QQmlComponent>(engine.get(), mainWindow, QQmlComponent::Asynchronous);
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
+    QCoreApplication::sendPostedEvents();
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, [&] {
@@ -113,7 +121,8 @@ int main(int argc, char* argv[])
         instance.release();
     });
 
-    engine->load(QUrl(u"qrc:/Main.qml"_s));
+    engine->load(mainWindow);
+    pages.reset();
     if (engine->rootObjects().isEmpty()) {
         Log::error("main") << "QQmlApplicationEngine load error";
         QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);

@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 
 // A text in the application's font. The family arrives as the context property LatoRegular, which
 // the linter cannot see; every other file takes the font from here.
-Label {
+T.Label {
     font.family: LatoRegular // qmllint disable unqualified
     // What comes from outside must not be read as markup.
     textFormat: Text.PlainText

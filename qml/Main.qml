@@ -6,6 +6,8 @@ Window {
 
     // The monitor window while one exists.
     property Window monitorWindow: null
+    // The window is on its way to the screen.
+    property bool placed: false
     // The first frame has been on the screen.
     property bool shown: false
 
@@ -40,7 +42,10 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     title: "VORNApp"
 
-    Component.onCompleted: showAndRaise()
+    Component.onCompleted: {
+        showAndRaise();
+        placed = true;
+    }
     onFrameSwapped: shown = true
     onClosing: close => {
         close.accepted = false;
@@ -82,16 +87,19 @@ Window {
             }
         }
 
-        LoginPage {
+        // Made while the system brings up the window.
+        Loader {
             anchors.fill: parent
+            active: mainWindow.placed
             visible: !mainWindow.device.login
+            sourceComponent: LoginPage {}
         }
 
         // To a user who has to sign in first it comes after the window is there. By its file's name, since
         // a component would have all the pages behind it read with this file.
         Loader {
             anchors.fill: parent
-            active: mainWindow.device.login || mainWindow.shown
+            active: mainWindow.placed && mainWindow.device.login || mainWindow.shown
             visible: mainWindow.device.login
             source: "MainPage.qml"
         }

@@ -51,7 +51,7 @@ DisplayTest {
         verify(!test.control("volumeBadge").layer.enabled);
         compare(slider.value, 20);
         compare(test.control("fill").width, 128);
-        compare((test.control("volumeValue") as Label).text, "20%");
+        compare((test.control("volumeValue") as Text).text, "20%");
         test.answer(1, "volume", 100);
         compare(test.control("fill").width, 640);
         compare(test.sent(), []);
@@ -69,7 +69,7 @@ DisplayTest {
         for (let x = 128; x <= 384; x += 16)
             mouseMove(slider, x, 26);
         compare(slider.value, 60);
-        compare((test.control("volumeValue") as Label).text, "60%");
+        compare((test.control("volumeValue") as Text).text, "60%");
         compare(test.sent(), []);
         mouseRelease(slider, 384, 26);
         compare(test.sent(), [test.volume(60)]);
@@ -116,8 +116,8 @@ DisplayTest {
 
     function test_clockFollowsTheTime(): void {
         test.page.now = new Date(2025, 4, 9, 21, 7);
-        compare((test.control("time") as Label).text, "09:07 PM");
-        compare((test.control("date") as Label).text, "Fri, May 09, 2025");
+        compare((test.control("time") as Text).text, "09:07 PM");
+        compare((test.control("date") as Text).text, "Fri, May 09, 2025");
         tryVerify(() => test.page.now.getFullYear() > 2025);
     }
 }
