@@ -43,8 +43,8 @@ Window {
     title: "VORNApp"
 
     Component.onCompleted: {
+        placed = true; // first: raising waits for the system, which is busy with the window
         showAndRaise();
-        placed = true;
     }
     onFrameSwapped: shown = true
     onClosing: close => {

@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 
 // A line of text that checks what is typed: against `allowedChars` and, where a page gives one, its
 // `onContentCheck`, whenever the focus leaves it and before it is submitted.
-TextField {
+T.TextField {
     id: field
 
     enum Mark {
@@ -144,6 +144,7 @@ TextField {
     width: 375
     height: 38
     maximumLength: 64
+    padding: 6
     leftPadding: 15
     rightPadding: enablePasswordMode ? 15 + revealButton.width + 15 : 15
     verticalAlignment: TextInput.AlignVCenter
@@ -261,6 +262,21 @@ TextField {
             font.pixelSize: 12
             color: "#BBC7CE"
         }
+    }
+
+    // All that a style would add to the template; without one the window comes up sooner.
+    LatoRegularLabel {
+        objectName: "placeholder"
+        x: field.leftPadding
+        y: field.topPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height - field.topPadding - field.bottomPadding
+        text: field.placeholderText
+        font: field.font
+        color: field.placeholderTextColor
+        elide: Text.ElideRight
+        visible: field.length === 0 && field.preeditText === ""
+        Accessible.ignored: true // the field's name tells it
     }
 
     LatoRegularLabel {

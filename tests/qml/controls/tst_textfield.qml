@@ -264,6 +264,20 @@ TestCase {
         compare(field.rightPadding, 15);
     }
 
+    function test_placeholderGivesWay(): void {
+        const field = create({});
+        const placeholder = findChild(field, "placeholder");
+        verify(placeholder.visible);
+        compare(placeholder.text, "Email");
+        compare(placeholder.x + placeholder.width, field.width - field.rightPadding);
+        field.placeholderText = "A text that is far too long for a field of this width, and goes on";
+        verify(placeholder.truncated);
+        field.text = "a";
+        verify(!placeholder.visible);
+        field.reset();
+        verify(placeholder.visible);
+    }
+
     function test_screenReader(): void {
         const field = create({});
         compare(field.Accessible.name, "Email");
