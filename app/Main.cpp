@@ -106,11 +106,11 @@ int main(int argc, char* argv[])
     auto engine = std::make_unique<QQmlApplicationEngine>();
     QObject::connect(engine.get(), &QQmlEngine::warnings, &app, logQmlWarnings);
     const QUrl mainWindow(u"qrc:/Main.qml"_s);
-    // The engine's own thread reads the pages while this one prepares what they need. It asks by an
-    // event for each module that it has loaded to be set up here.
+    // The engine's own thread reads the pages while this one prepares what they need.
     auto pages =
         std::make_unique<QQmlComponent>(engine.get(), mainWindow, QQmlComponent::Asynchronous);
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
+    // That thread asks this one, by an event, to set up each module that it has loaded, and waits.
     QCoreApplication::sendPostedEvents();
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());
