@@ -1,5 +1,5 @@
+#include "portalhub/SocketName.h"
 #include "simulator/Simulator.h"
-#include "simulator/portalhub/SocketName.h"
 #include "simulator/script/StdinReader.h"
 
 #include <QCommandLineParser>

@@ -5,7 +5,7 @@ set -u
 cd "$(dirname "$0")/.." || exit 1
 
 compiler=x86_64-w64-mingw32-g++-posix
-rooms=(account app device launch logging peripherals persistence platform qml simulator)
+rooms=(account app device launch logging peripherals persistence platform portalhub qml simulator)
 
 fail() {
     echo "check-windows: $1" >&2
@@ -38,7 +38,7 @@ flags=(
     -DUNICODE -D_UNICODE -D_WIN32_WINNT=0x0A00
     -DGLOG_NO_ABBREVIATED_SEVERITIES -DGLOG_CUSTOM_PREFIX_SUPPORT=1
     '-DVORN_ACCOUNT_URL="https://account.vornapp.example"' '-DVORN_INSTALLED_VERSION="1.0.0"'
-    -I. -Isimulator/portalhub -isystem tools/windows-headers -isystem "$work/include" -isystem "$qt_headers"
+    -I. -Iportalhub -isystem tools/windows-headers -isystem "$work/include" -isystem "$qt_headers"
 )
 while read -r definition; do
     flags+=("-D$definition")
@@ -54,7 +54,7 @@ compile() {
     local source=$1
     local own=()
     # The channel library exports what the program imports.
-    [[ $source == simulator/portalhub/* ]] && own=(-DPORTALHUB_BUILD)
+    [[ $source == portalhub/* ]] && own=(-DPORTALHUB_BUILD)
     # The same name each time, so that a compiler cache finds the object again.
     local object="$work/${source//\//_}.o"
     if "${launcher[@]}" "$compiler" "${flags[@]}" "${own[@]}" -o "$object" "$source" >"$object.log" 2>&1; then

@@ -25,6 +25,6 @@ step "Static analysis"
 mkdir -p build
 configure_and_build build/dev --preset dev
 git ls-files 'app/*.cpp' 'device/*.cpp' 'peripherals/*.cpp' 'persistence/*.cpp' 'launch/*.cpp' \
-  'account/*.cpp' 'logging/*.cpp' 'platform/*.cpp' 'simulator/*.cpp' | grep -v windows/ |
+  'account/*.cpp' 'logging/*.cpp' 'platform/*.cpp' 'portalhub/*.cpp' 'simulator/*.cpp' | grep -v windows/ |
   xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/dev --extra-arg=-Wno-unknown-warning-option 2>/dev/null ||
   fail "clang-tidy" "look at the lines above"

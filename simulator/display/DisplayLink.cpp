@@ -1,6 +1,6 @@
 #include "simulator/display/DisplayLink.h"
 
-#include "simulator/portalhub/MessageLine.h"
+#include "portalhub/MessageLine.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/portalhub/LineReader.h"
+#include "portalhub/LineReader.h"
 
 #include <QByteArray>
 #include <QLocalServer>

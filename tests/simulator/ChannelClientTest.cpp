@@ -1,7 +1,7 @@
-#include "simulator/portalhub/ChannelClient.h"
+#include "portalhub/ChannelClient.h"
+#include "portalhub/MessageLine.h"
 #include "simulator/display/DisplayLink.h"
 #include "simulator/display/MalformedLine.h"
-#include "simulator/portalhub/MessageLine.h"
 #include "tests/simulator/ChannelRig.h"
 
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
-#include "simulator/portalhub/LineReader.h"
-#include "simulator/portalhub/MessageLine.h"
-#include "simulator/portalhub/OutgoingQueue.h"
+#include "portalhub/LineReader.h"
+#include "portalhub/MessageLine.h"
+#include "portalhub/OutgoingQueue.h"
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "simulator/display/DisplayLink.h"
-#include "simulator/portalhub/ChannelClient.h"
+#include "portalhub/ChannelClient.h"
 #include "tests/simulator/ChannelRig.h"
 
 #include <QFile>

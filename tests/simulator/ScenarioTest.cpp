@@ -1,5 +1,5 @@
+#include "portalhub/ChannelClient.h"
 #include "simulator/Simulator.h"
-#include "simulator/portalhub/ChannelClient.h"
 #include "tests/simulator/ChannelRig.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "simulator/script/StdinReader.h"
 
-#include "simulator/portalhub/LineReader.h"
+#include "portalhub/LineReader.h"
 
 #include <array>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "simulator/portalhub/SocketName.h"
+#include "portalhub/SocketName.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "simulator/portalhub/PortalHub.h"
+#include "portalhub/PortalHub.h"
 
-#include "simulator/portalhub/ChannelClient.h"
-#include "simulator/portalhub/SocketName.h"
+#include "portalhub/ChannelClient.h"
+#include "portalhub/SocketName.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

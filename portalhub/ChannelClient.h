@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/portalhub/OutgoingQueue.h"
-#include "simulator/portalhub/PortalHub.h"
+#include "portalhub/OutgoingQueue.h"
+#include "portalhub/PortalHub.h"
 
 #include <QDeadlineTimer>
 #include <QString>

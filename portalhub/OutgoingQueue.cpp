@@ -1,4 +1,4 @@
-#include "simulator/portalhub/OutgoingQueue.h"
+#include "portalhub/OutgoingQueue.h"
 
 #include <utility>
 

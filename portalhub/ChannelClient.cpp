@@ -1,7 +1,7 @@
-#include "simulator/portalhub/ChannelClient.h"
+#include "portalhub/ChannelClient.h"
 
-#include "simulator/portalhub/ChannelWorker.h"
-#include "simulator/portalhub/MessageLine.h"
+#include "portalhub/ChannelWorker.h"
+#include "portalhub/MessageLine.h"
 
 #include <QThread>
 

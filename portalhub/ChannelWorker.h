@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/portalhub/EndSignal.h"
-#include "simulator/portalhub/LineReader.h"
-#include "simulator/portalhub/OutgoingQueue.h"
+#include "portalhub/EndSignal.h"
+#include "portalhub/LineReader.h"
+#include "portalhub/OutgoingQueue.h"
 
 #include <QObject>
 

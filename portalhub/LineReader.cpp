@@ -1,4 +1,4 @@
-#include "simulator/portalhub/LineReader.h"
+#include "portalhub/LineReader.h"
 
 using namespace channel;
 

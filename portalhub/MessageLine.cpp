@@ -1,4 +1,4 @@
-#include "simulator/portalhub/MessageLine.h"
+#include "portalhub/MessageLine.h"
 
 #include <charconv>
 #include <system_error>

@@ -1,6 +1,6 @@
-#include "simulator/portalhub/ChannelWorker.h"
+#include "portalhub/ChannelWorker.h"
 
-#include "simulator/portalhub/MessageLine.h"
+#include "portalhub/MessageLine.h"
 
 #include <QDebug>
 #include <QLocalSocket>
