@@ -1,7 +1,7 @@
 #include "app/Program.h"
 
-#include "launch/InstalledVersions.h"
 #include "peripherals/DeviceCheck.h"
+#include "persistence/InstalledVersions.h"
 #include "persistence/StandardTasks.h"
 #include "platform/Folders.h"
 

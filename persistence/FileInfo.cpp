@@ -1,6 +1,7 @@
 #include "persistence/FileInfo.h"
 
 #include "logging/Log.h"
+#include "persistence/Keys.h"
 #include "platform/Registry.h"
 #include "platform/VersionResource.h"
 
@@ -32,10 +33,10 @@ void logKept(const QString& key)
 
 FileInfo::FileInfo(QString configPath)
     : m_configPath(std::move(configPath))
-    , m_k4vLowestVer(u"3.9.6"_s)
+    , m_k4vLowestVer(keys::DefaultLowestFirmware)
     , m_useRemoteDeviceInterval(kDefaultInterval)
     , m_serverUrl(QStringLiteral(VORN_ACCOUNT_URL))
-    , m_googleMeetingUrl(u"https://meet.google.com/landing?hs=197&authuser=0"_s)
+    , m_googleMeetingUrl(keys::DefaultGoogleMeetingUrl)
 {
     FileInfo* none = nullptr;
     s_instance.compare_exchange_strong(none, this);
@@ -84,14 +85,14 @@ void FileInfo::readConfig()
     const QSettings settings(m_configPath, QSettings::IniFormat);
     if (settings.status() == QSettings::FormatError)
         Log::error("FileInfo::FileInfo") << m_configPath << " holds lines that cannot be read";
-    readString(settings, u"K4V/lowest_ver"_s, m_k4vLowestVer);
-    readInterval(settings, u"VORNApp/use_remote_device_interval"_s, m_useRemoteDeviceInterval);
-    readBool(settings, u"VORNApp/use_remote_device"_s, m_useRemoteDevice);
-    readBool(settings, u"VORNApp/support_launch_zoom"_s, m_supportLaunchZoom);
-    readBool(settings, u"VORNApp/support_launch_teams"_s, m_supportLaunchTeams);
-    readBool(settings, u"VORNApp/support_launch_google"_s, m_supportLaunchGoogle);
-    readString(settings, u"Server/url"_s, m_serverUrl);
-    readString(settings, u"VORNApp/google_meeting_url"_s, m_googleMeetingUrl);
+    readString(settings, keys::config::LowestFirmware, m_k4vLowestVer);
+    readInterval(settings, keys::config::RemoteDeviceInterval, m_useRemoteDeviceInterval);
+    readBool(settings, keys::config::RemoteDevice, m_useRemoteDevice);
+    readBool(settings, keys::config::LaunchZoom, m_supportLaunchZoom);
+    readBool(settings, keys::config::LaunchTeams, m_supportLaunchTeams);
+    readBool(settings, keys::config::LaunchGoogle, m_supportLaunchGoogle);
+    readString(settings, keys::config::ServerUrl, m_serverUrl);
+    readString(settings, keys::config::GoogleMeetingUrl, m_googleMeetingUrl);
 }
 
 void FileInfo::readString(const QSettings& settings, const QString& key, QString& member) const

@@ -2,9 +2,8 @@
 
 #include "launch/MeetingLauncher.h"
 #include "persistence/FileInfo.h"
+#include "persistence/Keys.h"
 #include "persistence/UserSettings.h"
-
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -21,20 +20,22 @@ TaskQueue::Actions standardTasks(FileInfo& fileInfo, std::function<UserSettings&
                                  MeetingLauncher& launcher)
 {
     return {
-        {u"saveRegistry"_s,
+        {keys::task::SaveRegistry,
          [&fileInfo](const QVariantList& args) {
              fileInfo.saveRegistry(args.value(0).toString(), args.value(1).toString(),
                                    args.value(2));
          }},
-        {u"saveConfig"_s,
+        {keys::task::SaveConfig,
          [&fileInfo](const QVariantList& args) {
              fileInfo.saveConfig(args.value(0).toString(), args.value(1).toString(), args.value(2));
          }},
-        {u"saveDB"_s, [userSettings = std::move(userSettings)](
-                          const QVariantList& args) { saveToStore(userSettings(), args); }},
-        {u"launchZoom"_s, [&launcher](const QVariantList&) { launcher.startZoom(); }},
-        {u"launchTeams"_s, [&launcher](const QVariantList&) { launcher.startTeams(); }},
-        {u"launchGoogleMeeting"_s,
+        {keys::task::SaveUserData,
+         [userSettings = std::move(userSettings)](const QVariantList& args) {
+             saveToStore(userSettings(), args);
+         }},
+        {keys::task::LaunchZoom, [&launcher](const QVariantList&) { launcher.startZoom(); }},
+        {keys::task::LaunchTeams, [&launcher](const QVariantList&) { launcher.startTeams(); }},
+        {keys::task::LaunchGoogleMeeting,
          [&launcher](const QVariantList&) { launcher.openGoogleMeeting(); }},
     };
 }

@@ -1,4 +1,3 @@
-#include "launch/InstalledVersions.h"
 #include "launch/ProcessManager.h"
 #include "platform/Folders.h"
 #include "platform/Registry.h"
@@ -50,7 +49,6 @@ private slots:
     void startsZoom();
     void startsTheFirstTeamsThatWill();
     void logsWhereTeamsIsNot();
-    void readsVersions();
 
 private:
     [[nodiscard]] QString path(const QString& name) const { return m_home->filePath(name); }
@@ -367,16 +365,6 @@ void tst_ProcessManager::logsWhereTeamsIsNot()
     const QString program = install(u"data/Microsoft/Teams/current/Teams"_s);
     QVERIFY(ProcessManager::findTeamsPath(folder + "/../current"_L1, u"Teams"_s, found));
     QCOMPARE(QFileInfo(found).canonicalFilePath(), QFileInfo(program).canonicalFilePath());
-}
-
-void tst_ProcessManager::readsVersions()
-{
-    QVERIFY(installedVersionValue(u"version"_s).isEmpty());
-    QVERIFY(
-        platform::writeRegistry(u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s,
-                                u"version"_s, u"1.2.10"_s));
-    QCOMPARE(installedVersionValue(u"version"_s), u"1.2.10"_s);
-    QVERIFY(installedVersionValue(u"newver"_s).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_ProcessManager)

@@ -1,7 +1,7 @@
-#include "launch/InstalledVersions.h"
 #include "launch/ProcessManager.h"
 #include "launch/SystemProgramControl.h"
 #include "launch/UpgradeControl.h"
+#include "persistence/InstalledVersions.h"
 #include "platform/Processes.h"
 
 #include <QCoreApplication>

@@ -4,5 +4,5 @@
 
 /// A version that the updater records in the registry, empty when there is none. The program only
 /// reads them. Any thread.
-/// @param name  "version": the installed application; "newver": a newer package that was found
+/// @param name  keys::registry::InstalledVersion or NewVersion
 [[nodiscard]] QString installedVersionValue(const QString& name);
