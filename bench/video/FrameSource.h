@@ -13,11 +13,8 @@ qint64 now();
 class FrameSource
 {
 public:
-    /// Body of that process.
-    static int run(const QString& mappingName, const QString& eventName);
-
     /// Starts the process and waits for its objects.
-    FrameSource(const QString& program, const QString& mappingName, const QString& eventName);
+    FrameSource(const QString& mappingName, const QString& eventName);
     ~FrameSource();
 
     /// Has frames written; returns at once.

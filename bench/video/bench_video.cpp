@@ -307,16 +307,12 @@ void watchSlowSink(const Names& names, FrameSource& source)
 int main(int argc, char** argv)
 {
     const QCoreApplication app(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() == 4 && arguments.at(1) == "--writer"_L1)
-        return FrameSource::run(arguments.at(2), arguments.at(3));
-
     const QTemporaryDir folder;
     FLAGS_stderrthreshold = google::GLOG_FATAL;
     FLAGS_log_dir = folder.path().toStdString();
     google::InitGoogleLogging(argv[0]);
     const Names names;
-    FrameSource source(QCoreApplication::applicationFilePath(), names.mapping, names.event);
+    FrameSource source(names.mapping, names.event);
     compareCopies(names, source);
     compareLatencies(names, source);
     watchSlowSink(names, source);

@@ -93,19 +93,18 @@ void VideoFeature::addFaultCommands(CommandInterpreter& interpreter)
                      [this](CommandArguments&) -> CommandAction {
                          return [this] { return outcomeOf(comeBack()); };
                      }});
-    interpreter.add({u"video hostile"_s, u"<kind> [<frames>]"_s,
-                     u"Makes that many of the next frames (1) wrong. Kinds: "_s +
-                         FrameWriter::hostileKinds().mid(0, 5).join(u", "_s) + u",\n"_s +
-                         FrameWriter::hostileKinds().mid(5).join(u", "_s) +
-                         u" (right when announced, and changed while it is read)."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
-                         const int kind = arguments.choice(FrameWriter::hostileKinds());
-                         const int frames =
-                             arguments.atEnd()
-                                 ? 1
-                                 : arguments.integer(u"the number of frames"_s, 1, 1'000'000);
-                         return simpleAction([this, kind, frames] { setHostile(kind, frames); });
-                     }});
+    interpreter.add(
+        {u"video hostile"_s, u"<kind> [<frames>]"_s,
+         u"Makes that many of the next frames (1) wrong. Kinds: "_s +
+             FrameWriter::faultNames().mid(0, 5).join(u", "_s) + u",\n"_s +
+             FrameWriter::faultNames().mid(5).join(u", "_s) +
+             u" (right when announced, and changed while it is read)."_s,
+         [this](CommandArguments& arguments) -> CommandAction {
+             const auto fault = FrameWriter::Fault(arguments.choice(FrameWriter::faultNames()));
+             const int frames =
+                 arguments.atEnd() ? 1 : arguments.integer(u"the number of frames"_s, 1, 1'000'000);
+             return simpleAction([this, fault, frames] { setHostile(fault, frames); });
+         }});
 }
 
 void VideoFeature::addExpectations(CommandInterpreter& interpreter)

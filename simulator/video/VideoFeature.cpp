@@ -92,11 +92,12 @@ void VideoFeature::stop()
 
 QString VideoFeature::makeObjects()
 {
-    QString error;
     m_writer.reset();
     m_objects.reset(); // before its names are given to others
-    m_objects = makeFrameObjects(m_names.mapping, m_names.event, frame::MappingSize, error);
-    if (!m_objects) {
+    m_objects = makeFrameObjects(m_names.mapping.toStdString(), m_names.event.toStdString());
+    if (!m_objects->makeMemory(framelayout::MappingSize) || !m_objects->makeEvent()) {
+        const QString error = u"the shared memory cannot be made: "_s + qt_error_string();
+        m_objects.reset();
         m_timer.stop();
         if (m_state != State::Stopped)
             setState(State::Dead); // from which the return can be tried again
@@ -118,7 +119,7 @@ QString VideoFeature::listenToThePointer()
 QString VideoFeature::setSize(int width, int height)
 {
     if (width % 2 != 0 || height % 2 != 0 ||
-        qsizetype(width) * height * 3 / 2 > frame::MaximumDataSize)
+        qsizetype(width) * height * 3 / 2 > framelayout::MaximumDataSize)
         return u"the size must be even, and at most that of 3840 x 2160"_s;
     m_size = {width, height};
     m_picture.reset();
@@ -177,16 +178,16 @@ QString VideoFeature::cutShort()
 {
     if (!m_objects)
         return u"the video does not run"_s;
-    if (!m_objects->cutShort(CutSize))
+    if (!m_objects->resize(CutSize))
         return u"this system cannot cut a shared memory short"_s;
     m_timer.start(); // it goes on announcing
     setState(State::CutShort);
     return {};
 }
 
-void VideoFeature::setHostile(int kind, int frames)
+void VideoFeature::setHostile(FrameWriter::Fault fault, int frames)
 {
-    m_hostileKind = kind;
+    m_fault = fault;
     m_hostileFrames = frames;
 }
 
@@ -199,9 +200,11 @@ void VideoFeature::writeFrame()
     if (!m_picture)
         m_picture.emplace(m_size);
     const QByteArray& data = m_picture->draw(m_flow, m_camera, ++m_frameNumber);
-    if (m_hostileFrames == 0)
-        return m_writer->write(m_frameNumber, m_size, data);
-    m_writer->writeHostile(m_hostileKind, m_frameNumber, m_size, data);
+    if (m_hostileFrames == 0) {
+        m_writer->write(m_frameNumber, m_size, data);
+        return;
+    }
+    m_writer->writeFaulty(m_fault, m_frameNumber, m_size, data);
     if (--m_hostileFrames == 0)
         m_log.write(u"hostile-frames-written"_s, {{u"frames"_s, qint64(m_frameNumber)}});
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "framewriter/FrameLayout.h"
+#include "framewriter/FrameObjects.h"
+#include "framewriter/FrameWriter.h"
 #include "simulator/display/CameraHead.h"
 #include "simulator/script/Feature.h"
 #include "simulator/script/MessageMemory.h"
-#include "simulator/video/FrameLayout.h"
-#include "simulator/video/FrameObjects.h"
-#include "simulator/video/FrameWriter.h"
 #include "simulator/video/SetupFlow.h"
 #include "simulator/video/SetupPicture.h"
 
@@ -29,8 +29,8 @@ class VideoFeature : public Feature
 public:
     /// What is fixed between the writer and the program, and a test's own instead.
     struct Names {
-        QString mapping = QString::fromLatin1(frame::MappingName);
-        QString event = QString::fromLatin1(frame::EventName);
+        QString mapping = QString::fromLatin1(framelayout::MappingName);
+        QString event = QString::fromLatin1(framelayout::EventName);
         quint16 pointerPort = 49176;
     };
 
@@ -70,7 +70,7 @@ private:
     QString die();
     QString comeBack();
     QString cutShort();
-    void setHostile(int kind, int frames);
+    void setHostile(FrameWriter::Fault fault, int frames);
     void setState(State state);
 
     void writeFrame();
@@ -84,7 +84,7 @@ private:
     QSize m_size{1920, 1080};
     int m_rate = 30;
     quint32 m_frameNumber = 0;
-    int m_hostileKind = 0;
+    FrameWriter::Fault m_fault{};
     int m_hostileFrames = 0;
     SetupFlow m_flow;
     std::optional<CameraView> m_camera;

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "device/FrameHeader.h"
+#include "framewriter/FrameLayout.h"
 #include "platform/FrameChannel.h"
-
-#include <QtEndian>
 
 #include <cstring>
 #include <functional>
@@ -49,16 +48,12 @@ public:
     }
 
     uchar* view() { return m_view.data(); }
-    uchar* data() { return view() + 1 + FrameHeader::HeaderSize; }
+    uchar* data() { return view() + framelayout::DataOffset; }
 
     void putHeader(const FrameHeader& header)
     {
-        m_view[0] = header.index;
-        uchar* const slot = view() + 1;
-        qToLittleEndian(header.frame_idx, slot);
-        qToLittleEndian(header.w, slot + 4);
-        qToLittleEndian(header.h, slot + 6);
-        qToLittleEndian(header.len, slot + 8);
+        framelayout::store({header.index, header.frame_idx, header.w, header.h, header.len},
+                           view());
     }
 
     std::function<OpenResult()> onOpen;

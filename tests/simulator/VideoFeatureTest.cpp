@@ -300,7 +300,7 @@ void VideoFeatureTest::aButtonWorksWhereItWasPressedOnly()
 void VideoFeatureTest::hostileFramesAreSurvived_data()
 {
     QTest::addColumn<QString>("kind");
-    for (const QString& kind : FrameWriter::hostileKinds())
+    for (const QString& kind : FrameWriter::faultNames())
         QTest::newRow(qPrintable(kind)) << kind;
 }
 

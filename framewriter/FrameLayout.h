@@ -4,10 +4,12 @@
 
 #include <cstddef>
 
-/// The shared memory that carries the display's screen: one byte, the number of the newest slot,
-/// and then slots of a header and NV12 data, of which the program sees the first only. Numbers are
-/// little-endian.
-namespace simulator::frame
+/// Layout of the shared memory that carries the display's screen: one byte with the number of the
+/// newest slot, followed by slots of a header and NV12 data. Only slot 0 lies within the memory.
+/// Numbers are little-endian.
+///
+/// Kept apart from the definition that the reader uses, so that each checks the other.
+namespace framelayout
 {
 
 inline constexpr auto MappingName = "vorn_vframe_header_2025_05_19";
@@ -24,7 +26,11 @@ struct Header {
     quint32 number = 0; ///< the writer's frame counter
     quint16 width = 0;
     quint16 height = 0;
-    qint32 length = 0;
+    qint32 length = 0; ///< number of data bytes
 };
 
-} // namespace simulator::frame
+/// Stores a header at the beginning of the memory. The index, which a reader reads first, is
+/// written last.
+void store(const Header& header, uchar* memory);
+
+} // namespace framelayout
