@@ -20,28 +20,28 @@ std::string compact(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }
 
-std::string buildMessage(ChannelCommand cmd, ChannelMessageType type, QJsonObject payload = {})
+ChannelMessage buildMessage(ChannelCommand cmd, ChannelMessageType type, QJsonObject payload = {})
 {
     static std::atomic<int> s_seq{0};
     payload["cmd"_L1] = static_cast<int>(cmd);
     payload["seq"_L1] = ++s_seq;
     payload["type"_L1] = static_cast<int>(type);
-    return compact(payload);
+    return {cmd, compact(payload)};
 }
 
-std::string buildCommandWith(ChannelCommand cmd, const QJsonObject& payload)
+ChannelMessage buildCommandWith(ChannelCommand cmd, const QJsonObject& payload)
 {
     return buildMessage(cmd, ChannelMessageType::Command, payload);
 }
 
-/// A source report as the display means it: a selected source excludes the other one, and without a
-/// selection the values count only while the display shows its source picker.
-struct SourceState {
+struct Sources {
     int byod = 0;
     int zoom = 0;
 };
 
-SourceState readSourceState(const QJsonObject& message)
+/// A selected source excludes the other one. Without a selection the values count only while the
+/// display shows its source picker.
+Sources readSources(const QJsonObject& message)
 {
     constexpr int Selected = 2;
     const int byod = message["byod_status"_L1].toInt();
@@ -63,37 +63,35 @@ DealChannelMsg::DealChannelMsg(DisplayReports& display, CameraReports& camera)
 {
 }
 
-bool DealChannelMsg::PraseJson(const std::string& msg, std::string& reply, bool& needReply) const
+std::optional<std::string> DealChannelMsg::PraseJson(const std::string& msg) const
 {
     const auto document = QJsonDocument::fromJson(
         QByteArray::fromRawData(msg.data(), static_cast<qsizetype>(msg.size())));
     if (document.isNull()) {
         Log::error("DealChannelMsg::PraseJson")
             << "Failed to parse JSON: JSON document is null or invalid format.";
-        return false;
+        return std::nullopt;
     }
     if (!document.isObject()) {
         Log::error("DealChannelMsg::PraseJson")
             << "Failed to parse JSON: Root element is not an object.";
-        return false;
+        return std::nullopt;
     }
 
     const QJsonObject message = document.object();
     const auto type = static_cast<ChannelMessageType>(message["type"_L1].toInt());
     if (type == ChannelMessageType::Acknowledgement)
-        return true;
+        return std::nullopt;
 
     dispatch(message);
 
     if (type != ChannelMessageType::Query && type != ChannelMessageType::Command)
-        return true;
+        return std::nullopt;
     QJsonObject answer = message;
     answer["type"_L1] =
         static_cast<int>(type == ChannelMessageType::Query ? ChannelMessageType::Answer
                                                            : ChannelMessageType::Acknowledgement);
-    reply = compact(answer);
-    needReply = true;
-    return true;
+    return compact(answer);
 }
 
 void DealChannelMsg::dispatch(const QJsonObject& message) const
@@ -109,7 +107,7 @@ void DealChannelMsg::dispatch(const QJsonObject& message) const
         break;
     case ChannelCommand::SourceState: {
         m_display.setShareStatusReady(1);
-        const SourceState source = readSourceState(message);
+        const Sources source = readSources(message);
         m_display.setByodSwitch(source.byod, FromDisplay);
         m_display.setZoomSwitch(source.zoom, FromDisplay);
         break;
@@ -119,10 +117,11 @@ void DealChannelMsg::dispatch(const QJsonObject& message) const
         m_display.setRemoteVer(message["ota_ver"_L1].toString());
         break;
     case ChannelCommand::AutoFraming:
-        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, FromDisplay);
+        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, Direction::FromDisplay);
         break;
     case ChannelCommand::SmartFraming:
-        m_camera.setSmartFraming(message["smartframestatus"_L1].toInt() != 0, FromDisplay);
+        m_camera.setSmartFraming(message["smartframestatus"_L1].toInt() != 0,
+                                 Direction::FromDisplay);
         break;
     case ChannelCommand::CameraSwitch:
         m_camera.setCameraSwitch(message["camerastatus"_L1].toInt());
@@ -133,42 +132,42 @@ void DealChannelMsg::dispatch(const QJsonObject& message) const
     }
 }
 
-std::string DealChannelMsg::buildCommand(ChannelCommand cmd)
+ChannelMessage DealChannelMsg::buildCommand(ChannelCommand cmd)
 {
     return buildMessage(cmd, ChannelMessageType::Command);
 }
 
-std::string DealChannelMsg::buildQuery(ChannelCommand cmd)
+ChannelMessage DealChannelMsg::buildQuery(ChannelCommand cmd)
 {
     return buildMessage(cmd, ChannelMessageType::Query);
 }
 
-std::string DealChannelMsg::buildVolume(int volume)
+ChannelMessage DealChannelMsg::buildVolume(int volume)
 {
     return buildCommandWith(ChannelCommand::Volume, {{u"volume"_s, volume}});
 }
 
-std::string DealChannelMsg::buildByodStatus(int byodStatus)
+ChannelMessage DealChannelMsg::buildByodStatus(int byodStatus)
 {
     return buildCommandWith(ChannelCommand::SelectByod, {{u"byod_status"_s, byodStatus}});
 }
 
-std::string DealChannelMsg::buildZoomStatus(int zoomStatus)
+ChannelMessage DealChannelMsg::buildZoomStatus(int zoomStatus)
 {
     return buildCommandWith(ChannelCommand::SelectZoom, {{u"zoom_status"_s, zoomStatus}});
 }
 
-std::string DealChannelMsg::buildAutoFraming(bool on)
+ChannelMessage DealChannelMsg::buildAutoFraming(bool on)
 {
     return buildCommandWith(ChannelCommand::AutoFraming, {{u"autoframestatus"_s, on ? 1 : 0}});
 }
 
-std::string DealChannelMsg::buildSmartFraming(bool on)
+ChannelMessage DealChannelMsg::buildSmartFraming(bool on)
 {
     return buildCommandWith(ChannelCommand::SmartFraming, {{u"smartframestatus"_s, on ? 1 : 0}});
 }
 
-std::string DealChannelMsg::buildCameraScale(int scaleType, int scaleStatus)
+ChannelMessage DealChannelMsg::buildCameraScale(int scaleType, int scaleStatus)
 {
     return buildCommandWith(ChannelCommand::CameraScale, {{u"cmdtype"_s, u"CameraControl"_s},
                                                           {u"control"_s, u"scale"_s},
@@ -176,17 +175,10 @@ std::string DealChannelMsg::buildCameraScale(int scaleType, int scaleStatus)
                                                           {u"scalestatus"_s, scaleStatus}});
 }
 
-std::string DealChannelMsg::buildCameraPreset(int presetIndex, int presetStatus)
+ChannelMessage DealChannelMsg::buildCameraPreset(int presetIndex, int presetStatus)
 {
     return buildCommandWith(ChannelCommand::CameraPreset, {{u"cmdtype"_s, u"CameraControl"_s},
                                                            {u"control"_s, u"preset"_s},
                                                            {u"presetindex"_s, presetIndex},
                                                            {u"presetstatus"_s, presetStatus}});
-}
-
-void DealChannelMsg::send(MessageChannel& channel, const char* function, ChannelCommand cmd,
-                          const std::string& text)
-{
-    Log::info(function) << "send to channel:" << text;
-    channel.push(static_cast<int>(cmd), text);
 }

@@ -1,43 +1,39 @@
 #pragma once
 
-#include "device/ChannelCommand.h"
-#include "device/MessageChannel.h"
+#include "device/ChannelMessage.h"
 
+#include <optional>
 #include <string>
 
 class CameraReports;
 class DisplayReports;
 class QJsonObject;
 
-/// The JSON protocol of the display's channel: builds what this program sends and understands what
-/// the display reports. Any thread.
+/// The JSON protocol of the display's channel: builds the messages of this program and parses those
+/// of the display. Any thread.
 class DealChannelMsg
 {
 public:
     /// Both sinks have to outlive this object.
     DealChannelMsg(DisplayReports& display, CameraReports& camera);
 
-    /// Parses one message and hands its content to the sinks on the calling thread.
-    /// @param reply      the text to send back under the id it came in with, set when needReply is
-    /// @param needReply  false on entry; true on return when the message asks for a reply
-    /// @return false only when the text is not a JSON object
-    bool PraseJson(const std::string& msg, std::string& reply, bool& needReply) const;
+    /// Parses one message and passes its content to the sinks on the calling thread. Text that is
+    /// not a JSON object is logged as an error.
+    /// @return the text of the reply, if the message asks for one; to be sent under the id under
+    ///         which the message arrived
+    [[nodiscard]] std::optional<std::string> PraseJson(const std::string& msg) const;
 
-    // Each builder takes the next number of the process-wide sequence, the first message
-    // carrying 1.
-    static std::string buildCommand(ChannelCommand cmd);
-    static std::string buildQuery(ChannelCommand cmd);
-    static std::string buildVolume(int volume);
-    static std::string buildByodStatus(int byodStatus);
-    static std::string buildZoomStatus(int zoomStatus);
-    static std::string buildAutoFraming(bool on);
-    static std::string buildSmartFraming(bool on);
-    static std::string buildCameraScale(int scaleType, int scaleStatus);
-    static std::string buildCameraPreset(int presetIndex, int presetStatus);
-
-    /// Logs the text as sent by `function` and sends it.
-    static void send(MessageChannel& channel, const char* function, ChannelCommand cmd,
-                     const std::string& text);
+    // Each builder takes the next number of a sequence that is common to the process; the first
+    // message carries 1.
+    static ChannelMessage buildCommand(ChannelCommand cmd);
+    static ChannelMessage buildQuery(ChannelCommand cmd);
+    static ChannelMessage buildVolume(int volume);
+    static ChannelMessage buildByodStatus(int byodStatus);
+    static ChannelMessage buildZoomStatus(int zoomStatus);
+    static ChannelMessage buildAutoFraming(bool on);
+    static ChannelMessage buildSmartFraming(bool on);
+    static ChannelMessage buildCameraScale(int scaleType, int scaleStatus);
+    static ChannelMessage buildCameraPreset(int presetIndex, int presetStatus);
 
 private:
     void dispatch(const QJsonObject& message) const;

@@ -131,19 +131,11 @@ int DeviceControl::handleChannelMessage(int id, const std::string& msg)
 {
     constexpr auto Function = "DeviceControl::DealChannelMsg";
     Log::info(Function) << "recv :" << msg;
-    std::string reply;
-    bool needReply = false;
-    ::DealChannelMsg(*this, m_services.camera()).PraseJson(msg, reply, needReply);
-    if (needReply) {
-        Log::info(Function) << "reply:" << reply;
-        m_services.channel.push(id, reply);
+    if (const auto reply = ::DealChannelMsg(*this, m_services.camera()).PraseJson(msg)) {
+        Log::info(Function) << "reply:" << *reply;
+        m_services.channel.push({static_cast<ChannelCommand>(id), *reply});
     }
     return 0;
-}
-
-void DeviceControl::send(const char* function, ChannelCommand cmd, const std::string& text)
-{
-    ::DealChannelMsg::send(m_services.channel, function, cmd, text);
 }
 
 void DeviceControl::RecvSharedMemoryProc(const StopRequest& stop)

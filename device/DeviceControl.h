@@ -3,6 +3,7 @@
 #include "device/DealChannelMsg.h"
 #include "device/DisplayReports.h"
 #include "device/LocalDevices.h"
+#include "device/MessageChannel.h"
 #include "device/NV12VideoSource.h"
 #include "device/UdpClient.h"
 #include "launch/UpgradeControl.h"
@@ -267,7 +268,6 @@ private:
     void setUserImage(const QString& newUserImage);
     void adoptProfile(const QJsonObject& profile);
     void clearAccount();
-    void send(const char* function, ChannelCommand cmd, const std::string& text);
 
     Services m_services;
     const Timing m_timing;

@@ -30,14 +30,14 @@ void DeviceControl::getKeyboardEvent(int type, int key)
 
 void DeviceControl::startBYOD()
 {
-    send("DeviceControl::startBYOD", ChannelCommand::StartByod,
-         ::DealChannelMsg::buildQuery(ChannelCommand::StartByod));
+    m_services.channel.send("DeviceControl::startBYOD",
+                            ::DealChannelMsg::buildQuery(ChannelCommand::StartByod));
 }
 
 void DeviceControl::startSetupBarOOBE()
 {
-    send("DeviceControl::startSetupBarOOBE", ChannelCommand::StartSetup,
-         ::DealChannelMsg::buildCommand(ChannelCommand::StartSetup));
+    m_services.channel.send("DeviceControl::startSetupBarOOBE",
+                            ::DealChannelMsg::buildCommand(ChannelCommand::StartSetup));
 }
 
 void DeviceControl::launchZoom()

@@ -61,7 +61,7 @@ void DeviceControl::setVolume(int newVolume, int direction)
         return;
     emit volumeChanged();
     if (direction == FromThisProgram)
-        send(Function, ChannelCommand::Volume, ::DealChannelMsg::buildVolume(newVolume));
+        m_services.channel.send(Function, ::DealChannelMsg::buildVolume(newVolume));
 }
 
 int DeviceControl::byodSwitch() const
@@ -77,8 +77,7 @@ void DeviceControl::setByodSwitch(int newByodSwitch, int direction)
         return;
     emit byodSwitchChanged();
     if (direction == FromThisProgram && newByodSwitch == Selected)
-        send(Function, ChannelCommand::SelectByod,
-             ::DealChannelMsg::buildByodStatus(newByodSwitch));
+        m_services.channel.send(Function, ::DealChannelMsg::buildByodStatus(newByodSwitch));
     saveDisableLocalDevices();
 }
 
@@ -95,8 +94,7 @@ void DeviceControl::setZoomSwitch(int newZoomSwitch, int direction)
         return;
     emit zoomSwitchChanged();
     if (direction == FromThisProgram && newZoomSwitch == Selected)
-        send(Function, ChannelCommand::SelectZoom,
-             ::DealChannelMsg::buildZoomStatus(newZoomSwitch));
+        m_services.channel.send(Function, ::DealChannelMsg::buildZoomStatus(newZoomSwitch));
 }
 
 QString DeviceControl::version() const

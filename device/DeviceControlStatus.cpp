@@ -94,12 +94,12 @@ void DeviceControl::queryFirmwareVersion()
     const int tick = m_versionQueryTick++;
     if (tick % 2 != 0)
         return;
-    const std::string text = ::DealChannelMsg::buildQuery(ChannelCommand::FirmwareVersion);
+    const ChannelMessage query = ::DealChannelMsg::buildQuery(ChannelCommand::FirmwareVersion);
     if (tick / 2 % QueriesPerLogLine == 0) {
-        send("DeviceControl::DetectProgramStatusProc", ChannelCommand::FirmwareVersion, text);
+        m_services.channel.send("DeviceControl::DetectProgramStatusProc", query);
         return;
     }
-    m_services.channel.push(static_cast<int>(ChannelCommand::FirmwareVersion), text);
+    m_services.channel.push(query);
 }
 
 bool DeviceControl::useRemoteDevice() const

@@ -1,15 +1,16 @@
 #pragma once
 
-#include <string>
+#include "device/ChannelMessage.h"
 
-/// Sends messages to the display. Any thread; nothing is reported back, and what is sent while no
-/// display is connected is lost.
+/// Sends messages to the display. Any thread. Failures are not reported, and a message sent while
+/// no display is connected is lost.
 class MessageChannel
 {
 public:
     virtual ~MessageChannel() = default;
 
-    /// @param id    the message's "cmd"
-    /// @param text  one JSON object as UTF-8
-    virtual void push(int id, const std::string& text) = 0;
+    virtual void push(const ChannelMessage& message) = 0;
+
+    /// Logs the text under the name of the function that sends it, then pushes the message.
+    void send(const char* function, const ChannelMessage& message);
 };

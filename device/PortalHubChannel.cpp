@@ -20,7 +20,7 @@ void PortalHubChannel::close()
         m_gate->close();
 }
 
-void PortalHubChannel::push(int id, const std::string& text)
+void PortalHubChannel::push(const ChannelMessage& message)
 {
-    PortalHub::Instance().PushMsg(id, text);
+    PortalHub::Instance().PushMsg(static_cast<int>(message.command), message.text);
 }

@@ -18,7 +18,7 @@ public:
     /// No message is delivered after this returns.
     void close();
 
-    void push(int id, const std::string& text) override;
+    void push(const ChannelMessage& message) override;
 
 private:
     // Shared with the callback that the library keeps until the process ends.

@@ -1,6 +1,7 @@
 #include "peripherals/CameraControl.h"
 
 #include "device/DealChannelMsg.h"
+#include "device/MessageChannel.h"
 #include "logging/Log.h"
 
 CameraControl::CameraControl(MessageChannel& channel, QObject* parent)
@@ -11,58 +12,53 @@ CameraControl::CameraControl(MessageChannel& channel, QObject* parent)
 
 void CameraControl::scale(int Key, int BtnStatus)
 {
-    DealChannelMsg::send(m_channel, "CameraControl::scale", ChannelCommand::CameraScale,
-                         DealChannelMsg::buildCameraScale(Key, BtnStatus));
+    m_channel.send("CameraControl::scale", DealChannelMsg::buildCameraScale(Key, BtnStatus));
 }
 
 void CameraControl::preset(int PresetNum, int PresetStatus)
 {
-    DealChannelMsg::send(m_channel, "CameraControl::preset", ChannelCommand::CameraPreset,
-                         DealChannelMsg::buildCameraPreset(PresetNum, PresetStatus));
+    m_channel.send("CameraControl::preset",
+                   DealChannelMsg::buildCameraPreset(PresetNum, PresetStatus));
 }
 
 void CameraControl::requestStatus()
 {
     for (const auto query : {ChannelCommand::QueryAutoFraming, ChannelCommand::QuerySmartFraming,
                              ChannelCommand::CameraSwitch})
-        DealChannelMsg::send(m_channel, "CameraControl::requestStatus", query,
-                             DealChannelMsg::buildQuery(query));
+        m_channel.send("CameraControl::requestStatus", DealChannelMsg::buildQuery(query));
 }
 
-void CameraControl::setAutoFraming(bool newAutoFraming, int direction)
+void CameraControl::setAutoFraming(bool newAutoFraming, Direction direction)
 {
     constexpr auto Function = "CameraControl::setAutoFraming";
     const bool old = m_autoFraming.exchange(newAutoFraming);
     if (old == newAutoFraming)
         return;
-    Log::info(Function) << "direction:" << direction << ", m_autoFraming:" << old
+    Log::info(Function) << "direction:" << static_cast<int>(direction) << ", m_autoFraming:" << old
                         << ", newAutoFraming:" << newAutoFraming;
     emit autoFramingChanged();
-    if (direction != 0)
+    if (direction != Direction::FromProgram)
         return;
 
-    DealChannelMsg::send(m_channel, Function, ChannelCommand::AutoFraming,
-                         DealChannelMsg::buildAutoFraming(newAutoFraming));
+    m_channel.send(Function, DealChannelMsg::buildAutoFraming(newAutoFraming));
     // The display forgets smart framing while automatic framing is off.
     if (newAutoFraming && m_smartFraming)
-        DealChannelMsg::send(m_channel, Function, ChannelCommand::SmartFraming,
-                             DealChannelMsg::buildSmartFraming(true));
+        m_channel.send(Function, DealChannelMsg::buildSmartFraming(true));
 }
 
-void CameraControl::setSmartFraming(bool newSmartFraming, int direction)
+void CameraControl::setSmartFraming(bool newSmartFraming, Direction direction)
 {
     constexpr auto Function = "CameraControl::setSmartFraming";
     const bool old = m_smartFraming.exchange(newSmartFraming);
     if (old == newSmartFraming)
         return;
-    Log::info(Function) << "direction:" << direction << ", m_smartFraming:" << old
+    Log::info(Function) << "direction:" << static_cast<int>(direction) << ", m_smartFraming:" << old
                         << ", newSmartFraming:" << newSmartFraming;
     emit smartFramingChanged();
-    if (direction != 0)
+    if (direction != Direction::FromProgram)
         return;
 
-    DealChannelMsg::send(m_channel, Function, ChannelCommand::SmartFraming,
-                         DealChannelMsg::buildSmartFraming(newSmartFraming));
+    m_channel.send(Function, DealChannelMsg::buildSmartFraming(newSmartFraming));
 }
 
 void CameraControl::setCameraSwitch(int sw)

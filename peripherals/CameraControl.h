@@ -59,8 +59,16 @@ public:
     Q_INVOKABLE void requestStatus();
 
     /// @param direction  0: the user's wish, sent to the display; otherwise the display's report
-    Q_INVOKABLE void setAutoFraming(bool newAutoFraming, int direction = 0) override;
-    Q_INVOKABLE void setSmartFraming(bool newSmartFraming, int direction = 0) override;
+    Q_INVOKABLE void setAutoFraming(bool newAutoFraming, int direction = 0)
+    {
+        setAutoFraming(newAutoFraming, static_cast<Direction>(direction));
+    }
+    Q_INVOKABLE void setSmartFraming(bool newSmartFraming, int direction = 0)
+    {
+        setSmartFraming(newSmartFraming, static_cast<Direction>(direction));
+    }
+    void setAutoFraming(bool newAutoFraming, Direction direction) override;
+    void setSmartFraming(bool newSmartFraming, Direction direction) override;
     void setCameraSwitch(int sw) override;
 
 signals:

@@ -2,6 +2,7 @@
 
 #include "device/CameraReports.h"
 #include "device/DeviceControl.h"
+#include "device/MessageChannel.h"
 #include "device/WindowRequests.h"
 #include "launch/ProgramControl.h"
 #include "persistence/FileInfo.h"
@@ -23,22 +24,17 @@ using namespace Qt::StringLiterals;
 class FakeChannel : public MessageChannel
 {
 public:
-    struct Sent {
-        int id;
-        std::string text;
-    };
-
-    void push(int id, const std::string& text) override
+    void push(const ChannelMessage& message) override
     {
         {
             const std::scoped_lock lock(m_mutex);
-            m_sent.push_back({id, text});
+            m_sent.push_back(message);
         }
         if (onPush)
-            onPush(id, text);
+            onPush(message);
     }
 
-    std::vector<Sent> take()
+    std::vector<ChannelMessage> take()
     {
         const std::scoped_lock lock(m_mutex);
         return std::exchange(m_sent, {});
@@ -48,16 +44,16 @@ public:
     QList<int> takeIds()
     {
         QList<int> ids;
-        for (const Sent& sent : take())
-            ids.append(sent.id);
+        for (const ChannelMessage& sent : take())
+            ids.append(static_cast<int>(sent.command));
         return ids;
     }
 
-    std::function<void(int, const std::string&)> onPush;
+    std::function<void(const ChannelMessage&)> onPush;
 
 private:
     std::mutex m_mutex;
-    std::vector<Sent> m_sent;
+    std::vector<ChannelMessage> m_sent;
 };
 
 class FakeWindows : public WindowRequests
@@ -142,12 +138,12 @@ private:
 class FakeCamera : public CameraReports
 {
 public:
-    void setAutoFraming(bool on, int direction) override
+    void setAutoFraming(bool on, Direction direction) override
     {
         const std::scoped_lock lock(m_mutex);
         autoFraming = {on, direction};
     }
-    void setSmartFraming(bool on, int direction) override
+    void setSmartFraming(bool on, Direction direction) override
     {
         const std::scoped_lock lock(m_mutex);
         smartFraming = {on, direction};
@@ -159,8 +155,8 @@ public:
     }
 
     // To be read when no other thread reports.
-    std::pair<bool, int> autoFraming{};
-    std::pair<bool, int> smartFraming{};
+    std::pair<bool, Direction> autoFraming{};
+    std::pair<bool, Direction> smartFraming{};
     int cameraSwitch = -1;
 
 private:

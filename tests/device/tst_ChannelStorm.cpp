@@ -104,8 +104,8 @@ void tst_ChannelStorm::everyMessageIsAnsweredOrReported()
     };
     int replies = 0;
     const auto checkSent = [&] {
-        for (const FakeChannel::Sent& sent : world.channel.take()) {
-            if (sent.id == 11)
+        for (const ChannelMessage& sent : world.channel.take()) {
+            if (sent.command == ChannelCommand::FirmwareVersion)
                 continue;
             ++replies;
             const int type = QJsonDocument::fromJson(QByteArray::fromStdString(sent.text))

@@ -51,16 +51,17 @@ private slots:
 // First in the file: the sequence belongs to the process.
 void tst_DealChannelMsg::numbersMessagesFromOne()
 {
-    QCOMPARE(DealChannelMsg::buildQuery(ChannelCommand::FirmwareVersion),
+    QCOMPARE(DealChannelMsg::buildQuery(ChannelCommand::FirmwareVersion).text,
              std::string(R"({"cmd":11,"seq":1,"type":0})"));
-    QCOMPARE(DealChannelMsg::buildVolume(40),
+    QCOMPARE(DealChannelMsg::buildVolume(40).text,
              std::string(R"({"cmd":1,"seq":2,"type":2,"volume":40})"));
 }
 
 void tst_DealChannelMsg::buildsSortedCompactText()
 {
-    const auto withoutSeq = [](const std::string& text) {
-        QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
+    const auto withoutSeq = [](const ChannelMessage& message) {
+        QJsonObject object =
+            QJsonDocument::fromJson(QByteArray::fromStdString(message.text)).object();
         object.remove("seq"_L1);
         return QJsonDocument(object).toJson(QJsonDocument::Compact);
     };
@@ -118,9 +119,7 @@ void tst_DealChannelMsg::understands()
     QFETCH(const QByteArray, message);
     Reports display;
     FakeCamera camera;
-    std::string reply;
-    bool needReply = false;
-    QVERIFY(DealChannelMsg(display, camera).PraseJson(message.toStdString(), reply, needReply));
+    (void)DealChannelMsg(display, camera).PraseJson(message.toStdString());
     QTEST(display.seen, "reports");
 }
 
@@ -129,13 +128,11 @@ void tst_DealChannelMsg::handsCameraReportsOn()
     Reports display;
     FakeCamera camera;
     const DealChannelMsg parser(display, camera);
-    std::string reply;
-    bool needReply = false;
-    parser.PraseJson(R"({"cmd":13,"autoframestatus":7})", reply, needReply);
-    parser.PraseJson(R"({"cmd":15,"smartframestatus":1})", reply, needReply);
-    parser.PraseJson(R"({"cmd":21,"type":1,"camerastatus":3})", reply, needReply);
-    QCOMPARE(camera.autoFraming, std::pair(true, 1));
-    QCOMPARE(camera.smartFraming, std::pair(true, 1));
+    (void)parser.PraseJson(R"({"cmd":13,"autoframestatus":7})");
+    (void)parser.PraseJson(R"({"cmd":15,"smartframestatus":1})");
+    (void)parser.PraseJson(R"({"cmd":21,"type":1,"camerastatus":3})");
+    QCOMPARE(camera.autoFraming, std::pair(true, Direction::FromDisplay));
+    QCOMPARE(camera.smartFraming, std::pair(true, Direction::FromDisplay));
     QCOMPARE(camera.cameraSwitch, 3);
 }
 
@@ -161,11 +158,9 @@ void tst_DealChannelMsg::repliesByType()
     QFETCH(const QByteArray, expected);
     Reports display;
     FakeCamera camera;
-    std::string reply;
-    bool needReply = false;
-    QVERIFY(DealChannelMsg(display, camera).PraseJson(message.toStdString(), reply, needReply));
-    QCOMPARE(needReply, !expected.isEmpty());
-    QCOMPARE(QByteArray::fromStdString(reply), expected);
+    const auto reply = DealChannelMsg(display, camera).PraseJson(message.toStdString());
+    QCOMPARE(reply.has_value(), !expected.isEmpty());
+    QCOMPARE(QByteArray::fromStdString(reply.value_or("")), expected);
 }
 
 void tst_DealChannelMsg::refusesWhatIsNoObject_data()
@@ -188,10 +183,7 @@ void tst_DealChannelMsg::refusesWhatIsNoObject()
     LogCapture log;
     Reports display;
     FakeCamera camera;
-    std::string reply;
-    bool needReply = false;
-    QVERIFY(!DealChannelMsg(display, camera).PraseJson(message.toStdString(), reply, needReply));
-    QVERIFY(!needReply);
+    QVERIFY(!DealChannelMsg(display, camera).PraseJson(message.toStdString()));
     QVERIFY(display.seen.isEmpty());
     QCOMPARE(log.take(),
              QStringList{u"E DealChannelMsg::PraseJson Failed to parse JSON: "_s + complaint});

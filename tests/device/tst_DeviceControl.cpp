@@ -353,8 +353,8 @@ void tst_DeviceControl::readersAndLibraryCallbacksDoNotBlock()
         &device, &DeviceControl::volumeChanged, &device, [&device] { device.volume(); },
         Qt::DirectConnection);
     std::atomic_flag answered;
-    world.channel.onPush = [&](int id, const std::string&) {
-        if (id == 1 && !answered.test_and_set())
+    world.channel.onPush = [&](const ChannelMessage& message) {
+        if (message.command == ChannelCommand::Volume && !answered.test_and_set())
             std::thread([&device] {
                 device.handleChannelMessage(1, R"({"cmd":1,"type":2,"volume":50})");
             }).join();
@@ -373,7 +373,7 @@ void tst_DeviceControl::repliesToMessages()
     QCOMPARE(device.handleChannelMessage(1, "nonsense"), 0);
     const auto sent = world.channel.take();
     QCOMPARE(sent.size(), 1u);
-    QCOMPARE(sent[0].id, 7);
+    QCOMPARE(static_cast<int>(sent[0].command), 7);
     QCOMPARE(QByteArray::fromStdString(sent[0].text), R"({"cmd":11,"ota_ver":"5","type":3})");
     QCOMPARE(device.remoteVer(), u"5"_s);
     QCOMPARE(

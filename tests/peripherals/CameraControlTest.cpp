@@ -21,13 +21,14 @@ namespace
 class RecordingChannel : public MessageChannel
 {
 public:
-    void push(int id, const std::string& text) override
+    void push(const ChannelMessage& message) override
     {
         static const QRegularExpression seq(u"\"seq\":\\d+,"_s);
         if (onPush)
             onPush();
         const std::scoped_lock lock(m_mutex);
-        m_sent.append(QString::number(id) + u' ' + QString::fromStdString(text).remove(seq));
+        m_sent.append(QString::number(static_cast<int>(message.command)) + u' ' +
+                      QString::fromStdString(message.text).remove(seq));
     }
 
     QStringList take()

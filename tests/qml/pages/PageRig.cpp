@@ -39,15 +39,16 @@ void PageRig::publish(QQmlContext* context)
 QVariantList PageRig::takeMessages()
 {
     QVariantList messages;
-    for (const FakeChannel::Sent& sent : m_world.channel.take())
-        messages += QVariantMap{{u"id"_s, sent.id}, {u"text"_s, QString::fromStdString(sent.text)}};
+    for (const ChannelMessage& sent : m_world.channel.take())
+        messages += QVariantMap{{u"id"_s, static_cast<int>(sent.command)},
+                                {u"text"_s, QString::fromStdString(sent.text)}};
     return messages;
 }
 
 QStringList PageRig::takeMessageTexts()
 {
     QStringList texts;
-    for (const FakeChannel::Sent& sent : m_world.channel.take())
+    for (const ChannelMessage& sent : m_world.channel.take())
         texts += QString::fromStdString(sent.text);
     return texts;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
-/// Ids ("cmd") of the messages exchanged with the display.
+#include <string>
+
+/// Ids ("cmd") of the messages exchanged with the display. A message of the display may carry any
+/// other number.
 enum class ChannelCommand : int {
     ConnectMode = 0,
     Volume = 1,
@@ -25,4 +28,13 @@ enum class ChannelMessageType : int {
     Answer = 1,
     Command = 2,
     Acknowledgement = 3,
+};
+
+/// One message to the display.
+struct ChannelMessage {
+    /// The id that the message travels under: its own "cmd", or, for a reply, the id under which
+    /// the message to be answered arrived.
+    ChannelCommand command;
+    /// One JSON object as UTF-8.
+    std::string text;
 };
