@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# ./run.sh [--headless]   installs what is missing, builds, and shows the program with a simulated display.
+# ./run.sh [--headless]   installs missing packages, builds, and shows the program with a simulated display.
 #
-# On a screen the program comes up and a simulated display connects; type commands for the display into
-# this terminal ("help" lists them). Without a screen, or with --headless, a virtual screen is used, the
-# job is driven to its end and screenshots are left in build/tour. Exit code 0 means that all of it
-# happened.
+# On a screen the program starts and a simulated display connects. Type commands for the display into this
+# terminal; "help" lists them. Without a screen, or with --headless, the script uses a virtual screen, goes
+# through the program from sign-in to the upgrade, and leaves pictures in build/tour. Exit code 0 means
+# that every step succeeded.
 set -euo pipefail
 source "$(dirname "$0")/tools/common.sh"
 
@@ -27,21 +27,20 @@ cd "$root"
 mkdir -p build
 bin="$root/build/run/bin"
 targets=(VORNApp VORNSimulator PatchPilot UpdateInstaller SimulatedZoom)
-# vorn-item-tree, which stands on the tests' rig, draws the states of pages that the program alone would
-# take minutes to reach.
+# vorn-item-tree draws states of pages that take minutes to reach in the program. It uses the test rig.
 with_tests=OFF
 $headless && with_tests=ON && targets+=(vorn-item-tree)
 configure_and_build build/run -DCMAKE_BUILD_TYPE=Release -DVORN_BUILD_TESTS=$with_tests -- "${targets[@]}"
 
 if $headless; then
   trap stop_screen EXIT
-  start_screen
+  start_screen 1920x1200x24
   "$root/tools/tour.sh" "$bin" "$root/build/tour"
   exit
 fi
 
 source "$root/tools/tour-support.sh"
-# The programs end with their home, the updater too, which the program starts by itself.
+# The simulated updater, which the program starts, ends when its folder is removed.
 clean_up() {
   [ -s "$home/program.pid" ] && kill "$(cat "$home/program.pid")" 2>/dev/null
   rm -rf "$home"
@@ -57,9 +56,9 @@ start_program() {
 make_home "$bin"
 trap clean_up EXIT
 "$home/app/apps/zoom" --install >/dev/null
-step "The program comes up; its log goes to build/run/program.log"
+step "Starting the program; its log is build/run/program.log"
 printf 'Sign in as ada@acme.example with the password Engine1843.\n'
-step "The simulated display takes commands here; \"quit\" ends both"
+step "Type commands for the simulated display here; \"quit\" ends the display and the program"
 touch "$home/display.jsonl"
 start_program &
 "$bin/VORNSimulator" --sysfs "$VORN_SYSFS_ROOT" --scenario simulator/scenarios/desk.scenario |

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# ./test.sh [preset]...   installs what is missing, builds, and runs every test.
+# ./test.sh [preset]...   installs missing packages, builds, and runs every test.
 #
-# A preset is dev (the default), asan, tsan or release. Tests run on a virtual screen of their own.
+# A preset is dev (the default), asan, tsan or release. The tests run on a virtual screen.
 set -euo pipefail
 source "$(dirname "$0")/tools/common.sh"
 
@@ -20,12 +20,12 @@ done
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" "${test_packages[@]}"
 cd "$root"
 trap stop_screen EXIT
-start_screen
+start_screen 1920x1200x24
 for preset in "${presets[@]}"; do
   mkdir -p build
   configure_and_build "build/$preset" --preset "$preset"
   step "Testing $preset"
-  # A session bus of their own keeps the tests away from the user's desktop.
+  # A separate session bus keeps the tests away from the user's desktop.
   dbus-run-session -- ctest --preset "$preset" || fail "tests of $preset" \
-    "run one again with: ctest --preset $preset -R <name> (on a screen); its output is above"
+    "see the output above; to run one test again, on a screen: ctest --preset $preset -R <name>"
 done

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# bench/run.sh   builds the release and prints every figure as a ratio against a baseline of the same run.
+# ./bench/run.sh   builds the release and prints each figure as a ratio to a baseline measured in the same run.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" strace
@@ -13,9 +13,9 @@ clean_up() {
   rm -rf "$home"
 }
 trap clean_up EXIT
-start_screen
+start_screen 1920x1200x24
 
-# The updater that the program looks after; without one the first look would start it.
+# With an updater running, the first status pass of the program does not have to start one.
 XDG_CONFIG_HOME=$home "$bin/PatchPilot" &
 screen_pids+=($!)
 
@@ -31,7 +31,7 @@ env HOME="$home" XDG_STATE_HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR=
   QT_QPA_PLATFORM=offscreen timeout -s TERM 20 \
   strace -f -qq -e trace=execve,fork,vfork -o "$home/trace" "$bin/VORNApp" >/dev/null 2>&1 || true
 grep -rqs 'DetectProgramStatusProc\]thread start' "$home/VORNApp" ||
-  fail "the program did not come up" "run $bin/VORNApp by hand to see why"
+  fail "the program did not come up" "run $bin/VORNApp by hand to see the reason"
 spawned=$(($(grep -cE 'execve|v?fork\(' "$home/trace") - 1))
 echo "processes spawned by some 20 status passes: $spawned (aim 0)"
 [ "$spawned" -eq 0 ]

@@ -1,6 +1,7 @@
-#!/bin/bash
-# Compiles every Windows source, and every source shared by both systems, as Windows code. Nothing is
-# linked: the headers of this system's Qt stand in for those of a Windows build.
+#!/usr/bin/env bash
+# ./tools/check-windows.sh   compiles the Windows sources, and those that both systems share, as Windows code.
+#
+# Nothing is linked. The headers of the installed Qt are used in place of those of a Qt for Windows.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 
@@ -26,8 +27,8 @@ system_headers=/usr/include
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# The system's own header folder holds the C library of this system, so the two foreign libraries are
-# reached through a folder that has nothing else.
+# /usr/include also holds the headers of this system's C library. A folder with links to glog and gflags
+# keeps them out of the search path.
 mkdir "$work/include"
 for library in glog gflags; do
     [ -d "$system_headers/$library" ] && ln -s "$system_headers/$library" "$work/include/$library"
@@ -53,9 +54,9 @@ command -v ccache >/dev/null && launcher=(ccache)
 compile() {
     local source=$1
     local own=()
-    # The channel library exports what the program imports.
+    # The channel library exports the functions that the program imports.
     [[ $source == portalhub/* ]] && own=(-DPORTALHUB_BUILD)
-    # The same name each time, so that a compiler cache finds the object again.
+    # A fixed name lets ccache find the object again.
     local object="$work/${source//\//_}.o"
     if "${launcher[@]}" "$compiler" "${flags[@]}" "${own[@]}" -o "$object" "$source" >"$object.log" 2>&1; then
         echo "ok      $source"
@@ -71,9 +72,9 @@ mapfile -t sources < <(git ls-files -- "${rooms[@]/%//*.cpp}" | grep -v '/linux/
 
 export work compiler
 export -f compile
-# Arrays cannot be exported to the parallel shells, a file of settings can.
+# Arrays cannot be exported to the parallel shells; these read them from a file.
 declare -p flags launcher >"$work/settings"
-# shellcheck disable=SC2016 # expanded by the parallel shells
+# shellcheck disable=SC2016 # the parallel shells expand the variables
 printf '%s\0' "${sources[@]}" |
     xargs -0 -n 1 -P 2 bash -c 'source "$work/settings"; compile "$1"' check-windows
 status=$?

@@ -1,10 +1,12 @@
-# Shared by run.sh, test.sh and the tools; to be sourced.
+# Functions and settings that run.sh, test.sh and the tools share. Source this file.
+# shellcheck shell=bash
+# shellcheck disable=SC2034 # the lists of packages are used by the scripts that source this file
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# Compiled objects are found again from another checkout of the same sources.
+# ccache reuses the objects of another checkout of the same sources.
 export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
-# Qt's generators write in the order of a hash: with one seed the same sources give the same code.
+# Qt's code generators write in hash order. A fixed seed makes their output reproducible.
 export QT_HASH_SEED=0
 
 build_packages=(
@@ -21,21 +23,21 @@ run_packages=(
   qml6-module-qt-labs-folderlistmodel
   qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects
 )
-# A virtual screen with a window manager and a tray, to see minimising, stay-on-top and tray clicks.
+# A virtual screen. Minimising, stay-on-top and tray clicks need a window manager and a tray.
 screen_packages=(xvfb xauth xdotool x11-utils imagemagick openbox trayer dbus)
 test_packages=(qml6-module-qttest sqlite3)
-lint_packages=(clang-format clang-tidy g++-mingw-w64-x86-64-posix)
+lint_packages=(clang-format clang-tidy g++-mingw-w64-x86-64-posix git python3 shellcheck)
 
 step() { printf '\n==> %s\n' "$*"; }
 
-# fail <what failed> <how to mend it>
+# fail <what failed> <how to fix it>
 fail() {
   printf '\nFAILED: %s\n' "$1" >&2
-  [ -n "${2:-}" ] && printf 'To mend it: %s\n' "$2" >&2
+  [ -n "${2:-}" ] && printf 'To fix it: %s\n' "$2" >&2
   exit 1
 }
 
-# Installs what is missing of the packages given.
+# need_packages <package>...   installs those that are missing.
 need_packages() {
   local missing=() package
   for package in "$@"; do
@@ -55,12 +57,12 @@ need_packages() {
       apt-get install -y -qq --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
     tail -20 "$log" >&2
     fail "the packages could not be installed" \
-      "look at the lines above; the network and the package sources are the usual reasons"
+      "see the lines above; usual causes are the network and the package sources"
   fi
   rm -f "$log"
 }
 
-# configure_and_build <folder> <cmake arguments...> [-- <ninja targets...>]
+# configure_and_build <folder> <cmake argument>... [-- <ninja target>...]
 configure_and_build() {
   local folder=$1 arguments=() targets=()
   shift
@@ -69,14 +71,14 @@ configure_and_build() {
   step "Configuring $folder"
   cmake -S "$root" -B "$root/$folder" -G Ninja "${arguments[@]}" >"$root/$folder.configure.log" 2>&1 || {
     tail -30 "$root/$folder.configure.log" >&2
-    fail "configuring" "look at $folder.configure.log; a stale folder is mended by removing $folder"
+    fail "configuring" "see $folder.configure.log; if the folder is out of date, remove $folder"
   }
   rm -f "$root/$folder.configure.log"
   step "Building $folder"
-  ninja -C "$root/$folder" "${targets[@]}" || fail "building $folder" "look at the compiler's first message above"
+  ninja -C "$root/$folder" "${targets[@]}" || fail "building $folder" "see the first message of the compiler above"
 }
 
-# Until the command succeeds, 60 s at most.
+# eventually <command>...   repeats the command until it succeeds; fails after 60 s.
 eventually() {
   local deadline=$((SECONDS + 60))
   until "$@" >/dev/null 2>&1; do
@@ -85,10 +87,12 @@ eventually() {
   done
 }
 
-# Whether there is something to be seen in a window, or with "root" on the screen.
+# is_painted <window>   whether the window shows anything but black; "root" is the whole screen.
 is_painted() { [ "$(import -window "$1" png:- 2>/dev/null | identify -format '%[fx:mean>0.02]' - 2>/dev/null)" = 1 ]; }
 
-# Starts a virtual screen with a window manager and a tray, and sets DISPLAY. Ends with the script.
+# start_screen [<width>x<height>x<depth>]
+# Starts a virtual screen with a window manager and a tray, and sets DISPLAY. The caller has to trap
+# EXIT with stop_screen.
 start_screen() {
   local number_file
   number_file=$(mktemp)
@@ -98,12 +102,12 @@ start_screen() {
   until [ -s "$number_file" ]; do
     sleep 0.05
     tries=$((tries + 1))
-    [ $tries -lt 400 ] || fail "the virtual screen did not start" "run 'Xvfb :99' by hand to see why"
+    [ $tries -lt 400 ] || fail "the virtual screen did not start" "run 'Xvfb :99' by hand to see the reason"
   done
   DISPLAY=":$(head -n 1 "$number_file")"
   export DISPLAY
   rm -f "$number_file"
-  # Mesa's software renderer draws video and effects without a graphics card.
+  # Mesa's software renderer draws video and effects without graphics hardware.
   export LIBGL_ALWAYS_SOFTWARE=1
   openbox >/dev/null 2>&1 &
   screen_pids+=($!)

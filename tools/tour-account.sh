@@ -1,9 +1,11 @@
-# Chapters of the tour: start, sign-in and the profile.
+# Chapters of the tour: start and sign-in.
+# shellcheck shell=bash
+# shellcheck disable=SC2034,SC2154 # tour.sh and tour-support.sh share their variables with this file
 
 readonly user=ada@example.com password=Engine1843
 
 start_display() {
-  chapter "A simulated display and an account service wait"
+  chapter "The simulated display and account service"
   mkfifo "$home/commands"
   "$bin/VORNSimulator" <"$home/commands" >"$out/display.jsonl" 2>"$out/display.err" &
   display=$!
@@ -20,7 +22,7 @@ start_display() {
   display devices root "$VORN_SYSFS_ROOT"
   printf 'installed=1.0.0.0\nseconds=3\n' >"$XDG_CONFIG_HOME/VORNApp/patchpilot.ini"
   "$home/app/apps/zoom" --install >/dev/null
-  # The program would take an updater of somebody else on this machine for its own.
+  # Without an updater of this run the program would accept any other on this machine.
   "$home/app/PatchPilot" &
   pids+=($!)
 }
@@ -31,7 +33,7 @@ start_program() {
   program=$!
   pids+=("$program")
   check "its window is on the screen" eventually place_window
-  check "the program met the display" appears '"client-connected"' "$out/display.jsonl"
+  check "the program is connected to the channel" appears '"client-connected"' "$out/display.jsonl"
 }
 
 account_chapters() {
@@ -55,16 +57,16 @@ account_chapters() {
   type_text Cobol1959
   mark "$out/display.jsonl"
   key Return
-  check "the account was made" appears '"account-request".*register' "$out/display.jsonl"
-  shot verify-account "The letter is on its way"
+  check "the account was created" appears '"account-request".*register' "$out/display.jsonl"
+  shot verify-account "The message to verify the address is sent"
   key Return
 
   click 850 311
   shot reset-password "A forgotten password"
   type_text "$user"
   key Return
-  check "the letter was asked for" appears '"account-request".*forgot' "$out/display.jsonl"
-  shot reset-complete "The letter is on its way"
+  check "a new password was requested" appears '"account-request".*forgot' "$out/display.jsonl"
+  shot reset-complete "The message to reset the password is sent"
   key Return
 
   click 600 212
@@ -74,11 +76,11 @@ account_chapters() {
   mark "$out/program.log"
   key Return
   check "the service refused a wrong password" appears 'response:.*"success": ?false' "$out/program.log"
-  shot wrong-password "The service's own words"
+  shot wrong-password "The message of the service"
   key ctrl+a
   type_text "$password"
   key Return
-  check "the right one signs in" appears 'newLogin:(1|true)' "$out/program.log"
+  check "the right password signs in" appears 'newLogin:(1|true)' "$out/program.log"
   check "the name arrived" appears 'newFirstName:Ada' "$out/program.log"
   shot signed-in "Name and picture"
 }

@@ -1,5 +1,7 @@
-# Chapters of the tour: from the cable to the meeting, the camera, and the display's first set-up.
-# Positions: the content area begins at x 262, a page's frame at (262, 94).
+# Chapters of the tour: from the connection to the meeting, the camera, and first-run set-up.
+# The content area begins at x 262, the frame of a page at (262, 94).
+# shellcheck shell=bash
+# shellcheck disable=SC2154 # tour.sh and tour-support.sh share their variables with this file
 
 meeting_chapters() {
   chapter "The display connects"
@@ -15,25 +17,25 @@ meeting_chapters() {
   check "the microphone was found" appears 'newVornMicStatus:1' "$out/program.log"
   # The microphone is shown after 6 s, the speaker at 9.5 s, the camera at 13 s, Go at 15 s.
   sleep 8
-  shot microphone-up "One after another"
+  shot microphone-up "The devices appear one after another"
   sleep 8
   shot ready "Ready"
 
   chapter "The meeting"
   mark "$out/display.jsonl"
   click 563 476
-  check "the display was asked to share the screen" appears '"cmd":12,' "$out/display.jsonl"
-  check "and to switch to BYOD" appears '"cmd":9,' "$out/display.jsonl"
+  check "the program asked the display to share the screen" appears '"cmd":12,' "$out/display.jsonl"
+  check "the program asked the display to switch to BYOD" appears '"cmd":9,' "$out/display.jsonl"
   point 900 40
   shot launcher "The launcher"
   click 377 352
   check "Zoom was started" eventually grep -q started "$XDG_DATA_HOME/zoom/started.log"
-  check "its window came up" eventually find_window '^Zoom$'
-  shot zoom "A meeting beside the program" root
+  check "its window is visible" eventually find_window '^Zoom$'
+  shot zoom "The meeting program beside the program" root
   xdotool windowkill "$found"
 }
 
-# The framing commands that have reached the display since the last mark.
+# Prints the framing commands that have reached the display since the last mark.
 framing_commands() {
   tail -n "+$((${marks[$out/display.jsonl]} + 1))" "$out/display.jsonl" |
     sed -nE 's/.*"event":"message","id":(13|15),.*"type":2\}.*/\1/p' | xargs
@@ -44,7 +46,7 @@ camera_chapter() {
   display camera off
   click 129 277
   point 900 40
-  shot camera-closed "No app uses the camera"
+  shot camera-closed "No program uses the camera"
   display camera on
   check "the camera's use arrived" appears '"camerastatus": ?1' "$out/program.log"
   sleep 0.5
@@ -61,23 +63,23 @@ camera_chapter() {
   check "the position was saved" appears '"camera-command"' "$out/display.jsonl"
   mark "$out/display.jsonl"
   click 563 474
-  check "and called up again" appears '"camera-command"' "$out/display.jsonl"
+  check "the position was recalled" appears '"camera-command"' "$out/display.jsonl"
   mark "$out/display.jsonl"
   display autoframing on
   sleep 0.5
-  check "its framing was shown and not sent back" test "$(framing_commands)" = ""
-  shot auto-framing "The display frames by itself"
+  check "the state reported by the display was shown and not sent back" test "$(framing_commands)" = ""
+  shot auto-framing "Auto framing"
   click 715 230
-  check "smart framing was asked for" appears '"cmd":15,' "$out/display.jsonl"
+  check "the program requested smart framing" appears '"cmd":15,' "$out/display.jsonl"
   shot smart-framing "Smart framing"
   click 473 172
   mark "$out/display.jsonl"
   click 653 172
-  check "auto framing brings smart framing along" appears '"event":"message".*"cmd":15,' "$out/display.jsonl"
-  check "in this order" test "$(framing_commands)" = "13 15"
+  check "auto framing sends the smart-framing command too" appears '"event":"message".*"cmd":15,' "$out/display.jsonl"
+  check "the commands have the right order" test "$(framing_commands)" = "13 15"
 }
 
-# Whether two pictures of a window differ.
+# Compares two pictures of a window that are taken half a second apart.
 window_moves() {
   local first second
   first=$(import -window "$1" rgb:- | md5sum)
@@ -86,9 +88,10 @@ window_moves() {
   [ "$first" != "$second" ]
 }
 
-# Whether the colour patches of the display's screen look as they were sent, within 3 of 255. They
-# stand in a row, each by a twentieth of the picture's width further to the right.
-patches_are_right() { # patches_are_right <picture of the monitor window> <colour>...
+# patches_are_right <picture of the monitor window> <colour>...
+# Compares the colour patches of the display's screen with the colours sent; the tolerance is 3 of 255.
+# The patches are in one row, one twentieth of the picture's width apart.
+patches_are_right() {
   local picture=$1 n=0 width height pixel want channel
   shift
   read -r width height < <(identify -format '%w %h' "$picture")
@@ -103,7 +106,8 @@ patches_are_right() { # patches_are_right <picture of the monitor window> <colou
   done
 }
 
-press_next() { # press_next <window> <step that follows>
+# press_next <window> <next step>   presses the button that the display draws.
+press_next() {
   local width height
   read -r width height < <(xdotool getwindowgeometry --shell "$1" | sed -n 's/^WIDTH=//p; s/^HEIGHT=//p' | xargs)
   xdotool mousemove --window "$1" $((width * 84 / 100)) $((height * 86 / 100)) sleep 0.1 click 1
@@ -113,17 +117,17 @@ press_next() { # press_next <window> <step that follows>
 window_is_gone() { ! xdotool getwindowname "$1" 2>/dev/null; }
 
 first_run_chapter() {
-  chapter "A display's first set-up"
+  chapter "First-run set-up"
   display disconnect
   display connect first-run
   check "the mode arrived" appears 'newConnectMode:2' "$out/program.log"
   eventually place_window
   click 129 229
   point 900 40
-  shot set-up-detected "A display that is new"
+  shot set-up-detected "A display that needs its first set-up"
   mark "$out/display.jsonl"
   click 563 430
-  check "the set-up was asked for" appears '"cmd":22,' "$out/display.jsonl"
+  check "the program requested the set-up" appears '"cmd":22,' "$out/display.jsonl"
   check "the monitor window opened" eventually find_window '^VORN Bar$'
   local monitor=$found step
   eventually is_painted "$monitor"
@@ -131,13 +135,13 @@ first_run_chapter() {
   sleep 5
   shot monitor-failed "No picture for five seconds" "$monitor"
   display video start
-  check "its picture moves" eventually window_moves "$monitor"
+  check "its picture changes" eventually window_moves "$monitor"
   shot monitor "The display's screen" "$monitor"
   check "its colours are right" patches_are_right "$out/monitor.png" "#000000" "#FFFFFF" "#FF0000" "#00FF00" "#0000FF"
   xdotool windowsize --sync "$monitor" 1440 1000
-  shot monitor-bars "In a window of another shape" "$monitor"
+  shot monitor-bars "In a window of another aspect ratio" "$monitor"
   xdotool windowsize --sync "$monitor" 1440 810
-  for step in language network room-name finish done; do
+  for step in language network room-name finish "done"; do
     check "a press on the drawn button leads to \"$step\"" press_next "$monitor" "$step"
   done
   check "the display is ready" appears 'newConnectMode:1' "$out/program.log"

@@ -1,4 +1,6 @@
-# Chapters of the tour: settings, profile and upgrade. Positions: the content area begins at x 262.
+# Chapters of the tour: settings, profile and upgrade. The content area begins at x 262.
+# shellcheck shell=bash
+# shellcheck disable=SC2034,SC2154 # tour.sh and tour-support.sh share their variables with this file
 
 settings_chapters() {
   chapter "Settings"
@@ -11,20 +13,20 @@ settings_chapters() {
   click 509 129
   mark "$out/program.log"
   click 342 240
-  check "Zoom left the launcher" appears 'newSupportLaunchZoom:(0|false)' "$out/program.log"
+  check "Zoom was removed from the launcher" appears 'newSupportLaunchZoom:(0|false)' "$out/program.log"
   click 342 283
   mark "$out/program.log"
   click 342 326
   point 900 40
-  shot launcher-apps "The last app stays"
-  check "the last app cannot be unchecked" test "$(count_since_mark 'newSupportLaunchGoogle' "$out/program.log")" = 0
+  shot launcher-apps "The last program cannot be removed"
+  check "the last program cannot be unchecked" test "$(count_since_mark 'newSupportLaunchGoogle' "$out/program.log")" = 0
   click 342 240
-  check "Zoom came back" appears 'newSupportLaunchZoom:(1|true)' "$out/program.log"
+  check "Zoom was added again" appears 'newSupportLaunchZoom:(1|true)' "$out/program.log"
   click 342 283
   click 722 129
   mark "$out/program.log"
   click 853 193
-  check "the BYOD switch was turned" appears 'm_useRemoteDevice:.*checked:' "$out/program.log"
+  check "the BYOD switch was changed" appears 'm_useRemoteDevice:.*checked:' "$out/program.log"
   point 900 40
   shot byod-switch "The BYOD switch"
 
@@ -33,7 +35,7 @@ settings_chapters() {
   point 900 300
   shot profile "The profile"
   click 820 194
-  shot profile-edit "To change"
+  shot profile-edit "The profile form"
   click 720 392
   key ctrl+a
   type_text "Lady of Numbers"
@@ -42,24 +44,24 @@ settings_chapters() {
   shot picture "A new picture"
   click 503 332
   sleep 1.5
-  shot file-dialog "The choice of a file" root
+  shot file-dialog "The file dialog" root
   key ctrl+l
   key ctrl+a
   type_text "$home/new picture 100%.png"
   key Return
   sleep 1
-  shot picture-chosen "Chosen"
+  shot picture-chosen "The chosen picture"
   key Escape
   mark "$out/display.jsonl"
   mark "$out/program.log"
   click 768 468
   check "the profile was saved" appears '"account-request".*"endpoint":"profile-update"' "$out/display.jsonl"
-  check "the new title came back" appears 'newTitle:Lady of Numbers' "$out/program.log"
-  shot profile-changed "The picture is the new one"
+  check "the new title is in the reply" appears 'newTitle:Lady of Numbers' "$out/program.log"
+  shot profile-changed "The new picture"
 }
 
 upgrade_chapter() {
-  chapter "An upgrade"
+  chapter "Upgrade"
   printf 'installed=1.0.0.0\nseconds=3\noffer=1.1.0.0\n' >"$XDG_CONFIG_HOME/VORNApp/patchpilot.ini"
   check "a newer version was found" appears 'newver:1\.1\.0\.0' "$out/program.log"
   click 129 611
@@ -68,19 +70,19 @@ upgrade_chapter() {
   shot new-version "A newer version"
   click 840 198
   sleep 0.3
-  shot update-offer "The offer"
+  shot update-offer "The offer to update"
   click 697 488
   sleep 2
-  shot updating "The update runs"
+  shot updating "The update in progress"
   check "the update completed and the program ended" ends_with_0 "$program"
-  check "it said good-bye" grep -q 'VORNApp quit!!!' "$out/program.log"
+  check "it logged that it quits" grep -q 'VORNApp quit!!!' "$out/program.log"
 
   chapter "The new version"
   display account close
   mark "$out/display.jsonl"
   mark "$out/program.log"
   start_program
-  check "the user is signed in still, though the service is away" appears 'newFirstName:Ada' "$out/program.log"
+  check "the user is still signed in while the service is unreachable" appears 'newFirstName:Ada' "$out/program.log"
   check "the new version runs" appears 'version:1\.1\.0\.0' "$out/program.log"
   click 129 611
   click 774 198
@@ -89,6 +91,6 @@ upgrade_chapter() {
   kill -TERM "$program"
   check "it ended with exit code 0" ends_with_0 "$program"
   display quit 0
-  check "so did the display" ends_with_0 "$display"
+  check "the display ended with exit code 0" ends_with_0 "$display"
   pids=()
 }

@@ -1,9 +1,12 @@
-# What the tour is made of: a home of its own, checks, pictures, the pointer and the keyboard. To be
-# sourced after common.sh.
+# Functions of the tour: the temporary home folder, checks, pictures, pointer and keyboard. Source this
+# file after common.sh.
+# shellcheck shell=bash
+# shellcheck disable=SC2154 # tour.sh sets the folders `bin` and `out`
 
-# A home of its own keeps what is shown away from the user's files and from a running instance, but not
-# from the user's screen.
-make_home() { # make_home <folder of the built programs>
+# make_home <folder of the built programs>
+# Makes a temporary home folder. It keeps the programs away from the user's files and from an instance of
+# the user's, but lets them use the user's screen.
+make_home() {
   home=$(mktemp -d)
   export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
   case ${WAYLAND_DISPLAY:-/} in
@@ -15,28 +18,28 @@ make_home() { # make_home <folder of the built programs>
   export VORN_PORTALHUB_SOCKET=$home/run/portalhub VORN_SYSFS_ROOT=$home/sys
   mkdir -m 700 "$XDG_RUNTIME_DIR" "$TMPDIR"
   mkdir -p "$home/app" "$XDG_CONFIG_HOME/VORNApp" "$VORN_SYSFS_ROOT"
-  # The program keeps its settings beside itself.
+  # The program keeps its settings in its own folder.
   cp -a "$1"/{VORNApp,PatchPilot,config.json} "$1"/apps "$1"/libPortalHub.so* "$home/app"
 }
 
-# Has the program, when it starts, ask the simulated account service, which has told where it listens.
-use_account_service() { # use_account_service <file of the simulator's events>
+# use_account_service <file of the simulator's events>
+# Makes the program use the simulated account service: writes the address that the service has reported
+# into the configuration. Call it before the program starts.
+use_account_service() {
   printf '[Server]\nurl=%s\n' \
     "$(sed -n 's/.*"account-listening".*"url":"\([^"]*\)".*/\1/p' "$1" | head -n 1)" >"$home/app/config.ini"
 }
 
 clean_up() {
-  [ ${#pids[@]} -gt 0 ] && kill -KILL "${pids[@]}" 2>/dev/null || true
+  if [ ${#pids[@]} -gt 0 ]; then kill -KILL "${pids[@]}" 2>/dev/null || true; fi
   cp -r "$XDG_STATE_HOME" "$out/state" 2>/dev/null || true
   rm -rf "$home"
   write_index
 }
 
 checks=0
-chapter_title=""
-chapter() {
+chapter() { # chapter <title>
   step "$1"
-  chapter_title=$1
   printf '<h2>%s</h2>\n' "$1" >>"$out/index.body"
 }
 
@@ -47,7 +50,7 @@ check() { # check <what> <command...>
     printf '  [ ] %s\n' "$what"
     printf '<p class="bad">&#10007; %s</p>\n' "$what" >>"$out/index.body"
     import -window root "$out/failed.png" 2>/dev/null || true
-    fail "the tour: $what" "look at $out/failed.png, $out/program.log and $out/display.jsonl"
+    fail "the tour: $what" "see $out/failed.png, $out/program.log and $out/display.jsonl"
   fi
   checks=$((checks + 1))
   printf '  [x] %s\n' "$what"
@@ -65,22 +68,25 @@ write_index() {
   rm -f "$out/index.body"
 }
 
-# Until the file holds a line that matches after those that were there at the last mark.
+# `mark <file>` remembers the end of the file. The functions below look at the lines after the mark.
 declare -A marks=()
 mark() { marks[$1]=$(wc -l <"$1"); }
 since_mark() { tail -n "+$((${marks[$2]:-0} + 1))" "$2" | grep -qE -- "$1"; }
+# appears <pattern> <file>   waits for a line that matches.
 appears() { eventually since_mark "$1" "$2"; }
 count_since_mark() { tail -n "+$((${marks[$2]:-0} + 1))" "$2" | grep -cE -- "$1" || true; }
-appears_times() { # appears_times <number> <pattern> <file>: that often and no more
+# appears_times <number> <pattern> <file>   waits for a line that matches and compares the number of them.
+appears_times() {
   appears "$2" "$3" && [ "$(count_since_mark "$2" "$3")" = "$1" ]
 }
 
-# 60 s at most.
+# ends_with_0 <process>   waits up to 60 s for a child process and compares its exit code.
 ends_with_0() { timeout 60 tail --pid="$1" -s 0.05 -f /dev/null && wait "$1"; }
 
-# A picture of the main window, or of another; waits until two in a row are alike, so that no
-# animation is caught half way (a moving picture is taken as it is, after a while).
-shot() { # shot <name> <caption> [<window>]
+# shot <name> <caption> [<window>]
+# Takes a picture of a window, by default the main window. Waits until two pictures in a row are equal,
+# so that animations have ended, but no longer than 12 pictures.
+shot() {
   local target=${3:-$window} tries=0 before="" now
   while [ $tries -lt 12 ]; do
     now=$(import -window "$target" rgb:- 2>/dev/null | md5sum)
@@ -93,26 +99,28 @@ shot() { # shot <name> <caption> [<window>]
   show "$1" "$2"
 }
 
-# Takes a picture of the folder into the index.
-show() { # show <name> <caption>
+# show <name> <caption>   adds a picture of the folder to the index.
+show() {
   printf '<figure><img src="%s.png" alt=""><figcaption>%s</figcaption></figure>\n' "$1" "$2" >>"$out/index.body"
 }
 
-find_window() { # find_window <name>: sets `found`
+# find_window <name>   sets `found` to the first visible window whose name matches.
+find_window() {
   found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1)
   [ -n "$found" ]
 }
 
-# A window that was hidden is another one of the window system when it comes back.
+# Moves the main window to a known position and sets `window`. A window that was hidden has a new
+# identifier when it is shown again.
 place_window() {
   find_window '^VORNApp$' && window=$found && xdotool windowmove --sync "$window" 150 100 && is_painted "$window"
 }
 
-# Positions are those in the main window.
+# Positions are relative to the main window.
 click() { xdotool mousemove --window "$window" "$1" "$2" sleep 0.05 click 1; }
 point() { xdotool mousemove --window "$window" "$1" "$2"; }
 type_text() { xdotool type --delay 15 "$1"; }
 key() { xdotool key --delay 20 "$@"; }
 
-# A command for the simulated display.
+# Sends a command to the simulated display.
 display() { printf '%s\n' "$*" >&"$display_input"; }

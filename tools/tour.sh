@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
 # ./tools/tour.sh <folder of the built programs> <folder for the results>
 #
-# Uses the program as a person would, from sign-in to the upgrade, with a simulated display, account
-# service, updater and meeting program. Needs a screen with a window manager. Leaves pictures with an
-# index (index.html), the log and the display's messages. Exit code 0 only when every check holds.
+# Operates the program with pointer and keyboard, from sign-in to the upgrade, with a simulated display,
+# account service, updater and meeting program. Needs a screen with a window manager. Leaves pictures with
+# an index (index.html), the log and the messages of the display. Exit code 0 means that every check
+# passed.
 set -euo pipefail
 here=$(dirname "$0")
 source "$here/common.sh"
-for part in support account meeting settings states; do
-  source "$here/tour-$part.sh"
-done
+source "$here/tour-support.sh"
+source "$here/tour-account.sh"
+source "$here/tour-meeting.sh"
+source "$here/tour-settings.sh"
+source "$here/tour-states.sh"
 bin=$(realpath "$1")
 out=$2
 rm -rf "$out"
@@ -30,4 +33,4 @@ first_run_chapter
 upgrade_chapter
 states_chapter
 
-step "$checks checks hold. Pictures are in $out/index.html, log and messages beside it"
+step "$checks checks passed. See $out/index.html; log and messages are beside it"

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# ./tools/windows/make-qt.sh [archive]   makes a Windows Qt from the distribution's own Qt sources.
+# ./tools/windows/make-qt.sh [archive]   builds a Windows Qt from the Qt sources of Debian 13.
 #
-# Works in the Debian 13 root of tools/windows/make-root.sh, with its MinGW-w64 and Qt host tools, and
-# leaves an archive that tools/windows/test.sh takes as VORN_WINDOWS_QT. Interrupted, it goes on where
-# it was. It takes 80 minutes on two cores. Modules whose source the package source does not give are
-# left out with a message. Needs root.
+# Builds in the root of tools/windows/make-root.sh, with its MinGW-w64 and Qt host tools, and packs an
+# archive for VORN_WINDOWS_QT. An interrupted run is continued by the next one. It takes about an hour on two
+# cores. Modules whose sources are not available are left out with a message; for the graphical effects
+# the files of tools/windows/effects stand in. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
@@ -28,21 +28,21 @@ sed 's/^deb /deb-src /' "$windows_root/etc/apt/sources.list" >"$windows_root/etc
 in_root apt-get update -qq
 in_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
   dpkg-dev tcl gcc g++ libc6-dev make file >/dev/null
-# fetch <source package>: unpacks it to $work/<source package>; false when there is none.
+# fetch <source package>   unpacks its source to $work/<source package>; fails when there is none.
 fetch() {
   [ -d "$windows_root$work/$1" ] && return
   in_root sh -c "cd $work/sources && apt-get source -qq --download-only --tar-only $1" >"$log/$1.fetch" 2>&1 || {
-    printf '%s is left out: the package source does not give it\n' "$1"
+    printf '%s is left out: its source is not available\n' "$1"
     return 1
   }
-  # Callers ask for the outcome, so that a failure inside does not end the script by itself.
+  # `set -e` does not apply here because the callers test the result.
   { rm -rf "$windows_root$work/$1.new" && mkdir "$windows_root$work/$1.new" &&
-    tar -xf "$windows_root$work"/sources/"$1"_*.orig.tar.* -C "$windows_root$work/$1.new" --strip-components=1 &&
+    tar -xf "$windows_root$work/sources/$1"_*.orig.tar.* -C "$windows_root$work/$1.new" --strip-components=1 &&
     mv "$windows_root$work/$1.new" "$windows_root$work/$1"; } ||
-    fail "unpacking $1" "look at the lines above; a full disk is the usual reason"
+    fail "unpacking $1" "see the lines above; the usual cause is a full disk"
 }
 
-# done_once <name> <command...>: does it unless it has been done, and says what it took.
+# done_once <name> <command>...   runs the command unless an earlier run has finished it; prints its time.
 done_once() {
   local name=$1
   shift
@@ -51,7 +51,7 @@ done_once() {
   TIMEFORMAT="$name took %0R s, and %0U s + %0S s of the processors"
   time "$@" >"$log/$name" 2>&1 || {
     tail -30 "$log/$name" >&2
-    fail "building $name" "look at $log/$name"
+    fail "building $name" "see $log/$name"
   }
   touch "$windows_root$work/$name.done"
 }
@@ -98,7 +98,7 @@ build_base() {
     ninja -C $work/qt6-base/build install"
 }
 
-# Of the shader tools only the host's program is needed: a package of nothing stands for the library.
+# Only the host program of the shader tools is needed. An empty package replaces the library.
 write_shader_tools() {
   local folder=$windows_root$windows_qt/lib/cmake/Qt6ShaderTools
   [ -d "$folder" ] && return
@@ -118,7 +118,18 @@ EOF
     "$folder/Qt6ShaderToolsConfigVersionImpl.cmake"
 }
 
-build_module() { # <source package> [options]
+# leave_out <source package> <folder>...   takes folders out of the build that nothing here needs.
+leave_out() {
+  local name=$1 folder
+  shift
+  for folder in "$@"; do
+    sed -i -E "s|add_subdirectory\((\.\./tools/)?${folder##*/}( ${folder##*/})?\)|# not built: ${folder##*/}|" \
+      "$windows_root$work/$name/${folder%/*}/CMakeLists.txt"
+  done
+}
+
+# build_module <source package> [option]...
+build_module() {
   local name=$1
   shift
   in_root sh -c "$windows_qt/bin/qt-cmake -G Ninja -S $work/$name -B $work/$name/build $common_options $* &&
@@ -130,16 +141,29 @@ fetch sqlite3 && done_once sqlite3 build_sqlite
 fetch google-glog && done_once google-glog build_glog
 fetch qt6-base && done_once qt6-base build_base
 write_shader_tools
-# The program's pages use the Basic style and no particles: what else there is would double the time.
-fetch qt6-declarative && done_once qt6-declarative build_module qt6-declarative \
-  -DFEATURE_quickcontrols2_{fusion,imagine,material,universal,windows,fluentwinui3}=OFF -DFEATURE_quick_particles=OFF
+# The pages need the Basic style only, and no tools run on Windows. The other styles, the tools, their
+# compilers and the features of the debugger would more than double the build time.
+if fetch qt6-declarative; then
+  leave_out qt6-declarative src/{qmlcompiler,qmldom,qmlaotstats,qmlcachegen,plugins/qmllint,plugins/qmlls} \
+    src/{quickwidgets,qmllocalstorage,quicktestutils,quickcontrolstestutils} tools/{qml,qmlscene,qmlpreview,qmleasing}
+  done_once qt6-declarative build_module qt6-declarative \
+    -DFEATURE_quickcontrols2_{fusion,imagine,material,universal,windows,fluentwinui3}=OFF \
+    -DFEATURE_{quick_particles,quick_designer,qml_profiler,qml_preview,qml_jit}=OFF
+fi
 if fetch qt6-multimedia; then
+  # The library behind spatial audio is built even when that feature is off.
+  leave_out qt6-multimedia src/resonance-audio
   done_once qt6-multimedia build_module qt6-multimedia \
     -DFEATURE_ffmpeg=OFF -DFEATURE_spatialaudio=OFF -DFEATURE_spatialaudio_quick3d=OFF
 fi
 for name in qt6-websockets qt6-httpserver qt6-5compat; do
   fetch "$name" && done_once "$name" build_module "$name"
 done
+effects=$windows_root$windows_qt/qml/Qt5Compat/GraphicalEffects
+if [ ! -e "$effects/qmldir" ]; then
+  mkdir -p "$effects"
+  cp "$root"/tools/windows/effects/* "$effects"
+fi
 
 step "Packing $archive"
 mkdir -p "$(dirname "$archive")"

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # ./tools/windows/make-root.sh [folder]   makes a Debian 13 root that builds and runs Windows programs.
 #
-# In it: MinGW-w64 (GCC 14, posix threads), Qt's host tools, Wine and NSIS. About five minutes the
-# first time; run again it fills in only what is missing. Needs root and the package source of this
-# machine. The folder is $VORN_WINDOWS_ROOT or /var/tmp/vorn-windows-root where none is given.
+# The root holds MinGW-w64 (GCC 14, posix threads), Qt's host tools, Wine and NSIS. It takes about five
+# minutes; a second run installs only missing packages. Needs root and uses the package source of this
+# machine. The default folder is $VORN_WINDOWS_ROOT, or /var/tmp/vorn-windows-root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
@@ -14,28 +14,28 @@ need_packages debootstrap
 source_uri=$(awk '/^URIs:/ {print $2; exit}' /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
 [ -n "$source_uri" ] ||
   source_uri=$(awk '$1 == "deb" {for (i = 2; i <= NF; i++) if ($i ~ /^http/) {print $i; exit}}' /etc/apt/sources.list)
-[ -n "$source_uri" ] || fail "this machine's package source is not known" "look at /etc/apt"
+[ -n "$source_uri" ] || fail "this machine's package source is not known" "see /etc/apt"
 
 if [ ! -x "$windows_root/usr/bin/apt-get" ]; then
   step "Making a Debian 13 root in $windows_root"
   debootstrap --variant=minbase trixie "$windows_root" "$source_uri" >"/tmp/debootstrap.$$.log" 2>&1 || {
     tail -20 "/tmp/debootstrap.$$.log" >&2
-    fail "debootstrap" "look at the lines above"
+    fail "debootstrap" "see the lines above"
   }
   rm -f "/tmp/debootstrap.$$.log"
 fi
-# Only a tool's scratch: a write need not reach the disk at once.
+# The root can be made again at any time, so dpkg need not wait for the disk.
 echo force-unsafe-io >"$windows_root/etc/dpkg/dpkg.cfg.d/unsafe-io"
 cp /etc/resolv.conf /etc/hosts "$windows_root/etc/" 2>/dev/null || true
 mount_root
 list=$(printf '%s\n' "${windows_packages[@]}")
 if [ "$(cat "$windows_root/var/lib/vorn-packages" 2>/dev/null)" != "$list" ]; then
-  step "Installing ${#windows_packages[@]} packages in it"
+  step "Installing ${#windows_packages[@]} packages in the root"
   in_root apt-get update -qq
   in_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${windows_packages[@]}" >"$windows_root/var/log/vorn-packages.log" 2>&1 || {
     tail -20 "$windows_root/var/log/vorn-packages.log" >&2
-    fail "the packages could not be installed" "look at the lines above"
+    fail "the packages could not be installed" "see the lines above"
   }
   printf '%s\n' "$list" >"$windows_root/var/lib/vorn-packages"
 fi

@@ -1,9 +1,10 @@
 #!/bin/sh
-# run-wine.sh <program> [arguments]   runs a Windows program in the root; the tests' runner calls it.
-# Its log and temporary files are of the Wine folder in WINEPREFIX.
+# run-wine.sh <program> [arguments]   runs a Windows program in the root.
+#
+# The program keeps its files in the Wine folder that WINEPREFIX names.
 qt='Z:\opt\qtwin'
 export WINEPREFIX="${WINEPREFIX:-/build/wine}" WINEDEBUG="${WINEDEBUG:--all}"
-export WINEDLLOVERRIDES='mscoree,mshtml=' # no downloads of a .NET or browser engine
+export WINEDLLOVERRIDES='mscoree,mshtml=' # Wine would offer to download them
 export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-/build/run}"
 export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" QT_QUICK_BACKEND=software
 export QT_PLUGIN_PATH="$qt\\plugins" QML_IMPORT_PATH="$qt\\qml"

@@ -1,7 +1,9 @@
-# Shared by the scripts of this folder; to be sourced after tools/common.sh.
+# Settings and functions that the scripts of this folder share. Source this file after tools/common.sh.
+# shellcheck shell=bash
+# shellcheck disable=SC2034,SC2154 # shared with the scripts that source this file
 
 windows_root=${VORN_WINDOWS_ROOT:-/var/tmp/vorn-windows-root}
-# Where the Windows Qt lies inside the root; its package files name this place.
+# The folder of the Windows Qt inside the root. Its CMake packages contain this path.
 windows_qt=/opt/qtwin
 
 windows_packages=(
@@ -10,7 +12,7 @@ windows_packages=(
   qt6-multimedia-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools fonts-lato
 )
 
-# Mounts what programs in the root need: the system's folders and this checkout, read-only, at /src.
+# Mounts the system folders into the root, and this checkout read-only at /src.
 mount_root() {
   mkdir -p "$windows_root"/{proc,dev,src,build}
   mountpoint -q "$windows_root/proc" || mount -t proc proc "$windows_root/proc"
@@ -23,35 +25,34 @@ mount_root() {
   fi
 }
 
-# Runs a command in the root.
+# in_root <command>...   runs a command in the root.
 in_root() {
   chroot "$windows_root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/build LANG=C.UTF-8 \
     CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 QT_HASH_SEED=0 "$@"
 }
 
-# Sets `from` to the Windows Qt of $VORN_WINDOWS_QT, an archive or a folder, or where nothing is set to an
-# archive in a folder beside the checkout; to nothing when the root holds one already.
+has_windows_qt() { [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ]; }
+
+# Sets `from` to the archive or folder of a Windows Qt: $VORN_WINDOWS_QT, or an archive in a folder beside
+# the checkout. Fails when there is neither.
 find_windows_qt() {
-  from=""
-  [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ] && return
   from=${VORN_WINDOWS_QT:-}
   [ -n "$from" ] || from=$(find "$root/.." -maxdepth 3 -name 'qt-*mingw-w64.tar.xz' -print -quit 2>/dev/null)
-  [ -n "$from" ] || fail "there is no Windows Qt" \
-    "set VORN_WINDOWS_QT to an archive or folder of one made for /opt/qtwin, or make one with tools/windows/make-qt.sh (80 minutes on two cores)"
-  [ -e "$from" ] || fail "there is no Windows Qt at $from" "set VORN_WINDOWS_QT to an archive or folder"
+  [ -n "$from" ] && [ -e "$from" ]
 }
 
-# Puts it into the root.
+# Unpacks the Windows Qt into the root unless it is there.
 need_windows_qt() {
   local from
-  find_windows_qt
-  [ -n "$from" ] || return 0
+  has_windows_qt && return
+  find_windows_qt || fail "there is no Windows Qt${from:+ at $from}" \
+    "set VORN_WINDOWS_QT to an archive or folder made for $windows_qt, or make one with tools/windows/make-qt.sh"
   step "Unpacking the Windows Qt"
   if [ -d "$from" ]; then
     cp -a "$from" "$windows_root$windows_qt"
   else
     tar -xf "$from" -C "$windows_root/opt"
   fi
-  [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ] ||
-    fail "$from holds no qtwin/lib/cmake/Qt6" "give an archive that unpacks to qtwin/, or that folder"
+  has_windows_qt ||
+    fail "$from holds no qtwin/lib/cmake/Qt6" "use an archive that unpacks to qtwin/, or that folder"
 }

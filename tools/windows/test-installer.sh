@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # ./tools/windows/test-installer.sh   makes the installer and tries it under Wine.
 #
-# Installs silently into a fresh user's folders, starts the installed program on a virtual screen with
-# nothing but what was installed, and removes it again: with the user's data kept, and on request
-# without. Run tools/windows/test.sh first, which builds. Needs root.
+# Installs the program silently into a new Wine folder, starts it on a virtual screen with the installed
+# files only, and removes it: first keeping the user's data, then without. Run tools/windows/test.sh first,
+# which builds the program. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
@@ -19,7 +19,7 @@ mount_root
 step "Making the installer"
 in_root ninja -C /build/windows installer >"$windows_root/build/installer.log" 2>&1 || {
   tail -20 "$windows_root/build/installer.log" >&2
-  fail "the installer" "look at $windows_root/build/installer.log"
+  fail "the installer" "see $windows_root/build/installer.log"
 }
 setup=$(cd "$windows_root" && echo build/windows/VORNApp-*-setup.exe)
 ls -l "$windows_root/$setup"
@@ -35,7 +35,7 @@ start_screen 1280x900x24
 mkdir -p "$windows_root/tmp/.X11-unix"
 mountpoint -q "$windows_root/tmp/.X11-unix" || mount --bind /tmp/.X11-unix "$windows_root/tmp/.X11-unix"
 
-# Without the paths to the Qt that the program was built with.
+# wine_plain <program> [argument]...   runs a program without the paths of the Qt in the root.
 prefix=/build/wine-installed
 install -d -m 700 "$windows_root/build/run"
 wine_plain() {
@@ -44,66 +44,67 @@ wine_plain() {
 }
 is_gone() { ! [ -e "$1" ]; }
 rm -rf "$windows_root$prefix"
-wine_plain wineboot -i >/dev/null 2>&1 || fail "Wine" "look at the Wine of the root"
+wine_plain wineboot -i >/dev/null 2>&1 || fail "Wine" "run wineboot in the root to see the reason"
 user=$windows_root$prefix/drive_c/users/root
 folder=$user/AppData/Local/Programs/VORNApp
 folder_windows=C:/users/root/AppData/Local/Programs/VORNApp
 link="$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/VORNApp.lnk"
 uninstall_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\VORNApp'
 
-step "Installing silently, over an older version with a file that is no more"
+step "Installing silently over an older version, which has a file that the new one lacks"
 older=$windows_root/build/older
 rm -rf "$older"
 mkdir -p "$older/stage"
 touch "$older/stage/VORNApp.exe" "$older/stage/config.ini" "$older/stage/Gone.dll"
+# shellcheck disable=SC2016 # a variable of NSIS
 printf 'Delete "$INSTDIR\\%s"\n' VORNApp.exe Gone.dll >"$older/removal.nsh"
 in_root makensis -V2 -XTarget\ amd64-unicode -DVERSION=0.9.0.0 -DSTAGE=/build/older/stage \
   -DREMOVAL=/build/older/removal.nsh -DICON=/src/qml/images/VORNApp.ico -DOUTPUT=/build/older/setup.exe \
-  /src/packaging/windows/VORNApp.nsi || fail "the older installer" "look at packaging/windows/VORNApp.nsi"
+  /src/packaging/windows/VORNApp.nsi || fail "the older installer" "see packaging/windows/VORNApp.nsi"
 wine_plain Z:/build/older/setup.exe /S
-[ -f "$folder/Gone.dll" ] || fail "the older version was not installed" "look at packaging/windows/VORNApp.nsi"
+[ -f "$folder/Gone.dll" ] || fail "the older version was not installed" "see packaging/windows/VORNApp.nsi"
 wine_plain "Z:/$setup" /S
-[ -f "$folder/Gone.dll" ] && fail "an older version's file stayed" "look at packaging/windows/VORNApp.nsi"
+[ -f "$folder/Gone.dll" ] && fail "an older version's file stayed" "see packaging/windows/VORNApp.nsi"
 for file in VORNApp.exe PortalHub.dll config.ini config.json Qt6Core.dll libglog.dll Uninstall.exe \
   plugins/platforms/qwindows.dll plugins/sqldrivers/qsqlite.dll qml/QtQuick/qmldir; do
-  [ -f "$folder/$file" ] || fail "$file was not installed" "look at packaging/windows"
+  [ -f "$folder/$file" ] || fail "$file was not installed" "see packaging/windows"
 done
-[ -f "$link" ] || fail "there is no shortcut in the Start menu" "look at packaging/windows/VORNApp.nsi"
+[ -f "$link" ] || fail "there is no shortcut in the Start menu" "see packaging/windows/VORNApp.nsi"
 wine_plain reg query "$uninstall_key" /v DisplayVersion >/dev/null ||
-  fail "Windows does not list the program" "look at packaging/windows/VORNApp.nsi"
-wine_plain tasklist | grep -q VORNApp && fail "the installer started the program" "look at packaging/windows/VORNApp.nsi"
+  fail "Windows does not list the program" "see packaging/windows/VORNApp.nsi"
+wine_plain tasklist | grep -q VORNApp && fail "the installer started the program" "see packaging/windows/VORNApp.nsi"
 
-step "Starting what was installed"
+step "Starting the installed program"
 program_log=$windows_root/build/installed.log
 wine_plain "$folder_windows/VORNApp.exe" >"$program_log" 2>&1 &
 program=$!
 eventually grep -q 'RecvUdpDatagram\]thread start' "$program_log" ||
-  { tail -20 "$program_log" >&2; fail "the program did not come up" "look at $program_log"; }
+  { tail -20 "$program_log" >&2; fail "the program did not come up" "see $program_log"; }
 pages_say() { grep -q 'load error' "$program_log" || xdotool search --onlyvisible --name '^VORNApp$'; }
-eventually pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "look at $program_log"; }
+eventually pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "see $program_log"; }
 import -window root "$windows_root/build/installed.png"
 if grep -q 'load error' "$program_log"; then
   printf 'Its pages need more than this Windows Qt has: %s\n' \
     "$(grep -o '\[main\]qrc:.*' "$program_log" | tail -n 1)"
 fi
-[ -f "$folder/userdata.db" ] || fail "the user's data are not beside the program" "look at $program_log"
-wine_plain "Z:/$setup" /S && fail "it was replaced while it ran" "look at packaging/windows/VORNApp.nsi"
+[ -f "$folder/userdata.db" ] || fail "the user's data are not beside the program" "see $program_log"
+wine_plain "Z:/$setup" /S && fail "it was replaced while it ran" "see packaging/windows/VORNApp.nsi"
 wine_plain taskkill /IM VORNApp.exe /F >/dev/null
 wait "$program" || true
 
-step "Removing it, and its user's data only on request"
+step "Removing it, keeping the user's data"
 printf '[VORNApp]\nuse_remote_device=false\n' >"$folder/config.ini"
 wine_plain "$folder_windows/Uninstall.exe" /S
-eventually is_gone "$folder/Uninstall.exe" || fail "the uninstaller is still there" "look at packaging/windows/VORNApp.nsi"
-left=$(ls -A "$folder" | sort | tr '\n' ' ')
-[ "$left" = "config.ini userdata.db " ] || fail "left behind: $left" "look at packaging/windows"
-is_gone "$link" || fail "the shortcut is still there" "look at packaging/windows/VORNApp.nsi"
+eventually is_gone "$folder/Uninstall.exe" || fail "the uninstaller is still there" "see packaging/windows/VORNApp.nsi"
+left=$(find "$folder" -mindepth 1 -maxdepth 1 -printf '%f\n' | sort | tr '\n' ' ')
+[ "$left" = "config.ini userdata.db " ] || fail "left behind: $left" "see packaging/windows"
+is_gone "$link" || fail "the shortcut is still there" "see packaging/windows/VORNApp.nsi"
 wine_plain reg query "$uninstall_key" >/dev/null 2>&1 &&
-  fail "Windows still lists the program" "look at packaging/windows/VORNApp.nsi"
+  fail "Windows still lists the program" "see packaging/windows/VORNApp.nsi"
 
 wine_plain "Z:/$setup" /S
 grep -q 'use_remote_device=false' "$folder/config.ini" ||
-  fail "an update overwrote the user's settings" "look at packaging/windows/VORNApp.nsi"
+  fail "an update overwrote the user's settings" "see packaging/windows/VORNApp.nsi"
 wine_plain "$folder_windows/Uninstall.exe" /S /PURGE
-eventually is_gone "$folder" || fail "left behind: $(ls -A "$folder")" "look at packaging/windows"
-step "The program installs, runs and goes"
+eventually is_gone "$folder" || fail "left behind: $(ls -A "$folder")" "see packaging/windows"
+step "The program installs, runs and is removed"

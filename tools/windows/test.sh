@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# ./tools/windows/test.sh [--core] [ctest options]   builds the Windows program and its tests, and runs them under Wine.
+# ./tools/windows/test.sh [--core] [ctest options]   builds the Windows program and runs its tests under Wine.
 #
-# Everything happens in a Debian 13 root, which is made when it is missing (tools/windows/make-root.sh).
-# VORN_WINDOWS_QT names a ready Windows Qt, an archive or a folder; see docs/windows.md. With --core
-# only the tests of the rooms behind the window, with -N it only builds. Needs root.
+# Uses a Debian 13 root, which tools/windows/make-root.sh makes when it is missing. VORN_WINDOWS_QT names the
+# archive or folder of a Windows Qt; see docs/windows.md. With --core only the tests of the rooms without
+# a user interface are built and run, with -N tests are built and not run. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
@@ -33,14 +33,14 @@ in_root "$windows_qt/bin/qt-cmake" -G Ninja -S /src -B /build/windows -DCMAKE_BU
   -DVORN_BUILD_TESTS=ON -DVORN_WARNINGS_AS_ERRORS=ON \
   -DCMAKE_CROSSCOMPILING_EMULATOR=/src/tools/windows/run-test.sh >"$windows_root/build/configure.log" 2>&1 || {
   tail -30 "$windows_root/build/configure.log" >&2
-  fail "configuring for Windows" "look at $windows_root/build/configure.log"
+  fail "configuring for Windows" "see $windows_root/build/configure.log"
 }
-in_root ninja -C /build/windows "${targets[@]}" || fail "building for Windows" "look at the compiler's first message above"
+in_root ninja -C /build/windows "${targets[@]}" || fail "building for Windows" "see the first message of the compiler above"
 built=$SECONDS
 
 step "Testing under Wine"
 install -d -m 700 "$windows_root/build/run"
 [ -d "$windows_root/build/wine" ] || in_root /src/tools/windows/run-wine.sh wineboot -i >/dev/null 2>&1
 in_root ctest --test-dir /build/windows --output-on-failure --no-tests=error -j 2 "$@" ||
-  fail "tests under Wine" "run one again with: $0 -R <name>"
+  fail "tests under Wine" "see the output above; to run one test again: $0 -R <name>"
 printf '\nBuilt in %d s, tested in %d s\n' "$((built - began))" "$((SECONDS - built))"
