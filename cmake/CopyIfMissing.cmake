@@ -1,5 +1,5 @@
 # cmake -DFROM=<file> -DTO=<folder> -P CopyIfMissing.cmake
-# A configuration file that the program has written to is not replaced by the sample.
+# Copies the sample configuration into the build folder, but keeps a file that the program has changed.
 get_filename_component(name "${FROM}" NAME)
 if(NOT EXISTS "${TO}/${name}")
   file(COPY "${FROM}" DESTINATION "${TO}")

@@ -1,4 +1,4 @@
-# Compiler settings shared by every target, and the helpers that make a room and a test.
+# Compiler settings that every target shares, and the function that adds a room.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -36,17 +36,21 @@ else()
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor $<$<BOOL:${VORN_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 
-# The whole program is instrumented, the channel library included.
+# Applies to every target of the tree, the channel library included. Debug information of level 1 is
+# enough for the functions and lines in a report; full debug information takes a quarter of the build time.
 if(VORN_SANITIZE)
-  add_compile_options(-fsanitize=${VORN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined -O1
-    -g1) # reports name functions and lines; whole debug information takes a quarter of the build
+  add_compile_options(-fsanitize=${VORN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined
+    -O1 -g1)
   add_link_options(-fsanitize=${VORN_SANITIZE})
 endif()
 
-# vorn_add_room(<name> SOURCES ... [WINDOWS_SOURCES ...] [LINUX_SOURCES ...] USES <targets>)
-# makes the static library of one room. USES is the whole list of what the room may include.
+# vorn_add_room(<name> SOURCES <files> [WINDOWS_SOURCES <files>] [LINUX_SOURCES <files>]
+#               [USES <targets>] [PRIVATE_USES <targets>])
+# adds the static library vorn_<name> of one room. USES holds the targets that the room's headers include,
+# PRIVATE_USES those that only its implementation files include. Together they are all that the room may
+# include; tools/check-rooms.py compares them with the sources.
 function(vorn_add_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;WINDOWS_SOURCES;LINUX_SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;WINDOWS_SOURCES;LINUX_SOURCES;USES;PRIVATE_USES" ${ARGN})
   add_library(vorn_${name} STATIC ${ROOM_SOURCES})
   if(WIN32)
     target_sources(vorn_${name} PRIVATE ${ROOM_WINDOWS_SOURCES})
@@ -54,5 +58,5 @@ function(vorn_add_room name)
     target_sources(vorn_${name} PRIVATE ${ROOM_LINUX_SOURCES})
   endif()
   set_target_properties(vorn_${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(vorn_${name} PUBLIC vorn_settings ${ROOM_USES})
+  target_link_libraries(vorn_${name} PUBLIC vorn_settings ${ROOM_USES} PRIVATE ${ROOM_PRIVATE_USES})
 endfunction()
