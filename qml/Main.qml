@@ -1,4 +1,6 @@
 import QtQuick
+import "controls"
+import "pages"
 
 // The program's one top-level window: frameless, with title buttons of its own. Closing hides it.
 Window {
@@ -101,7 +103,7 @@ Window {
             anchors.fill: parent
             active: mainWindow.placed && mainWindow.device.login || mainWindow.shown
             visible: mainWindow.device.login
-            source: "MainPage.qml"
+            source: "pages/MainPage.qml"
         }
 
         Row {

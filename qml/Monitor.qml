@@ -1,5 +1,6 @@
 import QtQuick
 import QtMultimedia
+import "controls"
 
 // The display's screen, live, during its first set-up, and the pointer on it. Its creator destroys it
 // when it closes.

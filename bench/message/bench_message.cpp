@@ -1,4 +1,4 @@
-#include "device/Fakes.h"
+#include "rig/Fakes.h"
 
 #include <glog/logging.h>
 

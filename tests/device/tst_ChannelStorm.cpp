@@ -1,4 +1,4 @@
-#include "Fakes.h"
+#include "rig/Fakes.h"
 #include "support/LogCapture.h"
 
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #include "FakeFrameChannel.h"
 #include "device/VideoReceiver.h"
-#include "platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 #include "support/LogCapture.h"
 
 #include <QTest>

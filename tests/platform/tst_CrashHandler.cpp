@@ -1,5 +1,5 @@
 #include "platform/linux/CrashReport.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QDateTime>
 #include <QDir>

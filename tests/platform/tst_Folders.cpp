@@ -1,6 +1,6 @@
 #include "platform/Folders.h"
 #include "platform/VersionResource.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QDir>
 #include <QTemporaryDir>

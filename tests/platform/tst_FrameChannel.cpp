@@ -1,5 +1,5 @@
 #include "platform/FrameChannel.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 #include "platform/InstanceSegment.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QTemporaryDir>
 #include <QTest>

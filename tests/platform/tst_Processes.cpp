@@ -1,5 +1,5 @@
 #include "platform/Processes.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "platform/Registry.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

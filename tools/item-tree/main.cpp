@@ -1,9 +1,10 @@
 #include "ItemTree.h"
 
-#include "qml/pages/PageRig.h"
+#include "rig/PageRig.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDirIterator>
 #include <QFontDatabase>
 #include <QQmlContext>
 #include <QQmlExpression>
@@ -31,7 +32,8 @@ void addOptions(QCommandLineParser& parser)
         "JavaScript runs in the page's scope: its properties and functions, the program's context "
         "objects, and `rig`, which plays the display, the devices and the account service."_s);
     parser.addHelpOption();
-    parser.addPositionalArgument(u"page"_s, u"Name of a file in the folder qml, as in Meetings."_s);
+    parser.addPositionalArgument(u"page"_s,
+                                 u"Name of a file in the folder qml, such as Meetings."_s);
     parser.addOption({u"size"_s, u"Window size; 968x666 unless given."_s, u"WxH"_s, u"968x666"_s});
     parser.addOption(
         {u"run"_s, u"JavaScript to run once the page is there; may repeat."_s, u"script"_s});
@@ -39,6 +41,14 @@ void addOptions(QCommandLineParser& parser)
                       QString::number(SettleTime)});
     parser.addOption({u"png"_s, u"File for the picture."_s, u"file"_s});
     parser.addOption({u"quiet"_s, u"Print no items."_s});
+}
+
+/// The file of a page, wherever it lies in the folder qml; empty when there is none.
+QUrl pageFile(const QString& name)
+{
+    QDirIterator files(QStringLiteral(VORN_QML_DIR), {name + u".qml"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    return files.hasNext() ? QUrl::fromLocalFile(files.next()) : QUrl();
 }
 
 /// False, with a message, when one of the scripts fails.
@@ -76,8 +86,7 @@ int main(int argc, char* argv[])
     view.setColor(QColor(u"#282828"_s));
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(parseSize(parser.value(u"size"_s)));
-    view.setSource(QUrl::fromLocalFile(QStringLiteral(VORN_QML_DIR) + u'/' +
-                                       parser.positionalArguments().constFirst() + u".qml"_s));
+    view.setSource(pageFile(parser.positionalArguments().constFirst()));
     if (view.status() != QQuickView::Ready)
         return 1;
     view.show();

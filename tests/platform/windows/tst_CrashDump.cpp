@@ -1,4 +1,4 @@
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QDateTime>
 #include <QDir>

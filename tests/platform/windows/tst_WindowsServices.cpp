@@ -6,7 +6,7 @@
 #include "platform/VersionResource.h"
 #include "platform/Worker.h"
 #include "platform/windows/ChildCommand.h"
-#include "tests/platform/HelperProcess.h"
+#include "rig/HelperProcess.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtTest
-import "../../../qml"
+import "../../../qml/controls"
 
 TestCase {
     id: test

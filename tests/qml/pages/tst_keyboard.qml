@@ -1,7 +1,7 @@
 // qmllint disable unqualified
 import QtQuick
 import QtTest
-import "../../../qml"
+import "../../../qml/pages"
 
 // From the start to a launched meeting without a pointer.
 PageTest {

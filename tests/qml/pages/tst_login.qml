@@ -1,7 +1,7 @@
 // qmllint disable unqualified
 import QtQuick
 import QtTest
-import "../../../qml"
+import "../../../qml/pages"
 
 PageTest {
     id: test

@@ -1,7 +1,8 @@
 // qmllint disable unqualified
 import QtQuick
 import QtQuick.Controls.Basic
-import "../../../qml"
+import "../../../qml/controls"
+import "../../../qml/pages"
 
 DisplayTest {
     id: test

@@ -1,6 +1,6 @@
 // qmllint disable unqualified
 import QtQuick
-import "../../../qml"
+import "../../../qml/pages"
 
 PageTest {
     id: test

@@ -1,6 +1,7 @@
 // qmllint disable unqualified
 import QtQuick
-import "../../../qml"
+import "../../../qml/controls"
+import "../../../qml/pages"
 
 DisplayTest {
     id: test

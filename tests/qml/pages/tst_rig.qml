@@ -1,7 +1,6 @@
 // qmllint disable unqualified
 import QtQuick
 import QtTest
-import "../../../qml"
 
 TestCase {
     name: "Rig"

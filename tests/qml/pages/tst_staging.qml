@@ -1,7 +1,7 @@
 // qmllint disable unqualified
 import QtQuick
 import QtTest
-import "../../../qml"
+import "../../../qml/pages"
 
 // The times of the staging, with a clock that the test turns.
 TestCase {

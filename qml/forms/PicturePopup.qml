@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Templates as T
+import "../controls"
 
 // Chooses the user's picture.
 Popup {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Creates an account for a work address.
 LoginForm {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import VORNApp as Vorn
+import "../controls"
 
 // Steers the display's camera by hand or leaves it to automatic framing, by the tab chosen.
 FocusScope {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // The camera page: asks for the display's camera while that is off, and steers it while it is in use.
 Item {

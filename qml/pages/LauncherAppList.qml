@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Which meeting apps the launcher shows; at least one stays.
 Item {

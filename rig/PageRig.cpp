@@ -1,4 +1,4 @@
-#include "PageRig.h"
+#include "rig/PageRig.h"
 
 #include <QImage>
 #include <QQmlContext>

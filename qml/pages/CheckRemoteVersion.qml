@@ -1,5 +1,6 @@
 import QtQuick
 import Qt5Compat.GraphicalEffects
+import "../controls"
 
 // Warns of a display whose firmware is too old for this program.
 Item {

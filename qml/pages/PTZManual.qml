@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import VORNApp as Vorn
+import "../controls"
 
 // Moves and zooms the camera while a button is held, recalls its presets and keeps new ones.
 FocusScope {

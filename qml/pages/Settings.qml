@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import "../controls"
 
 // The program's settings, in three tabs.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Whether the display's devices come on by themselves in a meeting on the PC.
 Item {

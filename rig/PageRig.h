@@ -1,12 +1,12 @@
 #pragma once
 
 #include "app/SignedInAccount.h"
-#include "device/Fakes.h"
 #include "peripherals/CameraControl.h"
+#include "rig/Fakes.h"
 #include "simulator/account/AccountService.h"
 
-#include "ScreenRig.h"
 #include "account/NetworkManager.h"
+#include "rig/ScreenRig.h"
 
 #include <QPoint>
 #include <QVariant>

@@ -1,5 +1,7 @@
 import QtQuick
 import QtQuick.Dialogs
+import "../controls"
+import "../forms"
 
 // The signed-in user's profile and picture, and the way to sign out.
 Item {

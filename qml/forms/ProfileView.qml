@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import "../controls"
 
 // The user's profile, to read.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // The program's version, the search for a newer one and the update.
 Item {

@@ -1,4 +1,4 @@
-#include "ScreenRig.h"
+#include "rig/ScreenRig.h"
 
 #include "device/FrameHeader.h"
 

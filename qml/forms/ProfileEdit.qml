@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // The user's profile, to change.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // A field of the profile with its caption above.
 QuickTextField {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../forms"
 
 // What the window shows while nobody is signed in: sign-in, a new account, a forgotten password.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Has a link sent with which the password can be set anew.
 LoginForm {

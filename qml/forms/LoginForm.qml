@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // The frame of a login form: title, sub-line, the service's answer and the button that submits.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Signs a user in.
 LoginForm {

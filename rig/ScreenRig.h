@@ -1,7 +1,7 @@
 #pragma once
 
-#include "device/Fakes.h"
-#include "platform/HelperProcess.h"
+#include "rig/Fakes.h"
+#include "rig/HelperProcess.h"
 
 #include <QTimer>
 #include <QUdpSocket>

@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 
 // Follows the cable to the display, from plugging it in to the launch of a meeting, and the display's
 // first set-up.
@@ -86,7 +87,7 @@ Item {
             page.mainWindow.monitorWindow.requestActivate();
             return;
         }
-        const component = Qt.createComponent("Monitor.qml");
+        const component = Qt.createComponent("../Monitor.qml");
         if (component.status === Component.Error) {
             console.warn(component.errorString());
             return;

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import "../controls"
 
 // What the window shows to a signed-in user: navigation on the left, one of four pages on the right.
 Item {

@@ -1,5 +1,6 @@
 import QtQuick
 import Qt5Compat.GraphicalEffects
+import "../controls"
 
 // An overview of the display: the time, its volume, and what it shows.
 Item {
