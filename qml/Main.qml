@@ -69,8 +69,8 @@ Window {
     // otherwise.
     Rectangle {
         anchors.fill: parent
-        color: "#282828"
-        radius: 10
+        color: Theme.windowColor
+        radius: Theme.windowRadius
 
         MouseArea {
             property point pressPoint

@@ -40,7 +40,7 @@ Window {
     width: minimumWidth
     height: minimumHeight
     title: qsTr("VORN Bar")
-    color: "#282828"
+    color: Theme.windowColor
     visible: true
 
     onFrameIndexChanged: {
@@ -110,7 +110,7 @@ Window {
         anchors.centerIn: parent
         visible: monitor.currentPage === monitor.page_id_waiting
         text: qsTr("Connecting, please wait.")
-        font.pixelSize: 32
+        font.pixelSize: Theme.monitorText
         Accessible.role: Accessible.AlertMessage
     }
 

@@ -22,7 +22,7 @@ ControlButton {
         radius: 26
         color: "transparent"
         border.width: 2
-        border.color: button.current ? "#4DAF4E" : "transparent"
+        border.color: button.current ? Theme.green : "transparent"
 
         CircularImage {
             id: picture
@@ -39,7 +39,7 @@ ControlButton {
         anchors.verticalCenter: ring.verticalCenter
         width: Math.min(implicitWidth, button.maximumWidth - x)
         elide: Text.ElideRight
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         font.weight: Font.Medium
     }
 }

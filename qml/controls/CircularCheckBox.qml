@@ -5,8 +5,8 @@ Item {
     id: root
 
     property bool checked: false
-    property color normalColor: "#FFFFFF"
-    property color checkedColor: "#4EB857"
+    property color normalColor: Theme.white
+    property color checkedColor: Theme.switchGreen
     property real size: 16
     property string text: ""
     property real spacing: 12
@@ -73,7 +73,7 @@ Item {
 
         x: root.size + root.spacing
         text: root.text
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     PressArea {

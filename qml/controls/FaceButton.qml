@@ -8,12 +8,12 @@ QuickButton {
 
     anchors.horizontalCenter: parent?.horizontalCenter
     height: 36
-    radius: 18
+    radius: Theme.pillRadius
 
     LatoRegularLabel {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 }

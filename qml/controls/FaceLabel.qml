@@ -4,6 +4,6 @@ import QtQuick
 LatoRegularLabel {
     anchors.horizontalCenter: parent?.horizontalCenter
     horizontalAlignment: Text.AlignHCenter
-    font.pixelSize: 24
-    color: "#BBC7CE"
+    font.pixelSize: Theme.faceText
+    color: Theme.textGrey
 }

@@ -17,6 +17,6 @@ Rectangle {
     radius: controlRadius + gap + border.width
     color: "transparent"
     border.width: 2
-    border.color: "#4DAF4E"
+    border.color: Theme.green
     visible: control.activeFocus
 }

@@ -9,7 +9,7 @@ Item {
     required property string text
     required property bool roundLeft
     required property bool current
-    readonly property color baseColor: "#28D8D8D8"
+    readonly property color baseColor: Theme.tabGrey
     readonly property color fillColor: {
         if (tab.current)
             return tab.baseColor;
@@ -35,7 +35,7 @@ Item {
     // Drawn twice, round and square, and each cut to its side: translucent colours must not overlap.
     // The cut lies on a whole pixel of the window also where a pixel is a quarter more.
     Repeater {
-        model: [18, 0]
+        model: [Theme.pillRadius, 0]
 
         Item {
             id: part
@@ -65,7 +65,7 @@ Item {
     LatoRegularLabel {
         anchors.centerIn: parent
         text: tab.text
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     PressArea {

@@ -9,5 +9,5 @@ T.Label {
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
-    color: "#FFFFFF"
+    color: Theme.white
 }

@@ -17,7 +17,7 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 21
-        color: "#BBC7CE"
+        font.pixelSize: Theme.headingText
+        color: Theme.textGrey
     }
 }

@@ -17,7 +17,7 @@ Item {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 32
+        font.pixelSize: Theme.monitorText
         Accessible.role: Accessible.AlertMessage
     }
 }

@@ -10,10 +10,10 @@ QuickButton {
 
     width: 168
     height: 36
-    radius: 18
-    normalColor: current ? "#4DAF4E" : "transparent"
-    hoverColor: current ? "#4DAF4E" : "#404DAF4E"
-    pressedColor: current ? "#4DAF4E" : "#804DAF4E"
+    radius: Theme.pillRadius
+    normalColor: current ? Theme.green : "transparent"
+    hoverColor: current ? Theme.green : "#404DAF4E"
+    pressedColor: current ? Theme.green : "#804DAF4E"
     Accessible.selectable: true
     Accessible.selected: current
 
@@ -29,7 +29,7 @@ QuickButton {
 
         x: 40
         anchors.verticalCenter: parent.verticalCenter
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         font.weight: Font.Medium
     }
 }

@@ -10,7 +10,7 @@ QuickButton {
 
     width: 100
     height: 36
-    radius: 18
+    radius: Theme.pillRadius
     normalColor: "transparent"
     hoverColor: "#20B0B5C4"
     pressedColor: "#40B0B5C4"
@@ -21,7 +21,7 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         color: button.outlineColor
     }
 }

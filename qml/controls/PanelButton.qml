@@ -9,8 +9,8 @@ QuickButton {
 
     width: 124
     height: 36
-    radius: 4
-    normalColor: "#4EB857"
+    radius: Theme.panelButtonRadius
+    normalColor: Theme.switchGreen
     hoverColor: Qt.darker(normalColor, 1.3)
     pressedColor: Qt.darker(normalColor, 1.6)
 
@@ -18,6 +18,6 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 }

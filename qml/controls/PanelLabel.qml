@@ -4,6 +4,6 @@ import QtQuick
 LatoRegularLabel {
     anchors.horizontalCenter: parent?.horizontalCenter
     horizontalAlignment: Text.AlignHCenter
-    font.pixelSize: 16
-    color: "#2C2C2C"
+    font.pixelSize: Theme.bodyText
+    color: Theme.panelText
 }

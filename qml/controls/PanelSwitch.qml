@@ -4,10 +4,10 @@ import QtQuick
 QuickSwitch {
     width: 35
     height: 18
-    radius: 4
+    radius: Theme.panelButtonRadius
     handleHeight: 16
     handleRadius: 2
     handleSpacing: 1
-    normalColor: "#9B9B9B"
-    checkedColor: "#4EB857"
+    normalColor: Theme.offGrey
+    checkedColor: Theme.switchGreen
 }

@@ -9,7 +9,7 @@ QuickButton {
     width: 86
     height: 36
     radius: 8
-    normalColor: "#0CBBC7CE"
+    normalColor: Theme.padGrey
     hoverColor: "#20BBC7CE"
     pressedColor: "#40BBC7CE"
 
@@ -17,6 +17,6 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
-        font.pixelSize: 14
+        font.pixelSize: Theme.noteText
     }
 }

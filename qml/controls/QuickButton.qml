@@ -5,7 +5,7 @@ import QtQuick
 Rectangle {
     id: button
 
-    property color normalColor: "#4DAF4E"
+    property color normalColor: Theme.green
     property color hoverColor: "#a04DAF4E"
     property color pressedColor: "#604DAF4E"
     property alias longPresse: area.longPresse

@@ -5,9 +5,9 @@ Rectangle {
     id: root
 
     property bool checked: false
-    property color handleColor: "#FFFFFF"
-    property color normalColor: "#9B9B9B"
-    property color checkedColor: "#4EB857"
+    property color handleColor: Theme.white
+    property color normalColor: Theme.offGrey
+    property color checkedColor: Theme.switchGreen
     property real handleRadius: radius
     property real handleHeight: height
     property real handleSpacing: (height - handleHeight) / 2

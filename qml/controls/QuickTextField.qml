@@ -19,10 +19,10 @@ T.TextField {
 
     property color backgroundColor: "transparent"
     property color normalBorderColor: "#D5D5D5"
-    property color focusBorderColor: "#4DAF4E"
-    property color errorBorderColor: "#DB4747"
+    property color focusBorderColor: Theme.green
+    property color errorBorderColor: Theme.errorRed
     property real borderWidth: 1
-    property real borderRadius: 18
+    property real borderRadius: Theme.pillRadius
     property string holdButtonText: showPassword ? qsTr("Hide") : qsTr("Show")
     property bool enablePasswordMode: false
     property bool showPassword: false
@@ -149,11 +149,11 @@ T.TextField {
     rightPadding: enablePasswordMode ? 15 + revealButton.width + 15 : 15
     verticalAlignment: TextInput.AlignVCenter
     font.family: errorLabel.font.family
-    font.pixelSize: 14
-    color: "#BBC7CE"
-    placeholderTextColor: "#80BBC7CE"
-    selectionColor: "#4DAF4E"
-    selectedTextColor: "#FFFFFF"
+    font.pixelSize: Theme.noteText
+    color: Theme.textGrey
+    placeholderTextColor: Theme.placeholderGrey
+    selectionColor: Theme.green
+    selectedTextColor: Theme.white
     echoMode: enablePasswordMode && !showPassword ? TextInput.Password : TextInput.Normal
     // Selecting a revealed password with the mouse would copy it on systems with a selection clipboard.
     selectByMouse: !enablePasswordMode || !showPassword
@@ -259,8 +259,8 @@ T.TextField {
             id: revealLabel
 
             text: field.holdButtonText
-            font.pixelSize: 12
-            color: "#BBC7CE"
+            font.pixelSize: Theme.smallText
+            color: Theme.textGrey
         }
     }
 
@@ -285,7 +285,7 @@ T.TextField {
         x: field.leftPadding
         y: field.height + 2
         text: field.errorMessage
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
         color: field.errorBorderColor
         visible: field.showError
     }

@@ -9,10 +9,10 @@ QuickButton {
 
     width: label.implicitWidth + 30
     height: 36
-    radius: 18
-    normalColor: current ? "#28D8D8D8" : "transparent"
-    hoverColor: Qt.darker("#28D8D8D8", 1.3)
-    pressedColor: Qt.darker("#28D8D8D8", 1.6)
+    radius: Theme.pillRadius
+    normalColor: current ? Theme.tabGrey : "transparent"
+    hoverColor: Qt.darker(Theme.tabGrey, 1.3)
+    pressedColor: Qt.darker(Theme.tabGrey, 1.6)
     Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: current

@@ -13,8 +13,8 @@ ControlButton {
 
     width: 420
     height: 260
-    radius: 15
-    color: available ? "#1a4fb857" : "#F5F5F5"
+    radius: Theme.panelRadius
+    color: available ? "#1a4fb857" : Theme.trackGrey
     enabled: available
     enterOpacity: 0.8
     pressedOpacity: 0.6
@@ -33,16 +33,16 @@ ControlButton {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 128
         text: card.title
-        font.pixelSize: 21
-        color: card.available ? "#FFFFFF" : "#6D6E71"
+        font.pixelSize: Theme.headingText
+        color: card.available ? Theme.white : Theme.mutedText
     }
 
     LatoRegularLabel {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 174
         text: card.text
-        font.pixelSize: 16
-        color: "#6D6E71"
+        font.pixelSize: Theme.bodyText
+        color: Theme.mutedText
         horizontalAlignment: Text.AlignHCenter
     }
 
@@ -52,7 +52,7 @@ ControlButton {
         anchors.bottom: parent.bottom
         width: 225
         height: 10
-        color: "#4EB857"
+        color: Theme.switchGreen
         visible: card.value === 2
     }
 }

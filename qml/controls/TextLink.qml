@@ -16,7 +16,7 @@ ControlButton {
     LatoRegularLabel {
         id: label
 
-        color: "#4DAF4E"
-        font.pixelSize: 14
+        color: Theme.green
+        font.pixelSize: Theme.noteText
     }
 }

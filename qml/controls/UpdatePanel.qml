@@ -11,7 +11,7 @@ Rectangle {
 
     width: 540
     height: 280
-    radius: 15
+    radius: Theme.panelRadius
     border.width: 1
     border.color: "lightgrey"
     Accessible.role: Accessible.Dialog

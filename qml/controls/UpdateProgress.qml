@@ -53,13 +53,13 @@ Row {
         width: 400
         height: 8
         radius: 7
-        color: "#EBEBEB"
+        color: Theme.panelGrey
 
         Rectangle {
             width: parent.width * root.value / 100
             height: parent.height
             radius: parent.radius
-            color: root.greyed ? "#9B9B9B" : "#4EB857"
+            color: root.greyed ? Theme.offGrey : Theme.switchGreen
         }
     }
 
@@ -67,8 +67,8 @@ Row {
         id: label
 
         text: qsTr("%1%").arg(root.value)
-        font.pixelSize: 16
-        color: "#2C2C2C"
+        font.pixelSize: Theme.bodyText
+        color: Theme.panelText
     }
 
     Timer {

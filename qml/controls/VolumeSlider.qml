@@ -28,8 +28,8 @@ Slider {
 
     background: Rectangle {
         objectName: "track"
-        color: "#F5F5F5"
-        radius: 15
+        color: Theme.trackGrey
+        radius: Theme.panelRadius
 
         // Cut off rather than narrowed, so that it keeps to the track's corners at every width.
         Item {
@@ -41,8 +41,8 @@ Slider {
             Rectangle {
                 width: slider.width
                 height: slider.height
-                radius: 15
-                color: "#4EB857"
+                radius: Theme.panelRadius
+                color: Theme.switchGreen
             }
         }
 
@@ -55,6 +55,6 @@ Slider {
 
     FocusRing {
         control: slider
-        controlRadius: 15
+        controlRadius: Theme.panelRadius
     }
 }

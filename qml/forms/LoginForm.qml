@@ -39,8 +39,8 @@ Item {
         // An address can be longer than the window is wide.
         width: Math.min(implicitWidth, 427)
         wrapMode: Text.Wrap
-        color: "#BBC7CE"
-        font.pixelSize: 14
+        color: Theme.textGrey
+        font.pixelSize: Theme.noteText
     }
 
     TextLink {
@@ -67,7 +67,7 @@ Item {
         wrapMode: Text.Wrap
         elide: Text.ElideRight
         maximumLineCount: 2
-        font.pixelSize: 14
+        font.pixelSize: Theme.noteText
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
     }
@@ -77,14 +77,14 @@ Item {
 
         width: 375
         height: 36
-        radius: 18
+        radius: Theme.pillRadius
         onClicked: form.submitted()
 
         LatoRegularLabel {
             id: submitLabel
 
             anchors.centerIn: parent
-            font.pixelSize: 16
+            font.pixelSize: Theme.bodyText
         }
     }
 }

@@ -30,14 +30,14 @@ Popup {
     // As round as the window that it dims.
     T.Overlay.modal: Rectangle {
         color: "#7F28282A"
-        radius: 10
+        radius: Theme.windowRadius
     }
 
     LatoRegularLabel {
         x: 30
         y: 20
         text: qsTr("Change Profile Picture")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         font.weight: Font.Medium
     }
 
@@ -53,8 +53,8 @@ Popup {
         x: 154
         y: 80
         text: qsTr("Please select a jpg, jpeg or png image file with\nsize smaller than 2M to upload and crop an\nimage to be your profile picture.")
-        font.pixelSize: 12
-        color: "#BBC7CE"
+        font.pixelSize: Theme.smallText
+        color: Theme.textGrey
     }
 
     LatoRegularLabel {
@@ -63,8 +63,8 @@ Popup {
         objectName: "pictureError"
         x: 154
         y: 135
-        font.pixelSize: 12
-        color: "#DB4747"
+        font.pixelSize: Theme.smallText
+        color: Theme.errorRed
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
     }
@@ -75,7 +75,7 @@ Popup {
         y: 163
         width: 124
         height: 31
-        outlineColor: "#BBC7CE"
+        outlineColor: Theme.textGrey
         text: qsTr("Choose File")
         textSize: 14
         onClicked: popup.chooseClicked()

@@ -59,7 +59,7 @@ Item {
             x: picture.width + 20
             anchors.verticalCenter: picture.verticalCenter
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
-            font.pixelSize: 12
+            font.pixelSize: Theme.smallText
             color: "#7C818D"
         }
     }
@@ -71,10 +71,10 @@ Item {
         caption: qsTr("Email")
         text: view.email
         enabled: false
-        color: "#4DBBC7CE"
-        normalBorderColor: "#4DBBC7CE"
-        focusBorderColor: "#4DBBC7CE"
-        errorBorderColor: "#4DBBC7CE"
+        color: Theme.disabledGrey
+        normalBorderColor: Theme.disabledGrey
+        focusBorderColor: Theme.disabledGrey
+        errorBorderColor: Theme.disabledGrey
     }
 
     ProfileField {
@@ -131,7 +131,7 @@ Item {
         width: Math.min(implicitWidth, view.width - 2 * 47)
         elide: Text.ElideRight
         maximumLineCount: 1
-        font.pixelSize: 14
+        font.pixelSize: Theme.noteText
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
     }
@@ -152,13 +152,13 @@ Item {
         y: 356
         width: 100
         height: 36
-        radius: 18
+        radius: Theme.pillRadius
         onClicked: view.saveClicked()
 
         LatoRegularLabel {
             anchors.centerIn: parent
             text: qsTr("Save")
-            font.pixelSize: 16
+            font.pixelSize: Theme.bodyText
         }
     }
 }

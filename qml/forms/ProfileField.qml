@@ -15,7 +15,7 @@ QuickTextField {
         id: captionLabel
 
         y: -27
-        font.pixelSize: 16
-        color: "#BBC7CE"
+        font.pixelSize: Theme.bodyText
+        color: Theme.textGrey
     }
 }

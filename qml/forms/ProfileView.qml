@@ -27,7 +27,7 @@ Item {
         width: Math.min(implicitWidth, editLink.x - x - 20)
         text: view.name
         elide: Text.ElideRight
-        font.pixelSize: 21
+        font.pixelSize: Theme.headingText
         font.weight: Font.Medium
         Accessible.role: Accessible.Heading
     }
@@ -39,7 +39,7 @@ Item {
         x: 545
         y: 91
         text: qsTr("Edit")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         onClicked: view.editClicked()
     }
 
@@ -55,8 +55,8 @@ Item {
                 required property string modelData
 
                 text: modelData
-                font.pixelSize: 16
-                color: "#BBC7CE"
+                font.pixelSize: Theme.bodyText
+                color: Theme.textGrey
             }
         }
     }
@@ -76,7 +76,7 @@ Item {
                 width: view.width - 246 - 20
                 text: modelData
                 elide: Text.ElideRight
-                font.pixelSize: 16
+                font.pixelSize: Theme.bodyText
             }
         }
     }

@@ -64,7 +64,7 @@ LoginForm {
         anchors.top: fields.bottom
         anchors.topMargin: 10
         text: qsTr("Forgot Password?")
-        textColor: "#80BBC7CE"
+        textColor: Theme.placeholderGrey
         onClicked: form.forgotPassword()
     }
 }

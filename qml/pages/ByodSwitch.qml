@@ -13,7 +13,7 @@ Item {
         x: 68
         y: 183
         text: qsTr("Smart BYOD Switch")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     LatoRegularLabel {
@@ -22,7 +22,7 @@ Item {
         x: 68
         y: 220
         text: qsTr("The VORN device’s microphone, camera, and speakers will automatically activate \nwhen start a BYOD meeting.")
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
     }
 
     PanelSwitch {

@@ -38,8 +38,8 @@ Item {
             anchors.centerIn: parent
             visible: page.currentPage === page.page_id_open_camera
             text: qsTr("Please turn on your camera in any app\nto make adjustments")
-            color: "#BBC7CE"
-            font.pixelSize: 24
+            color: Theme.textGrey
+            font.pixelSize: Theme.faceText
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: text

@@ -15,7 +15,7 @@ Item {
         id: panel
 
         anchors.fill: parent
-        radius: 15
+        radius: Theme.panelRadius
         border.width: 1
         border.color: "lightgrey"
         visible: false
@@ -39,7 +39,7 @@ Item {
         width: 20
         radius: 0
         normalColor: "transparent"
-        hoverColor: "#EBEBEB"
+        hoverColor: Theme.panelGrey
         pressedColor: "#E3E3E3"
         accessibleName: qsTr("Close")
         onClicked: dialog.visible = false

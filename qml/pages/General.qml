@@ -84,7 +84,7 @@ Item {
         x: 68
         y: 186
         text: qsTr("Current Version:  %1").arg(page.currentVersion)
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     LatoRegularLabel {
@@ -95,9 +95,9 @@ Item {
         anchors.leftMargin: 20
         y: versionLabel.y
         text: qsTr("New Version:  %1").arg(page.newVersion)
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         font.italic: true
-        color: "#4DAF4E"
+        color: Theme.green
         visible: page.hasNewVerion
         onVisibleChanged: {
             if (visible)
@@ -113,9 +113,9 @@ Item {
         anchors.leftMargin: 20
         y: versionLabel.y
         text: qsTr("You're up to date.")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
         font.italic: true
-        color: "#4DAF4E"
+        color: Theme.green
         visible: false
     }
 
@@ -123,8 +123,8 @@ Item {
         x: 68
         y: 230
         text: qsTr("Term of Use and Privacy Policy")
-        textColor: "#BBC7CE"
-        font.pixelSize: 12
+        textColor: Theme.textGrey
+        font.pixelSize: Theme.smallText
     }
 
     QuickButton {
@@ -136,14 +136,14 @@ Item {
         y: 180
         width: page.hasNewVerion ? 118 : 156
         height: 36
-        radius: 18
+        radius: Theme.pillRadius
         enabled: page.currentPage === page.page_id_root
         onClicked: page.checkForUpdate()
 
         LatoRegularLabel {
             anchors.centerIn: parent
             text: page.hasNewVerion ? qsTr("Update") : qsTr("Check for Update")
-            font.pixelSize: 16
+            font.pixelSize: Theme.bodyText
         }
     }
 
@@ -177,11 +177,11 @@ Item {
 
             PanelButton {
                 objectName: "laterButton"
-                normalColor: "#FFFFFF"
+                normalColor: Theme.white
                 border.width: 1
-                border.color: "#9B9B9B"
+                border.color: Theme.offGrey
                 text: qsTr("Later")
-                textColor: "#6D6E71"
+                textColor: Theme.mutedText
                 onClicked: page.currentPage = page.page_id_root
             }
 

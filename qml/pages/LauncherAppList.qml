@@ -18,7 +18,7 @@ Item {
         x: 68
         y: 183
         text: qsTr("Select which apps appear on your launcher. Only checked apps will be shown.")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     Column {

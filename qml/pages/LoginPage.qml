@@ -1,4 +1,5 @@
 import QtQuick
+import "../controls"
 import "../forms"
 
 // What the window shows while nobody is signed in: sign-in, a new account, a forgotten password.
@@ -16,7 +17,7 @@ Item {
     property string str_email: ""
     // The service's answer to a request that failed.
     property string serverResponse: ""
-    property color serverResponseColor: "#DB4747"
+    property color serverResponseColor: Theme.errorRed
     readonly property list<string> notCompanyEmail: [
         "gmail.com", "googlemail.com", "yahoo.com", "ymail.com", "hotmail.com", "outlook.com", "live.com",
         "msn.com", "icloud.com", "me.com", "aol.com", "gmx.com", "gmx.net", "gmx.de", "web.de", "mail.com",

@@ -85,8 +85,8 @@ Item {
         y: 593
         width: 168
         height: 36
-        radius: 18
-        normalColor: settings.visible ? "#4DAF4E" : "transparent"
+        radius: Theme.pillRadius
+        normalColor: settings.visible ? Theme.green : "transparent"
         Accessible.selectable: true
         Accessible.selected: settings.visible
         onClicked: page.showOtherPage(page.page_id_settings)
@@ -101,7 +101,7 @@ Item {
             x: 40
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Settings")
-            font.pixelSize: 16
+            font.pixelSize: Theme.bodyText
         }
     }
 
@@ -121,7 +121,7 @@ Item {
                 x: -radius
                 width: parent.width + radius
                 height: parent.height
-                radius: 10
+                radius: Theme.windowRadius
                 color: page.currentPage === page.page_id_settings ? "#0DBBC7CE" : "transparent"
             }
         }
@@ -157,7 +157,7 @@ Item {
         height: 15
         text: page.device.version
         color: "#AEC1C3"
-        font.pixelSize: 12
+        font.pixelSize: Theme.smallText
         font.italic: true
     }
 }

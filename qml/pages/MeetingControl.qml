@@ -54,7 +54,7 @@ Item {
         x: 938
         y: 100
         text: Qt.formatTime(page.now, "hh:mm AP")
-        font.pixelSize: 21
+        font.pixelSize: Theme.headingText
         horizontalAlignment: Text.AlignRight
     }
 
@@ -63,7 +63,7 @@ Item {
         anchors.right: time.right
         y: 133
         text: Qt.formatDate(page.now, "ddd, MMM dd, yyyy")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     Rectangle {
@@ -71,14 +71,14 @@ Item {
         y: 192
         width: 972
         height: 1
-        color: "#D3D8DC"
+        color: Theme.ruleGrey
     }
 
     LatoBoldLabel {
         x: 60
         y: 242
         text: qsTr("Device Control")
-        font.pixelSize: 21
+        font.pixelSize: Theme.headingText
     }
 
     Item {
@@ -112,7 +112,7 @@ Item {
         x: 162
         y: 314
         text: qsTr("VORN K4V\nVolume")
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     VolumeSlider {
@@ -136,7 +136,7 @@ Item {
         x: 941
         y: 329
         text: qsTr("%1%").arg(slider.value)
-        font.pixelSize: 16
+        font.pixelSize: Theme.bodyText
     }
 
     Rectangle {
@@ -144,14 +144,14 @@ Item {
         y: 419
         width: 972
         height: 1
-        color: "#D3D8DC"
+        color: Theme.ruleGrey
     }
 
     LatoBoldLabel {
         x: 60
         y: 460
         text: qsTr("Device Source Mode")
-        font.pixelSize: 21
+        font.pixelSize: Theme.headingText
     }
 
     SourceCard {

@@ -14,8 +14,8 @@ Item {
     readonly property int page_id_oobe_setuping: 5
     property int currentPage: page_id_typec_plug
 
-    readonly property color connectedColor: "#4DAF4E"
-    readonly property color timeoutColor: "#DB4747"
+    readonly property color connectedColor: Theme.green
+    readonly property color timeoutColor: Theme.errorRed
     readonly property color defaultColor: "transparent"
 
     readonly property var device: deviceControl // qmllint disable unqualified

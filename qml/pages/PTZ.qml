@@ -76,7 +76,7 @@ FocusScope {
             x: 131
             y: 126
             text: qsTr("Smart-Framing")
-            font.pixelSize: 16
+            font.pixelSize: Theme.bodyText
         }
 
         LatoRegularLabel {
@@ -85,7 +85,7 @@ FocusScope {
             x: 131
             y: 155
             text: qsTr("Auto focus on multiple individuals and combine \nin a frame (up to 6 individuals)")
-            font.pixelSize: 12
+            font.pixelSize: Theme.smallText
         }
 
         PanelSwitch {

@@ -37,8 +37,8 @@ FocusScope {
         y: 136
         width: 70
         height: 186
-        radius: 7
-        color: "#0CBBC7CE"
+        radius: Theme.padRadius
+        color: Theme.padGrey
 
         MovementButton {
             objectName: "zoomIn"
@@ -77,8 +77,8 @@ FocusScope {
         y: 136
         width: 186
         height: 186
-        radius: 7
-        color: "#0CBBC7CE"
+        radius: Theme.padRadius
+        color: Theme.padGrey
 
         MovementButton {
             objectName: "up"
@@ -168,7 +168,7 @@ FocusScope {
         z: 2
         width: 110
         border.width: 1
-        border.color: "#6D6E71"
+        border.color: Theme.mutedText
         visible: false
         text: qsTr("Save Position")
         onClicked: {

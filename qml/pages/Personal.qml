@@ -11,7 +11,7 @@ Item {
     readonly property int page_id_personal_edit: 1
     property int currentPage: page_id_personal_info
     property string serverResponse: ""
-    property color serverResponseColor: "#DB4747"
+    property color serverResponseColor: Theme.errorRed
     // The file dialog's last selection, also when it was refused: what a save sends.
     property string chosenFile: ""
     // Bytes; a picture has to be smaller.
@@ -106,8 +106,8 @@ Item {
             x: 60
             y: 428
             text: qsTr("Sign Out")
-            textColor: "#6D6E71"
-            font.pixelSize: 16
+            textColor: Theme.mutedText
+            font.pixelSize: Theme.bodyText
             font.underline: true
             onClicked: page.signOut()
         }
@@ -118,14 +118,14 @@ Item {
 
             LatoRegularLabel {
                 text: qsTr("Digital Namecard Service ")
-                font.pixelSize: 12
+                font.pixelSize: Theme.smallText
                 font.italic: true
-                color: "#BBC7CE"
+                color: Theme.textGrey
             }
 
             LatoRegularLabel {
                 text: qsTr("coming soon")
-                font.pixelSize: 12
+                font.pixelSize: Theme.smallText
                 font.italic: true
             }
         }

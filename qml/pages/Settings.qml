@@ -16,7 +16,7 @@ Item {
         x: 50
         y: 67
         text: qsTr("Settings")
-        font.pixelSize: 21
+        font.pixelSize: Theme.headingText
         Accessible.role: Accessible.Heading
     }
 

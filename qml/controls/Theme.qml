@@ -1,0 +1,46 @@
+pragma Singleton
+
+import QtQuick
+
+// The colours, radii and text sizes that several files share. A value that only one control uses stays
+// with that control.
+QtObject {
+    readonly property color windowColor: "#282828"
+    // Selection, links and primary buttons.
+    readonly property color green: "#4DAF4E"
+    // Switches, bars and buttons on white panels.
+    readonly property color switchGreen: "#4EB857"
+    readonly property color errorRed: "#DB4747"
+
+    readonly property color white: "#FFFFFF"
+    readonly property color textGrey: "#BBC7CE"
+    readonly property color placeholderGrey: "#80BBC7CE"
+    readonly property color disabledGrey: "#4DBBC7CE"
+    readonly property color panelText: "#2C2C2C"
+    readonly property color mutedText: "#6D6E71"
+
+    // A switch that is off, a bar that has stopped, an outline on white.
+    readonly property color offGrey: "#9B9B9B"
+    // The unfilled part of a slider, and a card that is not available.
+    readonly property color trackGrey: "#F5F5F5"
+    readonly property color panelGrey: "#EBEBEB"
+    readonly property color ruleGrey: "#D3D8DC"
+    // A tab, current or outlined.
+    readonly property color tabGrey: "#28D8D8D8"
+    // Pads and preset buttons of the camera page.
+    readonly property color padGrey: "#0CBBC7CE"
+
+    readonly property int panelButtonRadius: 4
+    readonly property int padRadius: 7
+    readonly property int windowRadius: 10
+    readonly property int panelRadius: 15
+    // Buttons and fields 36 pixels high with round ends.
+    readonly property int pillRadius: 18
+
+    readonly property int smallText: 12
+    readonly property int noteText: 14
+    readonly property int bodyText: 16
+    readonly property int headingText: 21
+    readonly property int faceText: 24
+    readonly property int monitorText: 32
+}
