@@ -25,6 +25,9 @@ git ls-files -z '*.sh' .ci/run | xargs -0 shellcheck || fail "shellcheck" "see t
 step "Rooms"
 ./tools/check-rooms.py || fail "the rooms" "correct the include, or the targets in the room's CMakeLists.txt"
 
+step "Translations"
+./tools/check-translations.py || fail "the translations" "./tools/update-translations.sh, then translate: docs/translating.md"
+
 step "QML"
 # The effects for the Windows Qt need Qt 6.5.
 git ls-files -z '*.qml' ':!:tools/windows/effects/' | xargs -0 /usr/lib/qt6/bin/qmllint -I qml || fail "qmllint" "see the lines above"
