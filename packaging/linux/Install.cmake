@@ -43,5 +43,7 @@ string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
   qml6-module-qtquick-templates qml6-module-qtquick-layouts qml6-module-qtquick-dialogs
   qml6-module-qt-labs-folderlistmodel
   qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, qt6-wayland")
+# Lato has no Chinese, Japanese, Korean and Arabic letters; the texts of Qt's own dialogs are a package apart.
+string(JOIN ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS
+  libgl1-mesa-dri qt6-wayland qt6-translations-l10n fonts-noto-cjk fonts-noto-core)
 include(CPack)

@@ -33,10 +33,12 @@ endif()
 # Windows' own NSIS takes the folder of a file only from before a backslash.
 cmake_path(SET icon NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico")
 cmake_path(NATIVE_PATH icon icon)
+cmake_path(APPEND languages "${CMAKE_CURRENT_LIST_DIR}" Languages.nsh)
+cmake_path(NATIVE_PATH languages languages)
 cmake_path(NATIVE_PATH STAGE stage)
 cmake_path(NATIVE_PATH list list)
 cmake_path(NATIVE_PATH OUTPUT output)
 execute_process(
   COMMAND "${MAKENSIS}" -V2 ${target} "-DVERSION=${VERSION}" "-DSTAGE=${stage}" "-DREMOVAL=${list}"
-    "-DICON=${icon}" "-DOUTPUT=${output}" "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
+    "-DICON=${icon}" "-DLANGUAGES=${languages}" "-DOUTPUT=${output}" "${CMAKE_CURRENT_LIST_DIR}/VORNApp.nsi"
   COMMAND_ERROR_IS_FATAL ANY)

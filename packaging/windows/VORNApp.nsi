@@ -27,7 +27,7 @@ VIAddVersionKey "LegalCopyright" "VORN"
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
-!insertmacro MUI_LANGUAGE "English"
+!include /CHARSET=UTF8 "${LANGUAGES}"
 
 ; A running program keeps its files open: it has to be quit from the tray first.
 !macro REFUSE_WHILE_RUNNING
@@ -35,7 +35,7 @@ VIAddVersionKey "LegalCopyright" "VORN"
     ClearErrors
     FileOpen $0 "$INSTDIR\VORNApp.exe" a
     ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONEXCLAMATION "VORNApp is running. Quit it from its tray icon first." /SD IDOK
+      MessageBox MB_OK|MB_ICONEXCLAMATION "$(RUNNING)" /SD IDOK
       SetErrorLevel 3
       Abort
     ${EndIf}
@@ -85,7 +85,7 @@ Section "un.VORNApp"
   DeleteRegKey HKCU "${KEY}"
 SectionEnd
 
-Section /o "un.My settings, account data and logs" PURGE
+Section /o "un.$(USER_DATA)" PURGE
   Delete "$INSTDIR\config.ini"
   Delete "$INSTDIR\userdata.db"
   Delete "$INSTDIR\userdata.db-journal"
