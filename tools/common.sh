@@ -12,7 +12,7 @@ export QT_HASH_SEED=0
 build_packages=(
   cmake ninja-build g++ ccache pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
-  qt6-httpserver-dev qt6-websockets-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libgl-dev libgoogle-glog-dev fonts-lato
 )
 run_packages=(

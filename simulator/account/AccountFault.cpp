@@ -12,11 +12,10 @@ using namespace std::chrono_literals;
 namespace
 {
 
-constexpr auto kDripInterval = 20ms;
-constexpr qint64 kStreamAhead =
-    qint64{256} * 1024; // unsent bytes kept in the socket of an endless reply
+constexpr auto DripInterval = 20ms;
+constexpr qint64 StreamAhead = qint64{256} * 1024; // unsent bytes in the socket of an endless reply
 
-constexpr auto kWrongTypes = R"({
+constexpr auto WrongTypes = R"({
     "success": true, "message": [], "userId": {}, "firstName": 1, "lastName": [], "email": {},
     "company": null, "title": true, "picture": 5,
     "data": {
@@ -32,7 +31,7 @@ QByteArray head(const QByteArray& status, qsizetype bodySize, const QByteArray& 
            "Content-Length: " + QByteArray::number(bodySize) + "\r\nConnection: close\r\n\r\n";
 }
 
-// A reply that counts as success for every endpoint.
+// The client takes this for a success at every endpoint.
 QByteArray success(qsizetype paddingSize)
 {
     return R"({"success":true,"userId":"1","data":{},"padding":")" + QByteArray(paddingSize, ' ') +
@@ -42,7 +41,8 @@ QByteArray success(qsizetype paddingSize)
 QByteArray compressedBomb()
 {
     constexpr qsizetype unpackedSize = qsizetype{64} * 1024 * 1024;
-    const QByteArray packed = qCompress(QByteArray(unpackedSize, ' ')).sliced(4); // Qt's own prefix
+    const QByteArray packed =
+        qCompress(QByteArray(unpackedSize, ' ')).sliced(4); // without the prefix that Qt adds
     return head("200 OK", packed.size(), "Content-Encoding: deflate\r\n") + packed;
 }
 
@@ -52,16 +52,11 @@ void send(QTcpSocket* socket, const QByteArray& bytes)
     socket->disconnectFromHost();
 }
 
-void sendJson(QTcpSocket* socket, const QByteArray& body, const QByteArray& status = "200 OK")
-{
-    send(socket, head(status, body.size()) + body);
-}
-
 void stream(QTcpSocket* socket, const QByteArray& start, const QByteArray& chunk)
 {
     const auto refill = [socket, chunk] {
         while (socket->state() == QAbstractSocket::ConnectedState &&
-               socket->bytesToWrite() < kStreamAhead)
+               socket->bytesToWrite() < StreamAhead)
             socket->write(chunk);
     };
     QObject::connect(socket, &QTcpSocket::bytesWritten, socket, refill);
@@ -78,15 +73,17 @@ void drip(QTcpSocket* socket)
                          if (sent < body.size())
                              socket->write(body.sliced(sent++, 1));
                      });
-    timer->start(kDripInterval);
+    timer->start(DripInterval);
 }
 
 } // namespace
 
-namespace AccountFault
+void AccountFault::sendJson(QTcpSocket* socket, const QByteArray& body, const QByteArray& status)
 {
+    send(socket, head(status, body.size()) + body);
+}
 
-void reply(QTcpSocket* socket, Kind kind, const QByteArray& canned)
+void AccountFault::reply(QTcpSocket* socket, Kind kind, const QByteArray& canned)
 {
     switch (kind) {
     case Kind::None:
@@ -116,7 +113,7 @@ void reply(QTcpSocket* socket, Kind kind, const QByteArray& canned)
         return sendJson(socket, R"({"success": false, "message": "Closed for maintenance."})",
                         "500 Internal Server Error");
     case Kind::WrongTypes:
-        return sendJson(socket, kWrongTypes);
+        return sendJson(socket, WrongTypes);
     case Kind::WrongSuccess:
         return sendJson(socket, R"({"success": "true", "userId": "1"})");
     case Kind::WrongMessage:
@@ -138,5 +135,3 @@ void reply(QTcpSocket* socket, Kind kind, const QByteArray& canned)
                                  "Location: http://elsewhere.invalid/nc/auth/login\r\n"));
     }
 }
-
-} // namespace AccountFault

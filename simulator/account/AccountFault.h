@@ -5,7 +5,7 @@
 
 class QTcpSocket;
 
-/// The ways the simulated account service can misbehave, and the jobs it can do so in.
+/// The ways in which the endpoints of the simulated account service can misbehave.
 namespace AccountFault
 {
 Q_NAMESPACE
@@ -14,32 +14,36 @@ enum class Endpoint { Login, Register, ForgotPassword, ProfileUpdate, ProfileRea
 Q_ENUM_NS(Endpoint)
 
 enum class Kind {
-    None,           ///< behave
+    None,           ///< the endpoint works
     Canned,         ///< a 200 reply with a body given by the caller
-    Stall,          ///< take the request and say nothing
-    StallInBody,    ///< stop half-way through the body
-    CloseEarly,     ///< hang up without a word
-    CloseInHead,    ///< hang up half-way through the head
+    Stall,          ///< no reply, the connection stays open
+    StallInBody,    ///< half of the body, the connection stays open
+    CloseEarly,     ///< the connection closes without a reply
+    CloseInHead,    ///< the connection closes half-way through the head
     Empty,          ///< 200 with an empty body
     ErrorStatus,    ///< 503 with an empty body
     NotHttp,        ///< bytes that are not HTTP
     Garbage,        ///< a body that is not JSON
     Array,          ///< a JSON array
-    ErrorObject,    ///< 500 with a refusal that carries a message
-    WrongTypes,     ///< success, every field of another type than it should have
-    WrongSuccess,   ///< "success" is a text
-    WrongMessage,   ///< a refusal whose "message" is a number
-    SlowDrip,       ///< a good reply, one byte at a time, too slow to ever end
-    LargeBody,      ///< a good reply of 5 MB
-    EndlessBody,    ///< a body that does not end
-    CompressedBomb, ///< 64 kB that unpack to 64 MB
-    ShortBody,      ///< a truncated body, shorter than announced
-    RedirectAway,   ///< sends the client to another host
+    ErrorObject,    ///< 500 with a failure object that carries a message
+    WrongTypes,     ///< a success in which every field has the wrong type
+    WrongSuccess,   ///< "success" is a string
+    WrongMessage,   ///< a failure whose "message" is a number
+    SlowDrip,       ///< a valid reply sent byte by byte, which takes hours
+    LargeBody,      ///< a valid reply of 5 MB
+    EndlessBody,    ///< a body without an end
+    CompressedBomb, ///< 64 kB that expand to 64 MB
+    ShortBody,      ///< a truncated body, shorter than Content-Length
+    RedirectAway,   ///< a redirect to another host
 };
 Q_ENUM_NS(Kind)
 
-/// Answers the request that `socket` brought with a fault, and hangs up when there is an end to it.
-/// @param canned  the body of Kind::Canned.
+/// Sends a JSON reply and closes the connection.
+/// @param status  code and, optionally, reason phrase of the status line
+void sendJson(QTcpSocket* socket, const QByteArray& body, const QByteArray& status = "200 OK");
+
+/// Sends a faulty reply. Closes the connection unless the fault is to keep it open.
+/// @param canned  the body for Kind::Canned
 void reply(QTcpSocket* socket, Kind kind, const QByteArray& canned);
 
 } // namespace AccountFault

@@ -1,6 +1,7 @@
 #include "simulator/account/AccountFeature.h"
 
 #include "simulator/account/AccountNames.h"
+#include "simulator/account/AccountRoutes.h"
 #include "simulator/script/EventLog.h"
 
 #include <QFile>
@@ -78,11 +79,11 @@ void takeFields(CommandArguments& arguments, Account& account, QString& pictureF
 // In lines of a readable length.
 QString faultsText()
 {
-    constexpr qsizetype kPerLine = 6;
+    constexpr qsizetype PerLine = 6;
     QString text;
     for (qsizetype i = 0; i < namedFaults().size(); ++i) {
         if (i > 0)
-            text += i % kPerLine == 0 ? u",\n"_s : u", "_s;
+            text += i % PerLine == 0 ? u",\n"_s : u", "_s;
         text += namedFaults().at(i).first;
     }
     return text;
@@ -261,7 +262,7 @@ void AccountFeature::showAccounts()
 
 void AccountFeature::noteRequest(const AccountRequest& request)
 {
-    const auto endpoint = AccountService::endpointOf(request);
+    const auto endpoint = AccountRoutes::endpointOf(request);
     const QJsonObject fields = shown(request);
     QJsonObject event = fields;
     event.insert(u"method"_s, QString::fromUtf8(request.method));

@@ -1,128 +1,82 @@
 #include "simulator/account/AccountRoutes.h"
 
 #include "simulator/account/AccountRequest.h"
-#include "simulator/account/AccountStore.h"
 
-#include <QHttpServer>
-#include <QHttpServerRequest>
-#include <QHttpServerResponse>
 #include <QJsonDocument>
-#include <QTcpServer>
 #include <QUrlQuery>
 
-#include <memory>
-#include <optional>
-
 using namespace Qt::StringLiterals;
+using Answer = AccountStore::Answer;
+using Endpoint = AccountFault::Endpoint;
 
 namespace
 {
 
-using Method = QHttpServerRequest::Method;
+constexpr QByteArrayView LoginPath = "/nc/auth/login";
+constexpr QByteArrayView RegisterPath = "/nc/users/register";
+constexpr QByteArrayView ForgotPasswordPath = "/nc/users/forgot-password";
+constexpr QByteArrayView ProfilePath = "/nc/users/"; // followed by the user id
 
-QString credential(const QUrlQuery& query, const QString& name)
+Answer failure(int status, const QString& message)
 {
+    return {status, {{"success"_L1, false}, {"message"_L1, message}}};
+}
+
+QString credential(const AccountRequest& request, const QString& name)
+{
+    const QUrlQuery query(QString::fromUtf8(request.query()));
     return decodeAccountCredential(query.queryItemValue(name));
 }
 
-QString token(const QHttpServerRequest& request)
+Answer registerAccount(AccountStore& store, const QJsonObject& fields)
 {
-    return QString::fromUtf8(request.value("x-token"_ba));
-}
-
-std::optional<QJsonObject> jsonBody(const QHttpServerRequest& request)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(request.body());
-    return document.isObject() ? std::optional(document.object()) : std::nullopt;
-}
-
-QHttpServerResponse response(const AccountStore::Answer& answer)
-{
-    return {answer.body, static_cast<QHttpServerResponse::StatusCode>(answer.status)};
-}
-
-QHttpServerResponse notJson()
-{
-    return response(
-        {400,
-         {{"success"_L1, false}, {"message"_L1, u"The request body is not a JSON object."_s}}});
+    Account account;
+    account.firstName = fields.value("firstName"_L1).toString();
+    account.lastName = fields.value("lastName"_L1).toString();
+    account.email = decodeAccountCredential(fields.value("email"_L1).toString());
+    account.password = decodeAccountCredential(fields.value("password"_L1).toString());
+    return store.registerAccount(account);
 }
 
 } // namespace
 
-class AccountRoutes::Server
+std::optional<Endpoint> AccountRoutes::endpointOf(const AccountRequest& request)
 {
-public:
-    explicit Server(AccountStore& store)
-        : m_store(store)
-    {
-        addSignInRoutes();
-        addProfileRoutes();
+    const QByteArray path = request.path();
+    if (path == LoginPath)
+        return Endpoint::Login;
+    if (path == RegisterPath)
+        return Endpoint::Register;
+    if (path == ForgotPasswordPath)
+        return Endpoint::ForgotPassword;
+    if (path.startsWith(ProfilePath))
+        return request.method == "PUT" ? Endpoint::ProfileUpdate : Endpoint::ProfileRead;
+    return std::nullopt;
+}
+
+Answer AccountRoutes::answer(AccountStore& store, const AccountRequest& request)
+{
+    const auto endpoint = endpointOf(request);
+    if (!endpoint)
+        return failure(404, u"There is no such page."_s);
+    const QJsonDocument body = QJsonDocument::fromJson(request.body);
+    if ((endpoint == Endpoint::Register || endpoint == Endpoint::ProfileUpdate) && !body.isObject())
+        return failure(400, u"The request body is not a JSON object."_s);
+
+    const QByteArray userPart = request.path().mid(ProfilePath.size());
+    const QString userId = QString::fromUtf8(QByteArray::fromPercentEncoding(userPart));
+    const QString token = QString::fromUtf8(request.header("x-token"));
+    switch (*endpoint) {
+    case Endpoint::Login:
+        return store.signIn(credential(request, u"username"_s), credential(request, u"password"_s));
+    case Endpoint::Register:
+        return registerAccount(store, body.object());
+    case Endpoint::ForgotPassword:
+        return store.requestPasswordReset(credential(request, u"email"_s));
+    case Endpoint::ProfileUpdate:
+        return store.updateProfile(userId, token, body.object());
+    case Endpoint::ProfileRead:
+        break;
     }
-
-    [[nodiscard]] QHttpServer& http() { return m_http; }
-
-private:
-    void addSignInRoutes();
-    void addProfileRoutes();
-
-    AccountStore& m_store;
-    QHttpServer m_http;
-};
-
-AccountRoutes::AccountRoutes(AccountStore& store, QObject* parent)
-    : QObject(parent)
-    , m_server(std::make_unique<Server>(store))
-{
-}
-
-AccountRoutes::~AccountRoutes() = default;
-
-bool AccountRoutes::listen()
-{
-    auto server = std::make_unique<QTcpServer>();
-    if (!server->listen(QHostAddress::LocalHost))
-        return false;
-    m_port = server->serverPort();
-    static_cast<void>(m_server->http().bind(server.release())); // the HTTP server takes ownership
-    return true;
-}
-
-void AccountRoutes::Server::addSignInRoutes()
-{
-    m_http.route(u"/nc/auth/login"_s, Method::Post, [this](const QHttpServerRequest& request) {
-        const QUrlQuery query = request.query();
-        return response(
-            m_store.signIn(credential(query, u"username"_s), credential(query, u"password"_s)));
-    });
-    m_http.route(u"/nc/users/register"_s, Method::Post, [this](const QHttpServerRequest& request) {
-        const auto fields = jsonBody(request);
-        if (!fields)
-            return notJson();
-        Account account;
-        account.firstName = fields->value("firstName"_L1).toString();
-        account.lastName = fields->value("lastName"_L1).toString();
-        account.email = decodeAccountCredential(fields->value("email"_L1).toString());
-        account.password = decodeAccountCredential(fields->value("password"_L1).toString());
-        return response(m_store.registerAccount(account));
-    });
-    m_http.route(
-        u"/nc/users/forgot-password"_s, Method::Post, [this](const QHttpServerRequest& request) {
-            return response(m_store.requestPasswordReset(credential(request.query(), u"email"_s)));
-        });
-}
-
-void AccountRoutes::Server::addProfileRoutes()
-{
-    m_http.route(u"/nc/users/<arg>"_s, Method::Get,
-                 [this](const QString& userId, const QHttpServerRequest& request) {
-                     return response(m_store.readProfile(userId, token(request)));
-                 });
-    m_http.route(u"/nc/users/<arg>"_s, Method::Put,
-                 [this](const QString& userId, const QHttpServerRequest& request) {
-                     const auto fields = jsonBody(request);
-                     if (!fields)
-                         return notJson();
-                     return response(m_store.updateProfile(userId, token(request), *fields));
-                 });
+    return store.readProfile(userId, token);
 }

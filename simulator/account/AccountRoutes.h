@@ -1,28 +1,19 @@
 #pragma once
 
-#include <QObject>
+#include "simulator/account/AccountFault.h"
+#include "simulator/account/AccountStore.h"
 
-#include <memory>
+#include <optional>
 
-class AccountStore;
+struct AccountRequest;
 
-/// The well-behaved service: maps HTTP requests onto an AccountStore. Listens on a loopback port of
-/// its own, which AccountService puts itself in front of. Made with Qt HTTP Server, or where Qt was
-/// built without that, with a plain socket.
-class AccountRoutes : public QObject
+/// The well-behaved service: maps HTTP requests onto an AccountStore.
+namespace AccountRoutes
 {
-public:
-    /// @param store  outlives this object.
-    explicit AccountRoutes(AccountStore& store, QObject* parent = nullptr);
-    ~AccountRoutes() override;
 
-    /// False when no loopback port could be had.
-    [[nodiscard]] bool listen();
-    [[nodiscard]] quint16 port() const { return m_port; }
+/// The endpoint that a request addresses; nothing for an unknown address.
+[[nodiscard]] std::optional<AccountFault::Endpoint> endpointOf(const AccountRequest& request);
 
-private:
-    class Server;
+[[nodiscard]] AccountStore::Answer answer(AccountStore& store, const AccountRequest& request);
 
-    std::unique_ptr<Server> m_server;
-    quint16 m_port = 0;
-};
+} // namespace AccountRoutes

@@ -2,23 +2,17 @@
 
 #include "simulator/account/AccountFault.h"
 #include "simulator/account/AccountRequest.h"
-#include "simulator/account/AccountRoutes.h"
 #include "simulator/account/AccountStore.h"
 
 #include <QHash>
 #include <QObject>
 #include <QTcpServer>
 
-#include <optional>
-
 class QTcpSocket;
 
-/// The simulated account service: one address, a working service behind it, and a switch for each
-/// of its jobs that makes it misbehave. Every connection serves one request, so that a switch holds
-/// from the next request on.
-///
-/// Plain HTTP on the loopback interface. For HTTPS the listening socket would be a QSslServer with
-/// a certificate that the application's system trusts; nothing else would change.
+/// The simulated account service: a plain HTTP/1.1 server on the loopback interface that works, and
+/// whose endpoints can each be made to misbehave. Each connection serves one request and closes, so
+/// that a change of the behaviour takes effect with the next request. Main thread only.
 class AccountService : public QObject
 {
     Q_OBJECT
@@ -30,36 +24,33 @@ public:
     explicit AccountService(QObject* parent = nullptr);
     ~AccountService() override;
 
-    /// Starts serving; port 0 takes a free one. False when the port is taken.
+    /// Starts to serve. Port 0 takes a free port. Returns false when the port is in use.
     [[nodiscard]] bool listen(quint16 port = 0);
 
-    /// Refuses connections from now on, and drops those that exist.
+    /// Refuses new connections and drops the existing ones.
     void close();
 
-    [[nodiscard]] quint16 port() const { return m_front.serverPort(); }
+    [[nodiscard]] quint16 port() const { return m_server.serverPort(); }
 
-    /// Address as the application's configuration wants it, without a trailing slash.
+    /// Address for the application's configuration, without a trailing slash.
     [[nodiscard]] QString baseUrl() const;
 
     [[nodiscard]] AccountStore& store() { return m_store; }
 
     void setFault(Endpoint endpoint, Kind kind);
     void setFault(Kind kind); ///< for every endpoint
-    /// Answers with status 200 and this body, whatever was asked.
+    /// Answers every request with status 200 and this body.
     void setCannedReply(Endpoint endpoint, const QByteArray& body);
     [[nodiscard]] Kind fault(Endpoint endpoint) const;
 
-    /// Which of its jobs a request asks for; nothing for an address that it does not know.
-    [[nodiscard]] static std::optional<Endpoint> endpointOf(const AccountRequest& request);
-
-    /// Bytes handed to the network in faulty replies so far.
+    /// Number of bytes sent in faulty replies so far.
     [[nodiscard]] qint64 faultBytesSent() const { return m_faultBytesSent; }
 
 signals:
-    /// A request has come in whole; nothing has been answered yet.
+    /// A complete request has arrived and has not been answered yet.
     void requestReceived(const AccountRequest& request);
 
-    /// A client's connection has ended, whoever ended it.
+    /// A client's connection has ended on either side.
     void connectionClosed();
 
 private:
@@ -71,11 +62,9 @@ private:
     void acceptConnection();
     void receive(QTcpSocket* client, QByteArray& received);
     void answer(QTcpSocket* client, const AccountRequest& request);
-    void relay(QTcpSocket* client, const AccountRequest& request);
 
     AccountStore m_store;
-    AccountRoutes m_routes;
-    QTcpServer m_front;
+    QTcpServer m_server;
     QHash<Endpoint, Behaviour> m_behaviours;
     qint64 m_faultBytesSent = 0;
 };

@@ -156,9 +156,7 @@ if fetch qt6-multimedia; then
   done_once qt6-multimedia build_module qt6-multimedia \
     -DFEATURE_ffmpeg=OFF -DFEATURE_spatialaudio=OFF -DFEATURE_spatialaudio_quick3d=OFF
 fi
-for name in qt6-websockets qt6-httpserver qt6-5compat; do
-  fetch "$name" && done_once "$name" build_module "$name"
-done
+fetch qt6-5compat && done_once qt6-5compat build_module qt6-5compat
 effects=$windows_root$windows_qt/qml/Qt5Compat/GraphicalEffects
 if [ ! -e "$effects/qmldir" ]; then
   mkdir -p "$effects"
