@@ -67,7 +67,7 @@ void ChannelClient::deliver(int id, const std::string& text)
 ErrorCode ChannelClient::pushMsg(int id, const std::string& msg)
 {
     const QByteArray line = encodeLine(id, msg);
-    if (line.size() - 1 > kMaxLineLength)
+    if (line.size() - 1 > MaxLineLength)
         return ErrorCode::MessageTooLong;
     switch (m_outgoing.push(line)) {
     case OutgoingQueue::Result::Closed:

@@ -15,7 +15,7 @@ namespace
 {
 
 // Bounds what a peer that sends faster than the callback takes can make us hold.
-constexpr qint64 kReadBufferSize = qint64{256} * 1024;
+constexpr qint64 ReadBufferSize = qint64{256} * 1024;
 
 bool endRequested()
 {
@@ -32,7 +32,7 @@ ChannelWorker::ChannelWorker(QString serverName, std::chrono::milliseconds recon
     , m_outgoing(outgoing)
     , m_deliver(std::move(deliver))
     , m_ended(std::move(ended))
-    , m_reader(kMaxLineLength)
+    , m_reader(MaxLineLength)
 {
     connect(this, &ChannelWorker::outgoingWaiting, this, &ChannelWorker::sendWaiting,
             Qt::QueuedConnection);
@@ -51,7 +51,7 @@ ChannelWorker::~ChannelWorker()
 void ChannelWorker::start()
 {
     m_socket = new QLocalSocket(this);
-    m_socket->setReadBufferSize(kReadBufferSize);
+    m_socket->setReadBufferSize(ReadBufferSize);
     connect(m_socket, &QLocalSocket::connected, this, &ChannelWorker::onConnected);
     connect(m_socket, &QLocalSocket::disconnected, this, &ChannelWorker::onDisconnected);
     connect(m_socket, &QLocalSocket::readyRead, this, &ChannelWorker::readLines);

@@ -11,7 +11,7 @@ namespace channel
 {
 
 /// Longest line without its newline, in bytes. Longer ones are not sent and skipped when received.
-inline constexpr qsizetype kMaxLineLength = qsizetype{4} * 1024 * 1024;
+inline constexpr qsizetype MaxLineLength = qsizetype{4} * 1024 * 1024;
 
 struct Message {
     int id = 0;

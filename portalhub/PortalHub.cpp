@@ -14,7 +14,7 @@ namespace
 {
 
 // A callback that waits for the thread which ends the program must not hold the end up.
-constexpr std::chrono::milliseconds kEndTimeout = std::chrono::seconds(1);
+constexpr std::chrono::milliseconds EndTimeout = std::chrono::seconds(1);
 
 std::atomic_bool s_processEnding = false;
 
@@ -28,7 +28,7 @@ channel::ChannelClient& client()
 // Runs while the application object is being destroyed.
 void endWithApplication()
 {
-    client().stop(QDeadlineTimer(kEndTimeout));
+    client().stop(QDeadlineTimer(EndTimeout));
 }
 
 // The thread must be gone before the static objects of Qt are, also where the process exits without
@@ -41,7 +41,7 @@ struct ProcessEnd {
     {
         s_processEnding = true;
         qRemovePostRoutine(endWithApplication);
-        client().stop(QDeadlineTimer(kEndTimeout));
+        client().stop(QDeadlineTimer(EndTimeout));
     }
 };
 

@@ -13,7 +13,7 @@ using simulator::Simulator;
 namespace
 {
 
-const QString kDescription =
+const QString Description =
     uR"(Plays a meeting-room display for the program, over the socket of the channel library; on demand
 also the account service, the display's microphone, camera and speaker, and its screen.
 
@@ -51,7 +51,7 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(kDescription);
+    parser.setApplicationDescription(Description);
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this help."_s);
     const QCommandLineOption scenario(u"scenario"_s, u"Runs the commands of a file."_s, u"file"_s);
     const QCommandLineOption socket(

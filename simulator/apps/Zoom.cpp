@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr const char* kHelp =
+constexpr const char* Help =
     R"(Plays the meeting program: a window with the title "Zoom".
 
   zoom            shows the window in the upper right corner of the screen, and adds the line
@@ -98,6 +98,6 @@ int main(int argc, char* argv[])
         const QCoreApplication app(argc, argv);
         return install();
     }
-    std::cout << kHelp;
+    std::cout << Help;
     return argc == 2 && (option == "--help" || option == "-h") ? 0 : 2;
 }

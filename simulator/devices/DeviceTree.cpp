@@ -14,11 +14,11 @@ namespace
 
 using Device = DeviceTree::Device;
 
-constexpr auto kHub = "devices/pci0000:00/0000:00:14.0/usb1/1-4"_L1;
-constexpr auto kSound = "class/sound"_L1;
-constexpr auto kVideo = "class/video4linux"_L1;
-constexpr auto kBuiltAside = ".plugging"_L1;
-constexpr auto kTakenAway = ".unplugging"_L1;
+constexpr auto Hub = "devices/pci0000:00/0000:00:14.0/usb1/1-4"_L1;
+constexpr auto Sound = "class/sound"_L1;
+constexpr auto Video = "class/video4linux"_L1;
+constexpr auto BuiltAside = ".plugging"_L1;
+constexpr auto TakenAway = ".unplugging"_L1;
 
 // What makes one device: the names of its folders, and the attributes a program knows it by.
 struct Model {
@@ -30,7 +30,7 @@ struct Model {
     QLatin1StringView node;
     QLatin1StringView stream; // of a sound card
 
-    [[nodiscard]] QString usbFolder() const { return u"%1/%2"_s.arg(kHub, port); }
+    [[nodiscard]] QString usbFolder() const { return u"%1/%2"_s.arg(Hub, port); }
     [[nodiscard]] QString nodeFolder() const // below the USB device
     {
         const auto subsystem = classFolder.sliced("class/"_L1.size());
@@ -51,17 +51,17 @@ struct Model {
     }
 };
 
-constexpr Model kModels[] = {
-    {Device::Microphone, "1-4.1"_L1, "4b41"_L1, "VORN K4V Microphone"_L1, kSound, "card1"_L1,
+constexpr Model Models[] = {
+    {Device::Microphone, "1-4.1"_L1, "4b41"_L1, "VORN K4V Microphone"_L1, Sound, "card1"_L1,
      "pcmC1D0c"_L1},
-    {Device::Camera, "1-4.2"_L1, "4b42"_L1, "VORN K4V Camera"_L1, kVideo, "video0"_L1, {}},
-    {Device::Speaker, "1-4.3"_L1, "4b43"_L1, "VORN K4V Speaker"_L1, kSound, "card2"_L1,
+    {Device::Camera, "1-4.2"_L1, "4b42"_L1, "VORN K4V Camera"_L1, Video, "video0"_L1, {}},
+    {Device::Speaker, "1-4.3"_L1, "4b43"_L1, "VORN K4V Speaker"_L1, Sound, "card2"_L1,
      "pcmC2D0p"_L1},
 };
 
 const Model& modelOf(Device device)
 {
-    return kModels[static_cast<int>(device)];
+    return Models[static_cast<int>(device)];
 }
 
 bool writeAttribute(const QString& folder, QLatin1StringView name, QLatin1StringView value)
@@ -114,9 +114,9 @@ QString DeviceTree::open(const QString& root)
     if (!QDir().mkpath(root) || !QFileInfo(root).isWritable())
         return u"cannot write in the folder \"%1\""_s.arg(root);
     m_root = QFileInfo(root).canonicalFilePath();
-    for (const Model& model : kModels)
+    for (const Model& model : Models)
         unplug(model.device);
-    QDir(path(kBuiltAside)).removeRecursively();
+    QDir(path(BuiltAside)).removeRecursively();
     return {};
 }
 
@@ -124,9 +124,9 @@ void DeviceTree::close()
 {
     if (!isOpen())
         return;
-    for (const Model& model : kModels)
+    for (const Model& model : Models)
         unplug(model.device);
-    for (const auto folder : {kHub, kSound, kVideo})
+    for (const auto folder : {Hub, Sound, Video})
         removeEmptyFolders(m_root, folder);
     if (m_madeRoot)
         QDir().rmdir(m_root);
@@ -145,8 +145,8 @@ QString DeviceTree::plug(Device device)
     if (isPlugged(device))
         return {};
     const Model& model = modelOf(device);
-    const QString aside = path(kBuiltAside);
-    bool done = buildDevice(model, aside) && QDir().mkpath(path(kHub)) &&
+    const QString aside = path(BuiltAside);
+    bool done = buildDevice(model, aside) && QDir().mkpath(path(Hub)) &&
                 QDir().mkpath(path(model.classFolder)) &&
                 QDir().rename(aside, path(model.usbFolder()));
     const auto entries = model.classEntries();
@@ -171,7 +171,7 @@ void DeviceTree::unplug(Device device)
             QFile::remove(link);
     }
     // It goes at once; taking it apart takes longer.
-    QDir away(path(kTakenAway));
+    QDir away(path(TakenAway));
     away.removeRecursively();
     QDir().rename(path(model.usbFolder()), away.path());
     away.removeRecursively();

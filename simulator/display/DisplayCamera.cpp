@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qsizetype kMaxRecorded = 100;
-constexpr int kMovementInterval = 33; // milliseconds, as the picture's
+constexpr qsizetype MaxRecorded = 100;
+constexpr int MovementInterval = 33; // milliseconds, as the picture's
 
 QJsonObject flag(const QString& key, bool value)
 {
@@ -25,7 +25,7 @@ DisplayCamera::DisplayCamera(DisplayModel& display, EventLog& log, QObject* pare
     , m_display(display)
     , m_log(log)
 {
-    m_movement.setInterval(kMovementInterval);
+    m_movement.setInterval(MovementInterval);
     connect(&m_movement, &QTimer::timeout, this, &DisplayCamera::move);
     addHandlers();
 }
@@ -114,7 +114,7 @@ std::optional<CameraView> DisplayCamera::view() const
 void DisplayCamera::record(const QJsonObject& message)
 {
     m_commands.append(message);
-    if (m_commands.size() > kMaxRecorded)
+    if (m_commands.size() > MaxRecorded)
         m_commands.removeFirst();
     m_log.write(u"camera-command"_s, {{u"message"_s, message}});
     emit changed();

@@ -17,13 +17,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kProbeTimeoutMs = 1000;
-constexpr auto kFlushTimeout = std::chrono::milliseconds(500);
+constexpr int ProbeTimeoutMs = 1000;
+constexpr auto FlushTimeout = std::chrono::milliseconds(500);
 // A client that does not read is dropped rather than let grow without end.
-constexpr qint64 kMaxUnwritten = qint64{64} * 1024 * 1024;
+constexpr qint64 MaxUnwritten = qint64{64} * 1024 * 1024;
 // While reading is off, so little is taken from the system that the client notices.
-constexpr qint64 kReadBufferSize = qint64{256} * 1024;
-constexpr qint64 kHeldReadBufferSize = 1;
+constexpr qint64 ReadBufferSize = qint64{256} * 1024;
+constexpr qint64 HeldReadBufferSize = 1;
 
 // One lock a socket name; the name is no path on every system.
 QString lockFileName(const QString& socketName)
@@ -49,7 +49,7 @@ DisplayLink::~DisplayLink()
 {
     for (const ClientPtr& client : m_clients) {
         client->socket->disconnect(this);
-        const QDeadlineTimer deadline(kFlushTimeout);
+        const QDeadlineTimer deadline(FlushTimeout);
         while (client->socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
                client->socket->waitForBytesWritten(int(deadline.remainingTime()))) {
         }
@@ -60,7 +60,7 @@ QString DisplayLink::listen()
 {
     // Two simulators that start at once must not remove each other's socket.
     QLockFile lock(lockFileName(m_socketName));
-    lock.tryLock(kProbeTimeoutMs);
+    lock.tryLock(ProbeTimeoutMs);
 
     if (answers())
         return u"another simulator is already listening on \"%1\""_s.arg(m_socketName);
@@ -77,7 +77,7 @@ bool DisplayLink::answers() const
 {
     QLocalSocket probe;
     probe.connectToServer(m_socketName);
-    return probe.waitForConnected(kProbeTimeoutMs);
+    return probe.waitForConnected(ProbeTimeoutMs);
 }
 
 void DisplayLink::close()
@@ -89,10 +89,10 @@ void DisplayLink::close()
 void DisplayLink::addClient(QLocalSocket* socket)
 {
     auto client = std::make_shared<Client>(
-        Client{++m_lastNumber, {}, channel::LineReader(channel::kMaxLineLength)});
+        Client{++m_lastNumber, {}, channel::LineReader(channel::MaxLineLength)});
     socket->setParent(nullptr);
     client->socket.reset(socket);
-    socket->setReadBufferSize(m_reading ? kReadBufferSize : kHeldReadBufferSize);
+    socket->setReadBufferSize(m_reading ? ReadBufferSize : HeldReadBufferSize);
     const std::weak_ptr<Client> weak = client;
     connect(socket, &QLocalSocket::readyRead, this, [this, weak] {
         if (const ClientPtr ready = weak.lock())
@@ -150,7 +150,7 @@ void DisplayLink::sendRaw(const QByteArray& bytes)
         if (!client->socket)
             continue;
         client->socket->write(bytes);
-        if (client->socket && client->socket->bytesToWrite() > kMaxUnwritten)
+        if (client->socket && client->socket->bytesToWrite() > MaxUnwritten)
             client->socket->abort();
     }
 }
@@ -171,7 +171,7 @@ void DisplayLink::setReading(bool reading)
     const auto clients = m_clients;
     for (const ClientPtr& client : clients) {
         if (client->socket)
-            client->socket->setReadBufferSize(reading ? kReadBufferSize : kHeldReadBufferSize);
+            client->socket->setReadBufferSize(reading ? ReadBufferSize : HeldReadBufferSize);
         read(client);
     }
 }

@@ -21,7 +21,7 @@ struct SourceState {
     int shown; // whether the display shows its source choice
 };
 
-constexpr std::array<SourceState, 4> kSourceStates = {{
+constexpr std::array<SourceState, 4> SourceStates = {{
     {"none"_L1, 0, 0, 0},
     {"available"_L1, 1, 1, 1},
     {"byod"_L1, 2, 1, 1},
@@ -160,9 +160,9 @@ void DisplayModel::setAcknowledging(bool on)
 
 void DisplayModel::startSetup()
 {
-    constexpr int kFirstRun = 2;
+    constexpr int FirstRun = 2;
     m_setupRunning = true;
-    if (std::exchange(m_mode, kFirstRun) != kFirstRun)
+    if (std::exchange(m_mode, FirstRun) != FirstRun)
         report(Cmd_IsReady, {{u"isReady"_s, m_mode}});
     stateChanged();
 }
@@ -174,7 +174,7 @@ void DisplayModel::reportSource()
 
 QJsonObject DisplayModel::sourcePayload() const
 {
-    const SourceState& state = kSourceStates.at(size_t(m_source));
+    const SourceState& state = SourceStates.at(size_t(m_source));
     return {{u"byod_status"_s, state.byod},
             {u"zoom_status"_s, state.zoom},
             {u"is_byodui_show"_s, state.shown}};
@@ -190,7 +190,7 @@ QJsonObject DisplayModel::status() const
 {
     return {{u"mode"_s, m_mode},
             {u"volume"_s, m_volume},
-            {u"source"_s, kSourceStates.at(size_t(m_source)).name},
+            {u"source"_s, SourceStates.at(size_t(m_source)).name},
             {u"version"_s, m_version},
             {u"setupRunning"_s, m_setupRunning},
             {u"acknowledges"_s, m_acknowledging}};

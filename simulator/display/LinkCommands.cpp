@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr auto kDefaultClientLimit = std::chrono::seconds(30);
+constexpr auto DefaultClientLimit = std::chrono::seconds(30);
 
 int hexDigit(char digit)
 {
@@ -49,11 +49,11 @@ std::optional<QByteArray> unescaped(const QByteArray& text)
 // In lines of a readable length.
 QString kindsText()
 {
-    constexpr qsizetype kPerLine = 6;
+    constexpr qsizetype PerLine = 6;
     const QStringList kinds = malformedLineKinds();
     QStringList lines;
-    for (qsizetype i = 0; i < kinds.size(); i += kPerLine)
-        lines.append(kinds.mid(i, kPerLine).join(u", "_s));
+    for (qsizetype i = 0; i < kinds.size(); i += PerLine)
+        lines.append(kinds.mid(i, PerLine).join(u", "_s));
     return lines.join(u",\n"_s) + u'.';
 }
 
@@ -79,7 +79,7 @@ void LinkCommands::addCommands(CommandInterpreter& interpreter)
         {u"wait-client"_s, u"[<seconds>]"_s,
          u"Waits until a program is connected and fails after that time (30)."_s,
          [this](CommandArguments& arguments) -> CommandAction {
-             const auto limit = arguments.atEnd() ? std::chrono::milliseconds(kDefaultClientLimit)
+             const auto limit = arguments.atEnd() ? std::chrono::milliseconds(DefaultClientLimit)
                                                   : arguments.seconds(u"the time"_s);
              return [this, limit] {
                  return CommandOutcome::until([this] { return m_link.clientCount() > 0; }, limit,

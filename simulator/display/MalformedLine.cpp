@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qsizetype kMegabyte = qsizetype{1024} * 1024;
+constexpr qsizetype Megabyte = qsizetype{1024} * 1024;
 
 struct Kind {
     QLatin1StringView name;
@@ -17,7 +17,7 @@ struct Kind {
 
 // The first group has a valid id: the text reaches the program. The second does not get past the
 // channel library.
-const std::array kKinds = {
+const std::array Kinds = {
     Kind{"empty"_L1, [] { return QByteArray("1 \n"); }},
     Kind{"truncated"_L1, [] { return QByteArray("1 {\"cmd\":1,\"type\":2,\"vol\n"); }},
     Kind{"array"_L1, [] { return QByteArray("1 [1,2,3]\n"); }},
@@ -28,11 +28,11 @@ const std::array kKinds = {
          [] { return QByteArray("1 {\"cmd\":1,\"type\":2,\"volume\":1e308}\n"); }},
     Kind{"deep"_L1,
          [] {
-             constexpr qsizetype kDepth = 100'000;
-             return "1 " + QByteArray(kDepth, '[') + QByteArray(kDepth, ']') + '\n';
+             constexpr qsizetype Depth = 100'000;
+             return "1 " + QByteArray(Depth, '[') + QByteArray(Depth, ']') + '\n';
          }},
     Kind{"long-text"_L1,
-         [] { return "1 {\"cmd\":99,\"text\":\"" + QByteArray(kMegabyte, 'x') + "\"}\n"; }},
+         [] { return "1 {\"cmd\":99,\"text\":\"" + QByteArray(Megabyte, 'x') + "\"}\n"; }},
     Kind{"bad-utf8"_L1,
          [] { return QByteArray("1 {\"cmd\":11,\"type\":1,\"ota_ver\":\"\xff\xc0\xaf\"}\n"); }},
     Kind{"nul"_L1, [] { return QByteArray("1 {\"cmd\":1,\0\"type\":2}\n", 22); }},
@@ -40,7 +40,7 @@ const std::array kKinds = {
     Kind{"no-id"_L1, [] { return QByteArray("{\"cmd\":1}\n"); }},
     Kind{"no-blank"_L1, [] { return QByteArray("1{\"cmd\":1}\n"); }},
     Kind{"huge-id"_L1, [] { return QByteArray("99999999999999999999 {\"cmd\":1}\n"); }},
-    Kind{"endless"_L1, [] { return "1 " + QByteArray(6 * kMegabyte, 'x') + '\n'; }},
+    Kind{"endless"_L1, [] { return "1 " + QByteArray(6 * Megabyte, 'x') + '\n'; }},
     Kind{"half-line"_L1, [] { return QByteArray("1 {\"cmd\":1,"); }},
 };
 
@@ -49,12 +49,12 @@ const std::array kKinds = {
 QStringList simulator::malformedLineKinds()
 {
     QStringList names;
-    for (const Kind& kind : kKinds)
+    for (const Kind& kind : Kinds)
         names.append(kind.name);
     return names;
 }
 
 QByteArray simulator::malformedLine(int kind)
 {
-    return kKinds.at(size_t(kind)).make();
+    return Kinds.at(size_t(kind)).make();
 }

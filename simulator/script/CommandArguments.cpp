@@ -62,11 +62,11 @@ int CommandArguments::integer(const QString& what, int minimum, int maximum)
 
 std::chrono::milliseconds CommandArguments::seconds(const QString& what)
 {
-    constexpr double kMaximum = 3600;
+    constexpr double Maximum = 3600;
     const QString text = word(what);
     bool ok = false;
     const double value = text.toDouble(&ok);
-    if (ok && value >= 0 && value <= kMaximum)
+    if (ok && value >= 0 && value <= Maximum)
         return std::chrono::milliseconds(std::llround(value * 1000));
     fail(u"%1 must be a number of seconds from 0 to 3600, not \"%2\""_s.arg(what, text));
     return {};

@@ -8,13 +8,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr size_t kMaxRemembered = 10'000;
-constexpr auto kDefaultLimit = std::chrono::seconds(5);
+constexpr size_t MaxRemembered = 10'000;
+constexpr auto DefaultLimit = std::chrono::seconds(5);
 
 std::chrono::milliseconds parseLimit(CommandArguments& arguments)
 {
     if (arguments.atEnd())
-        return kDefaultLimit;
+        return DefaultLimit;
     arguments.word({}); // "within": a pattern ends nowhere else
     return arguments.seconds(u"the time"_s);
 }
@@ -24,7 +24,7 @@ std::chrono::milliseconds parseLimit(CommandArguments& arguments)
 void MessageMemory::note(int id, const QJsonObject& message)
 {
     m_messages.push_back({id, message});
-    if (m_messages.size() > kMaxRemembered)
+    if (m_messages.size() > MaxRemembered)
         m_messages.pop_front();
 }
 

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr const char* kHelp =
+constexpr const char* Help =
     R"(Plays the updater program that lies beside the application.
 
   PatchPilot                  as the application starts it: in the background (two empty arguments
@@ -54,7 +54,7 @@ int main(int argc, char* argv[])
     while (!arguments.isEmpty() && arguments.constLast().isEmpty())
         arguments.removeLast();
     if (arguments == QStringList{u"--help"_s} || arguments == QStringList{u"-h"_s}) {
-        std::cout << kHelp;
+        std::cout << Help;
         return 0;
     }
     const bool isUpgrade = arguments.size() == 2 && arguments.constFirst() == "update"_L1;

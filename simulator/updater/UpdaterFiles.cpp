@@ -18,7 +18,7 @@ namespace simulator
 namespace
 {
 
-const QString kRegistryKey = u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s;
+const QString RegistryKey = u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s;
 
 const std::map<QString, UpdaterOrders::Behaviour>& behaviours()
 {
@@ -98,12 +98,12 @@ void logUpdater(const QString& text)
 
 QString recordedVersion(const QString& name)
 {
-    return platform::readRegistry(kRegistryKey, name).toString();
+    return platform::readRegistry(RegistryKey, name).toString();
 }
 
 bool recordVersion(const QString& name, const QString& version)
 {
-    if (platform::writeRegistry(kRegistryKey, name, version))
+    if (platform::writeRegistry(RegistryKey, name, version))
         return true;
     logUpdater(u"cannot write the registry"_s);
     return false;

@@ -73,7 +73,7 @@ void AccountCommandsTest::command(const QString& line)
     const QString mark = u"command %1"_s.arg(++number);
     m_simulator->enterCommand(line);
     m_simulator->enterCommand(u"echo "_s + mark);
-    QTRY_COMPARE_WITH_TIMEOUT(lastEvent(u"echo"_s).value("text"_L1).toString(), mark, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(lastEvent(u"echo"_s).value("text"_L1).toString(), mark, Patience);
 }
 
 // What the client reports of one request.
@@ -223,7 +223,7 @@ void AccountCommandsTest::expectsRequests()
     happens([&] { m_network->login(u"a@b.c"_s, u"pw"_s); });
     QSignalSpy finished(m_simulator.get(), &Simulator::finished);
     QVERIFY2(m_simulator->loadScenario(writeScenario(*m_folder, scenario)), m_errors.str().c_str());
-    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, Patience);
     QTEST(finished.first().first().toInt(), "code");
     const bool told = m_errors.str().find("no such request within 0.05 s") != std::string::npos;
     QCOMPARE(told, finished.first().first().toInt() == 1);

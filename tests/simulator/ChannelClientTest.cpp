@@ -71,16 +71,16 @@ void ChannelClientTest::connectClient()
     QCOMPARE(m_link->listen(), QString());
     QCOMPARE(m_client->initChannel(m_inbox->callback()), ErrorCode::Success);
     // Connected for both ends: a message has come through.
-    QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, Patience);
     QVERIFY(pushOnceConnected(0, "hello"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, Patience);
     m_received->clear();
 }
 
 bool ChannelClientTest::pushOnceConnected(int id, const std::string& text)
 {
     return QTest::qWaitFor([&] { return m_client->pushMsg(id, text) == ErrorCode::Success; },
-                           kPatience);
+                           Patience);
 }
 
 QList<Inbox::Entry> ChannelClientTest::receivedByLink() const
@@ -93,20 +93,20 @@ QList<Inbox::Entry> ChannelClientTest::receivedByLink() const
 
 void ChannelClientTest::keepsOrderBothWays()
 {
-    constexpr int kCount = 10'000;
+    constexpr int Count = 10'000;
     connectClient();
     std::jthread pusher([this] {
-        for (int i = 0; i < kCount; ++i)
+        for (int i = 0; i < Count; ++i)
             m_client->pushMsg(i, "{\"seq\":" + std::to_string(i) + "}");
     });
     QList<Inbox::Entry> expected;
-    for (int i = 0; i < kCount; ++i) {
+    for (int i = 0; i < Count; ++i) {
         const QByteArray text = "{\"seq\":" + QByteArray::number(i) + '}';
         m_link->send(i, text);
         expected.append({i, text});
     }
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), kCount, kPatience);
-    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), kCount, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), Count, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), Count, Patience);
     pusher.join();
     QVERIFY(receivedByLink() == expected);
     QVERIFY(m_inbox->entries() == expected);
@@ -120,7 +120,7 @@ void ChannelClientTest::dropsWhatIsPushedWithoutConnection()
     QCOMPARE(m_client->pushMsg(2, "before the display"), ErrorCode::NotConnected);
     QCOMPARE(m_link->listen(), QString());
     QVERIFY(pushOnceConnected(3, "after"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, Patience);
     QCOMPARE(m_received->first().first().toInt(), 3);
 }
 
@@ -131,17 +131,17 @@ void ChannelClientTest::comesBackAfterTheServer()
         m_link->sendRaw("1 half a line, cut off by the end of the connection");
         m_link->close();
         QTRY_COMPARE_WITH_TIMEOUT(m_client->pushMsg(1, "nobody there"), ErrorCode::NotConnected,
-                                  kPatience);
+                                  Patience);
         m_received->clear();
         QCOMPARE(m_link->listen(), QString());
         QVERIFY(pushOnceConnected(2, "back"));
-        QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, Patience);
         m_link->send(round, "welcome");
-        QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), round, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), round, Patience);
         QCOMPARE(m_inbox->entries().last(), Inbox::Entry(round, "welcome"));
     }
     m_link->dropClients();
-    QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, Patience);
 }
 
 void ChannelClientTest::survivesHostileLines_data()
@@ -160,12 +160,12 @@ void ChannelClientTest::survivesHostileLines()
     if (!line.endsWith('\n'))
         line += '\n';
     const auto message = channel::parseLine(QByteArrayView(line).chopped(1));
-    const bool delivered = message && line.size() - 1 <= channel::kMaxLineLength;
+    const bool delivered = message && line.size() - 1 <= channel::MaxLineLength;
 
     connectClient();
     m_link->sendRaw(line);
     m_link->send(42, "still here");
-    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), delivered ? 2 : 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), delivered ? 2 : 1, Patience);
     QCOMPARE(m_inbox->entries().last(), Inbox::Entry(42, "still here"));
     if (delivered)
         QCOMPARE(m_inbox->entries().first(), Inbox::Entry(message->id, message->text));
@@ -188,10 +188,10 @@ void ChannelClientTest::callbackMayPushAndRegister()
     m_link->send(1, "a");
     m_link->send(2, "b");
     m_link->send(3, "for nobody");
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 2, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 2, Patience);
     m_client->initChannel(m_inbox->callback());
     m_link->send(4, "d");
-    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), 1, Patience);
     QCOMPARE(m_inbox->entries().first(), Inbox::Entry(4, "d"));
     QCOMPARE(first.load(), 1);
     const QList<Inbox::Entry> expected{{1, "echo of a"}, {2, "second b"}};
@@ -214,7 +214,7 @@ void ChannelClientTest::callsBackOneAtATime()
         m_link->send(i, "x");
         m_client->pushMsg(i, "y");
     }
-    QTRY_COMPARE_WITH_TIMEOUT(calls.load(), 1000, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(calls.load(), 1000, Patience);
     QVERIFY(!overlapped);
 }
 
@@ -237,10 +237,10 @@ void ChannelClientTest::slowReaderBlocksNobody()
     }
     // Delivery in the other direction does not suffer.
     m_link->send(1, "meanwhile");
-    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_inbox->count(), 1, Patience);
 
     m_link->setReading(true);
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), accepted.size(), kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), accepted.size(), Patience);
     for (qsizetype i = 0; i < accepted.size(); ++i) {
         QCOMPARE(m_received->at(i).at(0).toInt(), accepted.at(i));
         QCOMPARE(m_received->at(i).at(1).toByteArray().size(), qsizetype(text.size()));
@@ -251,10 +251,10 @@ void ChannelClientTest::slowReaderBlocksNobody()
 void ChannelClientTest::refusesWhatIsTooLong()
 {
     connectClient();
-    const size_t longest = size_t(channel::kMaxLineLength) - 2; // beside "1 "
+    const size_t longest = size_t(channel::MaxLineLength) - 2; // beside "1 "
     QCOMPARE(m_client->pushMsg(1, std::string(longest + 1, 'x')), ErrorCode::MessageTooLong);
     QCOMPARE(m_client->pushMsg(1, std::string(longest, 'x')), ErrorCode::Success);
-    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_received->count(), 1, Patience);
     QCOMPARE(m_received->first().at(1).toByteArray().size(), qsizetype(longest));
 }
 
@@ -279,7 +279,7 @@ void ChannelClientTest::hundredStartsAndStopsUnderLoad()
         });
         const qsizetype before = m_inbox->count();
         if (i % 3 != 0) { // else while it is still connecting
-            QTRY_VERIFY_WITH_TIMEOUT(m_inbox->count() > before, kPatience);
+            QTRY_VERIFY_WITH_TIMEOUT(m_inbox->count() > before, Patience);
             ++connected;
         }
         QVERIFY(m_client->stop());
@@ -314,7 +314,7 @@ void ChannelClientTest::stopDoesNotWaitForACallbackForEver()
         const std::lock_guard lock(mutex);
         return inside;
     };
-    QTRY_VERIFY_WITH_TIMEOUT(isInside(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(isInside(), Patience);
     QVERIFY(!m_client->stop(QDeadlineTimer(20)));
     QCOMPARE(m_client->initChannel(m_inbox->callback()), ErrorCode::NotAvailable);
     {

@@ -14,7 +14,7 @@
 
 /// How long a test waits for what must happen, on a machine busy with other things; in
 /// milliseconds.
-inline constexpr int kPatience = 60'000;
+inline constexpr int Patience = 60'000;
 
 /// Messages that a channel callback received, to be looked at from the test's thread.
 class Inbox

@@ -171,9 +171,9 @@ void DeviceTreeTest::devicesAppearWhole()
         }
     });
     const bool first = plug(tree, Device::Microphone) &&
-                       QTest::qWaitFor([&] { return sawMicrophone.load(); }, kPatience);
-    const bool second = plug(tree, Device::Speaker) &&
-                        QTest::qWaitFor([&] { return sawSpeaker.load(); }, kPatience);
+                       QTest::qWaitFor([&] { return sawMicrophone.load(); }, Patience);
+    const bool second =
+        plug(tree, Device::Speaker) && QTest::qWaitFor([&] { return sawSpeaker.load(); }, Patience);
     done = true;
     reader.join();
     QVERIFY(first && second);
@@ -249,12 +249,11 @@ void DeviceTreeTest::commandsPlugAndUnplug()
         QVERIFY(simulator.openDeviceTree(m_root));
         QCOMPARE(program.present(), QString());
         simulator.enterCommand(u"plug all"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(program.present(), u"cms"_s, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(program.present(), u"cms"_s, Patience);
         simulator.enterCommand(u"unplug camera"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(program.present(), u"ms"_s, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(program.present(), u"ms"_s, Patience);
         simulator.enterCommand(u"devices root "_s + m_folder->filePath(u"with blanks"_s));
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(m_folder->filePath(u"with blanks"_s)),
-                                 kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(m_folder->filePath(u"with blanks"_s)), Patience);
         QVERIFY(!QFileInfo::exists(m_root));
     }
     QVERIFY(!QFileInfo::exists(m_folder->filePath(u"with blanks"_s)));
@@ -274,7 +273,7 @@ void DeviceTreeTest::saysWhatItCannotDo()
     const auto complaint = [&](const QString& command) {
         errors.str({});
         simulator.enterCommand(command);
-        if (!QTest::qWaitFor([&] { return !errors.str().empty(); }, kPatience))
+        if (!QTest::qWaitFor([&] { return !errors.str().empty(); }, Patience))
             return QString();
         return QString::fromStdString(errors.str()).trimmed();
     };

@@ -44,8 +44,8 @@ void DisplayLinkTest::leavesALivingSimulatorAlone()
     client.initChannel(inbox.callback());
     // The probe of the second was a client as well, and has gone.
     QSignalSpy connected(&first, &DisplayLink::clientConnected);
-    QTRY_VERIFY_WITH_TIMEOUT(connected.count() >= 1, kPatience);
-    QTRY_COMPARE_WITH_TIMEOUT(first.clientCount(), 1, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(connected.count() >= 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(first.clientCount(), 1, Patience);
     client.stop();
 }
 
@@ -105,14 +105,14 @@ void DisplayLinkTest::servesSeveralPrograms()
     ChannelClient second(folder.name(), 5ms);
     first.initChannel(firstInbox.callback());
     second.initChannel(secondInbox.callback());
-    QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 2, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 2, Patience);
     link.send(1, "to all");
-    QTRY_COMPARE_WITH_TIMEOUT(firstInbox.count(), 1, kPatience);
-    QTRY_COMPARE_WITH_TIMEOUT(secondInbox.count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(firstInbox.count(), 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(secondInbox.count(), 1, Patience);
     first.stop();
-    QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 1, Patience);
     second.pushMsg(2, "from one");
-    QTRY_COMPARE_WITH_TIMEOUT(received.count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(received.count(), 1, Patience);
     second.stop();
 }
 
@@ -125,11 +125,11 @@ void DisplayLinkTest::writesWhatIsWaitingBeforeItGoes()
         DisplayLink link(folder.name());
         QCOMPARE(link.listen(), QString());
         client.initChannel(inbox.callback());
-        QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 1, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 1, Patience);
         for (int i = 0; i < 1000; ++i)
             link.send(i, QByteArray(1000, 'x'));
     }
-    QTRY_COMPARE_WITH_TIMEOUT(inbox.count(), 1000, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(inbox.count(), 1000, Patience);
     QVERIFY(!QFileInfo::exists(folder.name()));
     client.stop();
 }

@@ -40,8 +40,7 @@ void PortalHubTest::endsCleanly()
         QProcess program;
         program.setProcessChannelMode(QProcess::MergedChannels);
         program.start(QStringLiteral(PORTALHUB_USER), {mode});
-        QVERIFY(
-            QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, kPatience));
+        QVERIFY(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, Patience));
         const QByteArray output = program.readAll();
         QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0,
                  output.constData());

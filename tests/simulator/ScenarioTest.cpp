@@ -97,7 +97,7 @@ void ScenarioTest::run(const QByteArray& scenario)
 
 int ScenarioTest::exitCode()
 {
-    if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, kPatience))
+    if (!QTest::qWaitFor([this] { return !m_finished->isEmpty(); }, Patience))
         return -1;
     return m_finished->first().first().toInt();
 }
@@ -158,7 +158,7 @@ void ScenarioTest::printsWhatHappens()
 {
     run("wait-client\nexpect 5\nexpect 6\nquit\n");
     Program program(m_folder->filePath(u"hub"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"client-connected"_s).size(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"client-connected"_s).size(), 1, Patience);
     program.push(5, "{\"cmd\": 5}");
     program.push(6, "{\"cmd\":6,\xff");
     QCOMPARE(exitCode(), 0);
@@ -180,10 +180,10 @@ void ScenarioTest::inputRunsBesideAScenario()
     run("wait-client\necho over\n");
     m_simulator->enterCommand(u"status"_s);
     QTRY_COMPARE_WITH_TIMEOUT(events(u"status"_s).size(), 1,
-                              kPatience); // though the scenario waits
+                              Patience); // though the scenario waits
     QVERIFY(events(u"scenario-finished"_s).isEmpty());
     const Program program(m_folder->filePath(u"hub"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"scenario-finished"_s).size(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"scenario-finished"_s).size(), 1, Patience);
     QCOMPARE(events(u"echo"_s).size(), 1);
     QVERIFY(m_finished->isEmpty());
     m_simulator->enterCommand(u"quit"_s);

@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 namespace
 {
 
-constexpr int kPatience = 30'000;
+constexpr int Patience = 30'000;
 
 QString installed()
 {
@@ -111,19 +111,19 @@ void SimulatedProgramsTest::upgradesWell()
 {
     order("installed=1.0\nseconds=0.1\n");
     watch();
-    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"1.0"_s, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"1.0"_s, Patience);
     QVERIFY(installedVersionValue(u"newver"_s).isEmpty());
     order("installed=1.0\nseconds=0.1\noffer=2.0\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), Patience);
     QCOMPARE(installedVersionValue(u"newver"_s), u"2.0"_s);
 
     m_upgrade->start();
-    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, Patience);
     QVERIFY(m_upgrade->isUpdating()); // until the program quits
     QTRY_COMPARE_WITH_TIMEOUT(log(),
                               (QStringList{u"background"_s, u"recorded 1.0"_s, u"found 2.0"_s,
                                            m_update, u"installed 2.0"_s}),
-                              kPatience);
+                              Patience);
 }
 
 void SimulatedProgramsTest::upgradesBadly_data()
@@ -147,41 +147,41 @@ void SimulatedProgramsTest::upgradesBadly()
     const QByteArray orders = "installed=1.0\nseconds=0.5\noffer=2.0\nbehaviour=";
     order(orders + behaviour);
     watch();
-    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), Patience);
     if (behaviour == "unkillable") {
         m_programs.killProcess(u"PatchPilot.exe"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(log().count(u"background"_s), 2, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(log().count(u"background"_s), 2, Patience);
     }
 
     m_upgrade->start();
-    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(sign), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(sign), Patience);
     QVERIFY(m_upgrade->isUpdating());
     QCOMPARE(installed(), u"1.0"_s);
     m_upgrade->timeOut();
-    QTRY_VERIFY_WITH_TIMEOUT(!m_upgrade->isUpdating(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_upgrade->isUpdating(), Patience);
     const auto isBackAgain = [this] {
         watch();
         return log().count(u"background"_s) > 1;
     };
-    QTRY_VERIFY_WITH_TIMEOUT(isBackAgain(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(isBackAgain(), Patience);
     if (finishes) {
-        QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, Patience);
         return;
     }
     QCOMPARE(installed(), u"1.0"_s);
     order(orders + "well");
     // A guard that has just looked would start an updater of its own beside the retry's.
-    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(u"UpdateInstaller.exe"_s), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(u"UpdateInstaller.exe"_s), Patience);
     m_upgrade->start();
-    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, Patience);
 }
 
 void SimulatedProgramsTest::endsWithItsHome()
 {
     watch();
-    QTRY_VERIFY_WITH_TIMEOUT(!installed().isEmpty(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(!installed().isEmpty(), Patience);
     QVERIFY(m_home->remove());
-    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(u"PatchPilot.exe"_s), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(!isRunning(u"PatchPilot.exe"_s), Patience);
     QVERIFY(!QFile::exists(m_home->path()));
 }
 
@@ -196,7 +196,7 @@ void SimulatedProgramsTest::zoomIsFound()
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QVERIFY(ProcessManager::startProcess(found));
     const auto started = [this] { return linesOf(u"zoom/started.log"_s).value(0); };
-    QTRY_VERIFY_WITH_TIMEOUT(started().startsWith(u"started "_s), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(started().startsWith(u"started "_s), Patience);
 }
 
 QTEST_GUILESS_MAIN(SimulatedProgramsTest)

@@ -220,7 +220,7 @@ void VideoFeatureTest::framesArrive()
 {
     run(u"video rate 100"_s);
     QCOMPARE(run(u"video start"_s), QString());
-    QTRY_COMPARE_WITH_TIMEOUT(last().size(), QSize(1920, 1080), kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(last().size(), QSize(1920, 1080), Patience);
     const QVideoFrame first = last();
     for (int i = 0; i < SetupPicture::patchColours().size(); ++i) {
         QImage image(2, 2, QImage::Format_RGB32);
@@ -239,7 +239,7 @@ void VideoFeatureTest::framesArrive()
         }
         return false;
     };
-    QTRY_VERIFY_WITH_TIMEOUT(isMoving(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(isMoving(), Patience);
     run(u"video stop"_s);
     QCOMPARE(events(u"video"_s).last().value("state"_L1), u"stopped"_s);
 }
@@ -249,7 +249,7 @@ void VideoFeatureTest::anotherSizeArrives()
     QCOMPARE(run(u"video start"_s), QString());
     for (const QSize size : {QSize(640, 360), QSize(2, 2), QSize(1080, 1920), QSize(3840, 2160)}) {
         QCOMPARE(run(u"video size %1 %2"_s.arg(size.width()).arg(size.height())), QString());
-        QTRY_COMPARE_WITH_TIMEOUT(last().size(), size, kPatience);
+        QTRY_COMPARE_WITH_TIMEOUT(last().size(), size, Patience);
     }
 }
 
@@ -258,13 +258,13 @@ void VideoFeatureTest::aPersonWalksThroughTheSetup()
     const QSignalSpy finished(&*m_video, &VideoFeature::setupFinished);
     QCOMPARE(run(u"video start"_s), QString());
     click(0.84, 0.86);
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"setup"_s).size(), 2, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"setup"_s).size(), 2, Patience);
     click(0.29, 0.5);
     click(0.16, 0.86); // back
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"setup"_s).size(), 3, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"setup"_s).size(), 3, Patience);
     for (int i = 0; i < 5; ++i)
         click(0.84, 0.86);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, Patience);
 
     QStringList steps;
     for (const QJsonObject& event : events(u"setup"_s))
@@ -284,16 +284,16 @@ void VideoFeatureTest::aButtonWorksWhereItWasPressedOnly()
     QCOMPARE(run(u"video start"_s), QString());
     point(0, 0.84, 0.86);
     point(2, 0.5, 0.5);
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"pointer"_s).size(), 2, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"pointer"_s).size(), 2, Patience);
     // The mark shows where the pointer is.
     const auto isMarked = [this] { return pixel(last(), {320, 180}).cb < 60; };
-    QTRY_VERIFY_WITH_TIMEOUT(isMarked(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(isMarked(), Patience);
     point(1, 0.5, 0.5);
     point(0, 0.5, 0.5);
     point(1, 0.84, 0.86);
     m_pointer.writeDatagram("no event", QHostAddress(QHostAddress::LocalHost),
                             m_video->pointerPort());
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"malformed-datagram"_s).size(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"malformed-datagram"_s).size(), 1, Patience);
     QCOMPARE(events(u"setup"_s).size(), 1);
 }
 
@@ -311,9 +311,9 @@ void VideoFeatureTest::hostileFramesAreSurvived()
     run(u"video size 320 180"_s);
     run(u"video rate 200"_s);
     QCOMPARE(run(u"video start"_s), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, Patience);
     QCOMPARE(run(u"video hostile %1 20"_s.arg(kind)), QString());
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"hostile-frames-written"_s).size(), 1, kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(events(u"hostile-frames-written"_s).size(), 1, Patience);
     if (kind != "torn"_L1) {
         const QStringList lines = log.take();
         QVERIFY(lines.indexOf(QRegularExpression(
@@ -321,7 +321,7 @@ void VideoFeatureTest::hostileFramesAreSurvived()
                     uR"(error!!! index:\d+, w:\d+, h:\d+, len:-?\d+, frame_idx:\d+$)"_s)) >= 0);
     }
     const int before = frames();
-    QTRY_VERIFY_WITH_TIMEOUT(frames() > before + 2, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(frames() > before + 2, Patience);
     QCOMPARE(last().size(), QSize(320, 180));
 }
 
@@ -333,7 +333,7 @@ void VideoFeatureTest::deadWritersAreFollowed()
     run(u"video rate 100"_s);
     run(u"video size 320 180"_s);
     QCOMPARE(run(u"video start"_s), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, Patience);
     for (const QString& fault : {u"video die"_s, u"video cut"_s, u"video die"_s}) {
         LogCapture log;
         QCOMPARE(run(fault), QString());
@@ -343,10 +343,10 @@ void VideoFeatureTest::deadWritersAreFollowed()
                                 (isCut ? u"MapViewOfFile failed: %1"_s.arg(ENXIO)
                                        : u"wait [vorn_vframe_event_2025_05_19] WAIT_TIMEOUT"_s));
         };
-        QTRY_VERIFY_WITH_TIMEOUT(isNoticed(), kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(isNoticed(), Patience);
         const int before = frames();
         QCOMPARE(run(u"video return"_s), QString());
-        QTRY_VERIFY_WITH_TIMEOUT(frames() > before, kPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(frames() > before, Patience);
     }
 }
 
@@ -354,16 +354,16 @@ void VideoFeatureTest::silenceIsNoticed()
 {
     LogCapture log;
     QCOMPARE(run(u"video start"_s), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(frames() > 0, Patience);
     QCOMPARE(run(u"video stall"_s), QString());
     const auto isNoticed = [&] {
         return log.contains(u"E "_s + Receiver +
                             u"wait [vorn_vframe_event_2025_05_19] WAIT_TIMEOUT"_s);
     };
-    QTRY_VERIFY_WITH_TIMEOUT(isNoticed(), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(isNoticed(), Patience);
     const int before = frames();
     QCOMPARE(run(u"video resume"_s), QString());
-    QTRY_VERIFY_WITH_TIMEOUT(frames() > before, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(frames() > before, Patience);
 }
 
 void VideoFeatureTest::wrongUseIsRefused()

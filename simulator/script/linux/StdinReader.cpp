@@ -14,12 +14,12 @@ using namespace simulator;
 namespace
 {
 
-constexpr qsizetype kMaxLineLength = qsizetype{8} * 1024 * 1024;
+constexpr qsizetype MaxLineLength = qsizetype{8} * 1024 * 1024;
 
 } // namespace
 
 struct StdinReader::Private {
-    channel::LineReader reader{kMaxLineLength};
+    channel::LineReader reader{MaxLineLength};
     QSocketNotifier notifier{STDIN_FILENO, QSocketNotifier::Read};
 
     void readTo(StdinReader& receiver)

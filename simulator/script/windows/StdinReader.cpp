@@ -13,7 +13,7 @@ using namespace simulator;
 namespace
 {
 
-constexpr qsizetype kMaxLineLength = qsizetype{8} * 1024 * 1024;
+constexpr qsizetype MaxLineLength = qsizetype{8} * 1024 * 1024;
 
 } // namespace
 
@@ -28,7 +28,7 @@ struct StdinReader::Private {
     void readTo(StdinReader& receiver)
     {
         threadId = GetCurrentThreadId();
-        channel::LineReader reader(kMaxLineLength);
+        channel::LineReader reader(MaxLineLength);
         std::array<char, 4096> bytes;
         DWORD count = 0;
         const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
