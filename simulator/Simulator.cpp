@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// The message as an object where it is one, otherwise its text; and always the text as it came.
+// "message" is the parsed object, or the text if it is no object. "text" is the text itself.
 QJsonObject messageFields(int id, const QByteArray& text)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text);
@@ -66,7 +66,7 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
             [video, camera] { video->setCamera(camera->view()); });
     connect(video, &VideoFeature::setupFinished, display,
             [display] { display->connectDisplay(DisplayModel::NormalUse); });
-    // What came is noted before the display acts on it.
+    // Connected after connectLink(): a message is recorded before the display reacts to it.
     connect(m_link.get(), &DisplayLink::messageReceived, display, &DisplayModel::receive);
     connect(m_link.get(), &DisplayLink::clientConnected, display, &DisplayModel::greet);
     connectScripts();
@@ -74,7 +74,7 @@ Simulator::Simulator(const QString& socketName, std::ostream& events, std::ostre
 
 Simulator::~Simulator()
 {
-    // The link still writes when it goes; what happens then is no event any more.
+    // The destructor of the link still writes. The receivers of its signals are gone by then.
     m_link->disconnect();
 }
 
@@ -88,14 +88,10 @@ void Simulator::addFeature(Feature* feature)
 void Simulator::addOwnCommands()
 {
     m_interpreter.beginSection(u"simulator"_s);
-    m_interpreter.add(
-        {u"status"_s, {}, u"Prints the state of everything it plays."_s, [this](CommandArguments&) {
-             return simpleAction([this] { m_log.write(u"status"_s, status()); });
-         }});
-    m_interpreter.add(
-        {u"help"_s, {}, u"Shows the commands, on standard error."_s, [this](CommandArguments&) {
-             return simpleAction([this] { tell(commandHelp()); });
-         }});
+    m_interpreter.add(u"status"_s, u"Prints the state of all features."_s,
+                      [this] { m_log.write(u"status"_s, status()); });
+    m_interpreter.add(u"help"_s, u"Shows the commands, on standard error."_s,
+                      [this] { printError(commandHelp()); });
 }
 
 void Simulator::connectLink(Expectations* expectations)
@@ -138,7 +134,7 @@ bool Simulator::loadScenario(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        tell(u"cannot read the scenario \"%1\": %2"_s.arg(fileName, file.errorString()));
+        printError(u"cannot read the scenario \"%1\": %2"_s.arg(fileName, file.errorString()));
         return false;
     }
     m_scenario = new ScriptRunner(QFileInfo(fileName).fileName(), ScriptRunner::OnFailure::Stop,
@@ -148,19 +144,19 @@ bool Simulator::loadScenario(const QString& fileName)
     connect(m_scenario, &ScriptRunner::idle, this, [this] { m_log.write(u"scenario-finished"_s); });
     connect(m_scenario, &ScriptRunner::failed, this, [this](const QString& message) {
         scriptFailed(message);
-        emit finished(Exit_Failed);
+        emit finished(ExitFailed);
     });
-    const QStringList mistakes = m_scenario->load(QString::fromUtf8(file.readAll()));
-    for (const QString& mistake : mistakes)
-        tell(mistake);
-    return mistakes.isEmpty();
+    const QStringList errors = m_scenario->load(QString::fromUtf8(file.readAll()));
+    for (const QString& error : errors)
+        printError(error);
+    return errors.isEmpty();
 }
 
 bool Simulator::openDeviceTree(const QString& folder)
 {
     const QString error = m_devices->setRoot(folder);
     if (!error.isEmpty())
-        tell(error);
+        printError(error);
     return error.isEmpty();
 }
 
@@ -168,7 +164,7 @@ bool Simulator::listen()
 {
     const QString error = m_link->listen();
     if (!error.isEmpty())
-        tell(error);
+        printError(error);
     else
         m_log.write(u"listening"_s, {{u"socket"_s, m_link->socketName()}});
     return error.isEmpty();
@@ -176,20 +172,20 @@ bool Simulator::listen()
 
 void Simulator::enterCommand(const QString& line)
 {
-    const QString mistake = m_input->append(line);
-    if (mistake.isEmpty())
+    const QString error = m_input->append(line);
+    if (error.isEmpty())
         return;
-    m_log.write(u"bad-command"_s, {{u"command"_s, line}, {u"reason"_s, mistake}});
-    tell(mistake);
+    m_log.write(u"bad-command"_s, {{u"command"_s, line}, {u"reason"_s, error}});
+    printError(error);
 }
 
 void Simulator::scriptFailed(const QString& message)
 {
     m_flow->noteFailure();
-    tell(message);
+    printError(message);
 }
 
-void Simulator::tell(const QString& message)
+void Simulator::printError(const QString& message)
 {
     m_errors << message.toStdString() << std::endl;
 }

@@ -21,31 +21,31 @@ class Feature;
 class FlowCommands;
 class ScriptRunner;
 
-/// Composes what the simulator plays and runs its scripts. Main thread only.
+/// Composes the features of the simulator and runs its scripts. Main thread only.
 class Simulator : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Exit codes of the program, beside those that scripts choose.
-    enum ExitCode : int { Exit_Failed = 1, Exit_BadUsage = 2 };
+    /// Exit codes of the program, in addition to those that scripts choose.
+    enum ExitCode : int { ExitFailed = 1, ExitBadUsage = 2 };
 
-    /// @p events receives one JSON object a line, @p errors messages for people. Both must outlive
-    /// the simulator.
+    /// @p events receives one JSON object per line, @p errors the messages for people. Both must
+    /// outlive the simulator.
     Simulator(const QString& socketName, std::ostream& events, std::ostream& errors);
     ~Simulator() override;
 
     /// All commands, for --help.
     QString commandHelp() const { return m_interpreter.helpText(); }
 
-    /// Checks a scenario file, which starts to run with the event loop. False, with its mistakes
-    /// told, when it cannot be read or has any.
+    /// Reads and checks a scenario file, which starts with the event loop. Prints the errors and
+    /// returns false if it cannot be read or has errors.
     bool loadScenario(const QString& fileName);
-    /// Keeps the tree of devices in that folder. False, with the reason told, when it cannot.
+    /// Keeps the device tree in @p folder. Prints the reason and returns false on failure.
     bool openDeviceTree(const QString& folder);
-    /// Starts to listen. False, with the reason told, when that fails.
+    /// Starts to listen. Prints the reason and returns false on failure.
     bool listen();
-    /// Takes one command as from standard input.
+    /// Runs one command of standard input.
     void enterCommand(const QString& line);
 
 signals:
@@ -57,7 +57,7 @@ private:
     void connectLink(Expectations* expectations);
     void connectScripts();
     void scriptFailed(const QString& message);
-    void tell(const QString& message);
+    void printError(const QString& message);
     QJsonObject status() const;
 
     EventLog m_log;

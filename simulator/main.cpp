@@ -14,17 +14,18 @@ namespace
 {
 
 const QString Description =
-    uR"(Plays a meeting-room display for the program, over the socket of the channel library; on demand
-also the account service, the display's microphone, camera and speaker, and its screen.
+    uR"(Plays a meeting-room display for the program, over the socket of the channel library, and on
+request the account service, the display's microphone, camera and speaker, and its screen.
 
-It listens on the socket, prints everything that happens as one JSON object a line
-("event" says what: listening, client-connected, client-disconnected, message, sent,
+It listens on the socket, prints each event as one JSON object per line
+("event" names it: listening, client-connected, client-disconnected, message, sent,
 malformed-line, display, camera, camera-command, account-listening, account-request, devices,
-video, setup, pointer, button, command, failed, ...) and takes commands from standard input and from a scenario file, one a line.
+video, setup, pointer, button, command, failed and others) and takes commands from standard input
+and from a scenario file, one per line.
 Lines beginning with # are comments.
 
 What the display sends:
-  when it connects, and to a program that comes while it is connected:
+  when it connects, and to a program that connects later:
     message 0 (isReady 1, or 2 in first-run mode), message 1 (volume), message 6 (source)
   when its state is changed by a command, while it is connected:
     message 1, 6, 11 (version), 13 (auto framing), 15 (smart framing) or 21 (camera)
@@ -35,18 +36,18 @@ What the display sends:
     13, 15: takes the framing;  18, 19: records the camera command;
     22: starts the first-run set-up, with message 0 (isReady 2) if it was not in that mode
   12 (type 0) starts BYOD: BYOD is selected and message 6 reported.
-While the display is not connected it reacts to nothing.
+While the display is not connected it ignores every message.
 
-A scenario runs on its own; standard input is read beside it. An expectation that is not met
-ends a scenario and the simulator with exit code 1. A scenario that ends without "quit" leaves
-the simulator running. Exit codes: 0, 1 for a failure, 2 for a mistake in the command line or the
-scenario, or what "quit" names.)"_s;
+A scenario and standard input run side by side. An expectation of a scenario that is not met ends
+the simulator with exit code 1. A scenario that ends without "quit" leaves the simulator running.
+Exit codes: 0, 1 for a failure, 2 for an error in the command line or the scenario, or the code
+that "quit" names.)"_s;
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    // It draws the display's screen, and shows it nowhere.
+    // The display's screen is drawn into shared memory only.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
@@ -70,7 +71,7 @@ int main(int argc, char* argv[])
     if (!parsed || !parser.positionalArguments().isEmpty()) {
         const QString reason = parsed ? u"Unexpected argument."_s : parser.errorText();
         std::cerr << reason.toStdString() << " See --help.\n";
-        return Simulator::Exit_BadUsage;
+        return Simulator::ExitBadUsage;
     }
 
     Simulator display(parser.isSet(socket) ? parser.value(socket) : channel::socketName(),
@@ -80,11 +81,11 @@ int main(int argc, char* argv[])
         return 0;
     }
     if (parser.isSet(scenario) && !display.loadScenario(parser.value(scenario)))
-        return Simulator::Exit_BadUsage;
+        return Simulator::ExitBadUsage;
     if (parser.isSet(sysfs) && !display.openDeviceTree(parser.value(sysfs)))
-        return Simulator::Exit_Failed;
+        return Simulator::ExitFailed;
     if (!display.listen())
-        return Simulator::Exit_Failed;
+        return Simulator::ExitFailed;
 
     QObject::connect(&display, &Simulator::finished, &app,
                      [](int exitCode) { QCoreApplication::exit(exitCode); });

@@ -97,8 +97,6 @@ void AccountFault::reply(QTcpSocket* socket, Kind kind, const QByteArray& canned
         return;
     case Kind::CloseInHead:
         return send(socket, "HTTP/1.1 200 OK\r\nContent-Ty");
-    case Kind::Canned:
-        return sendJson(socket, canned);
     case Kind::Empty:
         return sendJson(socket, {});
     case Kind::ErrorStatus:
@@ -133,5 +131,7 @@ void AccountFault::reply(QTcpSocket* socket, Kind kind, const QByteArray& canned
     case Kind::RedirectAway:
         return send(socket, head("307 Temporary Redirect", 0,
                                  "Location: http://elsewhere.invalid/nc/auth/login\r\n"));
+    case Kind::Canned:
+        return sendJson(socket, canned);
     }
 }

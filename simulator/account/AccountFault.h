@@ -15,7 +15,6 @@ Q_ENUM_NS(Endpoint)
 
 enum class Kind {
     None,           ///< the endpoint works
-    Canned,         ///< a 200 reply with a body given by the caller
     Stall,          ///< no reply, the connection stays open
     StallInBody,    ///< half of the body, the connection stays open
     CloseEarly,     ///< the connection closes without a reply
@@ -35,6 +34,7 @@ enum class Kind {
     CompressedBomb, ///< 64 kB that expand to 64 MB
     ShortBody,      ///< a truncated body, shorter than Content-Length
     RedirectAway,   ///< a redirect to another host
+    Canned,         ///< a 200 reply with a body given by the caller
 };
 Q_ENUM_NS(Kind)
 

@@ -1,15 +1,14 @@
 #include "simulator/account/AccountFeature.h"
 
-#include "simulator/account/AccountNames.h"
 #include "simulator/account/AccountRoutes.h"
 #include "simulator/script/EventLog.h"
 
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QMetaEnum>
 #include <QUrlQuery>
-
-#include <algorithm>
 
 using namespace simulator;
 using namespace Qt::StringLiterals;
@@ -19,9 +18,41 @@ namespace
 
 using Endpoint = AccountFault::Endpoint;
 
-CommandOutcome outcomeOf(const QString& error)
+// The enumerators as the words of commands and events, in their order: ProfileRead as
+// "profile-read".
+template <typename Enum>
+QStringList wordsOf()
 {
-    return error.isEmpty() ? CommandOutcome::done() : CommandOutcome::failed(error);
+    const auto enumerators = QMetaEnum::fromType<Enum>();
+    QStringList words;
+    for (int i = 0; i < enumerators.keyCount(); ++i) {
+        QString word;
+        for (const QChar letter : QString::fromLatin1(enumerators.key(i))) {
+            if (letter.isUpper() && !word.isEmpty())
+                word += u'-';
+            word += letter.toLower();
+        }
+        words.append(word);
+    }
+    return words;
+}
+
+const QStringList& endpointNames()
+{
+    static const QStringList s_names = wordsOf<Endpoint>();
+    return s_names;
+}
+
+const QStringList& faultNames()
+{
+    static const QStringList s_names = wordsOf<AccountFault::Kind>();
+    return s_names;
+}
+
+// The faults that a command can switch on. The last one, Canned, also needs a body.
+QStringList commandFaults()
+{
+    return faultNames().first(faultNames().size() - 1);
 }
 
 QJsonObject shown(const Account& account)
@@ -35,7 +66,7 @@ QJsonObject shown(const Account& account)
             {u"pictureSize"_s, account.picture.size()}};
 }
 
-// What a request says in clear, but for its secrets and the bulk of a picture.
+// The decoded fields of a request without passwords, token and picture.
 QJsonObject shown(const AccountRequest& request)
 {
     const QUrlQuery query(QString::fromUtf8(request.query()));
@@ -57,36 +88,22 @@ QJsonObject shown(const AccountRequest& request)
     return fields;
 }
 
-// The rest of the line, key=value by key=value, into the account.
+// Takes the remaining words, each key=value, into the account.
 void takeFields(CommandArguments& arguments, Account& account, QString& pictureFile)
 {
-    const QList<std::pair<QString, QString*>> fields{{u"firstName"_s, &account.firstName},
-                                                     {u"lastName"_s, &account.lastName},
-                                                     {u"company"_s, &account.company},
-                                                     {u"title"_s, &account.title},
-                                                     {u"picture"_s, &pictureFile}};
+    const QHash<QString, QString*> fields{{u"firstName"_s, &account.firstName},
+                                          {u"lastName"_s, &account.lastName},
+                                          {u"company"_s, &account.company},
+                                          {u"title"_s, &account.title},
+                                          {u"picture"_s, &pictureFile}};
     while (!arguments.atEnd()) {
         const QString word = arguments.word({});
         const qsizetype equals = word.indexOf(u'=');
-        const QString key = word.left(qMax<qsizetype>(equals, 0));
-        const auto field = std::ranges::find(fields, key, &std::pair<QString, QString*>::first);
-        if (field == fields.cend())
+        QString* const field = fields.value(word.left(qMax<qsizetype>(equals, 0)));
+        if (!field)
             return arguments.fail(u"\"%1\" sets no field of an account"_s.arg(word));
-        *field->second = unquoted(word.sliced(equals + 1));
+        *field = unquoted(word.sliced(equals + 1));
     }
-}
-
-// In lines of a readable length.
-QString faultsText()
-{
-    constexpr qsizetype PerLine = 6;
-    QString text;
-    for (qsizetype i = 0; i < namedFaults().size(); ++i) {
-        if (i > 0)
-            text += i % PerLine == 0 ? u",\n"_s : u", "_s;
-        text += namedFaults().at(i).first;
-    }
-    return text;
 }
 
 } // namespace
@@ -118,75 +135,67 @@ void AccountFeature::addServiceCommands(CommandInterpreter& interpreter)
          u"Starts the account service on this machine's loopback interface and prints its "
          u"address,\n"
          "{\"event\":\"account-listening\",\"url\":...}, which a program takes as Server/url.\n"
-         "Without a port: the port of before, or a free one."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         "Without a port: the port used before, or a free one."_s,
+         [this](CommandArguments& arguments) {
              const int port = arguments.atEnd() ? 0 : arguments.integer(u"the port"_s, 1, 65535);
-             return [this, port] { return outcomeOf(listen(static_cast<quint16>(port))); };
+             return simpleAction([this, port] { return listen(quint16(port)); });
          }});
-    interpreter.add(
-        {u"account close"_s,
-         {},
-         u"Refuses connections from now on and drops those there are; accounts stay."_s,
-         [this](CommandArguments&) { return simpleAction([this] { m_service.close(); }); }});
+    interpreter.add(u"account close"_s,
+                    u"Refuses new connections and drops the existing ones. Accounts stay."_s,
+                    [this] { m_service.close(); });
 }
 
 void AccountFeature::addAccountCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
         {u"account add"_s, u"<email> <password> [<field>=<text> ...]"_s,
-         u"Makes an account. Fields: firstName, lastName, company, title, picture (a file). Texts\n"
-         "with blanks stand in double quotes."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         u"Adds an account. Fields: firstName, lastName, company, title, picture (a file). Put\n"
+         "texts with blanks in double quotes."_s,
+         [this](CommandArguments& arguments) {
              Account account;
              account.email = unquoted(arguments.word(u"the email"_s));
              account.password = unquoted(arguments.word(u"the password"_s));
              QString pictureFile;
              takeFields(arguments, account, pictureFile);
-             return [this, account, pictureFile] {
-                 return outcomeOf(addAccount(account, pictureFile));
-             };
+             return simpleAction(
+                 [this, account, pictureFile] { return addAccount(account, pictureFile); });
          }});
     interpreter.add({u"account expire"_s, u"<email>"_s,
-                     u"Ends the sessions of an account: its tokens count no more."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
+                     u"Ends the sessions of an account: its tokens are no longer valid."_s,
+                     [this](CommandArguments& arguments) {
                          const QString email = unquoted(arguments.word(u"the email"_s));
-                         return [this, email] { return outcomeOf(expireSessions(email)); };
+                         return simpleAction([this, email] { return expireSessions(email); });
                      }});
-    interpreter.add(
-        {u"account show"_s,
-         {},
-         u"Prints the accounts, also those made by programs, without their passwords."_s,
-         [this](CommandArguments&) { return simpleAction([this] { showAccounts(); }); }});
+    interpreter.add(u"account show"_s,
+                    u"Prints all accounts, including registered ones, without passwords."_s,
+                    [this] { showAccounts(); });
 }
 
 void AccountFeature::addFaultCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
         {u"account fault"_s, u"<endpoint>|all <kind>"_s,
-         u"How the service misbehaves from the next request on, until none. Endpoints:\n"_s +
-             endpointNames().join(u", "_s) + u".\nKinds: "_s + faultsText() + u'.',
-         [this](CommandArguments& arguments) -> CommandAction {
+         u"Makes the service misbehave from the next request on, until none. Endpoints:\n"_s +
+             endpointNames().join(u", "_s) + u".\nKinds: "_s + wordList(commandFaults()) + u'.',
+         [this](CommandArguments& arguments) {
              const int endpoint = arguments.choice(endpointNames() + QStringList{u"all"_s});
-             QStringList kinds;
-             for (const auto& fault : namedFaults())
-                 kinds.append(fault.first);
-             const auto kind = namedFaults().at(arguments.choice(kinds)).second;
+             const auto kind = AccountFault::Kind(arguments.choice(commandFaults()));
              return simpleAction([this, endpoint, kind] {
                  if (endpoint == endpointNames().size())
                      m_service.setFault(kind);
                  else
-                     m_service.setFault(static_cast<Endpoint>(endpoint), kind);
+                     m_service.setFault(Endpoint(endpoint), kind);
              });
          }});
-    interpreter.add({u"account reply"_s, u"<endpoint> <body>"_s,
-                     u"Answers with this body, whatever is asked, until \"account fault\"."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
-                         const auto endpoint =
-                             static_cast<Endpoint>(arguments.choice(endpointNames()));
-                         const QByteArray body = arguments.rest(u"the body"_s).toUtf8();
-                         return simpleAction(
-                             [this, endpoint, body] { m_service.setCannedReply(endpoint, body); });
-                     }});
+    interpreter.add(
+        {u"account reply"_s, u"<endpoint> <body>"_s,
+         u"Answers every request of the endpoint with this body, until \"account fault\"."_s,
+         [this](CommandArguments& arguments) {
+             const auto endpoint = Endpoint(arguments.choice(endpointNames()));
+             const QByteArray body = arguments.rest(u"the body"_s).toUtf8();
+             return simpleAction(
+                 [this, endpoint, body] { m_service.setCannedReply(endpoint, body); });
+         }});
 }
 
 void AccountFeature::addExpectations(CommandInterpreter& interpreter)
@@ -196,7 +205,7 @@ void AccountFeature::addExpectations(CommandInterpreter& interpreter)
          u"Waits for a request as \"expect\" does for a message. The conditions are on\n"
          "the event's fields: email, firstName, lastName, company, title, pictureSize,\n"
          "hasToken."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         [this](CommandArguments& arguments) {
              const int endpoint = arguments.choice(endpointNames());
              const auto pattern = MessagePattern::parseConditions(endpoint, arguments);
              return m_requests.expect(pattern, arguments);
@@ -209,9 +218,9 @@ QJsonObject AccountFeature::status() const
         return {};
     QJsonObject faults;
     for (int i = 0; i < endpointNames().size(); ++i) {
-        const auto kind = m_service.fault(static_cast<Endpoint>(i));
+        const auto kind = m_service.fault(Endpoint(i));
         if (kind != AccountFault::Kind::None)
-            faults.insert(endpointNames().at(i), faultName(kind));
+            faults.insert(endpointNames().at(i), faultNames().at(int(kind)));
     }
     return {{u"url"_s, m_service.baseUrl()}, {u"faults"_s, faults}};
 }
@@ -268,8 +277,8 @@ void AccountFeature::noteRequest(const AccountRequest& request)
     event.insert(u"method"_s, QString::fromUtf8(request.method));
     event.insert(u"path"_s, QString::fromUtf8(request.path()));
     if (endpoint) {
-        event.insert(u"endpoint"_s, endpointName(*endpoint));
-        event.insert(u"fault"_s, faultName(m_service.fault(*endpoint)));
+        event.insert(u"endpoint"_s, endpointNames().at(int(*endpoint)));
+        event.insert(u"fault"_s, faultNames().at(int(m_service.fault(*endpoint))));
         m_requests.note(static_cast<int>(*endpoint), fields);
     }
     m_log.write(u"account-request"_s, event);

@@ -9,8 +9,8 @@ namespace simulator
 
 class EventLog;
 
-/// The commands of the account service: its address, its accounts, its faults, and what programs
-/// ask of it. Every request is an event; passwords and tokens stay out of it.
+/// The commands of the account service: address, accounts, faults and expected requests. Each
+/// request is an event, without passwords and tokens.
 class AccountFeature : public Feature
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void addCommands(CommandInterpreter& interpreter) override;
     QJsonObject status() const override;
 
-    /// Makes later expectations look only at requests from now on.
+    /// Drops the stored requests, so that later expectations look only at new ones.
     void forgetRequests() { m_requests.forget(); }
 
 private:
@@ -41,7 +41,7 @@ private:
     EventLog& m_log;
     AccountService m_service;
     MessageMemory m_requests{QStringLiteral("request")};
-    quint16 m_lastPort = 0; // so that it comes back where programs look for it
+    quint16 m_lastPort = 0; // used again after "account close", because programs know it
 };
 
 } // namespace simulator

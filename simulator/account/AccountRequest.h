@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-/// One HTTP request as it came over the wire.
+/// A received HTTP request.
 struct AccountRequest {
     QByteArray method;
     QByteArray target; ///< path and query, undecoded
@@ -18,13 +18,13 @@ struct AccountRequest {
     [[nodiscard]] QByteArray path() const;
     [[nodiscard]] QByteArray query() const;
 
-    /// First header of that name, in any case; empty when there is none.
+    /// The first header of that name, compared without case. Empty if there is none.
     [[nodiscard]] QByteArray header(QByteArrayView name) const;
 };
 
-/// An e-mail address or password in clear; the service is sent them as Base64url text.
+/// Decodes an e-mail address or a password, which requests carry as Base64url text.
 [[nodiscard]] QString decodeAccountCredential(const QString& text);
 
-/// Takes one complete request off the front of what was received. Nothing while it is incomplete;
-/// a request without Content-Length has no body.
+/// Takes one complete request from the front of @p received. Nothing while it is incomplete. A
+/// request without Content-Length has no body.
 [[nodiscard]] std::optional<AccountRequest> takeAccountRequest(QByteArray& received);

@@ -20,7 +20,7 @@ AccountStore::Answer sessionExpired()
     return refusal(401, u"Your session has expired. Please sign in again."_s);
 }
 
-// What a profile edit returns, and what the user objects add to.
+// The fields that a profile edit returns; user objects have more.
 QJsonObject editableFields(const Account& account)
 {
     return {{"firstName"_L1, account.firstName},
@@ -52,12 +52,6 @@ const Account* AccountStore::accountByEmail(const QString& email) const
 {
     const auto index = indexByEmail(email);
     return index < 0 ? nullptr : &m_accounts.at(index);
-}
-
-const Account* AccountStore::accountById(const QString& userId) const
-{
-    const auto found = std::ranges::find(m_accounts, userId, &Account::userId);
-    return found == m_accounts.cend() ? nullptr : &*found;
 }
 
 bool AccountStore::verify(const QString& email)

@@ -5,9 +5,9 @@
 #include <QList>
 #include <QString>
 
-/// One user of the simulated account service.
+/// A user of the simulated account service.
 struct Account {
-    QString userId; ///< given by the store when empty
+    QString userId; ///< set by the store if empty
     QString email;
     QString password;
     QString firstName;
@@ -18,15 +18,15 @@ struct Account {
     bool verified = true;
 };
 
-/// A letter the service would have sent.
+/// An e-mail that a real service would have sent.
 struct AccountMail {
     enum class Kind { Verification, PasswordReset };
     Kind kind;
     QString address;
 };
 
-/// The service's state and its rules: accounts, sessions, letters. Knows nothing of HTTP beyond the
-/// status that goes with an answer. E-mail addresses compare without case.
+/// State and rules of the service: accounts, sessions, e-mails. Independent of HTTP except for the
+/// status of an answer. E-mail addresses are compared without case.
 class AccountStore
 {
 public:
@@ -39,20 +39,19 @@ public:
     QString addAccount(Account account);
 
     [[nodiscard]] const QList<Account>& accounts() const { return m_accounts; }
-    /// Null when there is none; valid until the next account is added.
+    /// Null if there is none. Valid until the next account is added.
     [[nodiscard]] const Account* accountByEmail(const QString& email) const;
-    [[nodiscard]] const Account* accountById(const QString& userId) const;
 
     [[nodiscard]] const QList<AccountMail>& mails() const { return m_mails; }
 
-    /// Whether a new account has to be verified before it can sign in. Off at first: there is no
-    /// mailbox to click a link in.
+    /// Whether a new account has to be verified before it can sign in. Off by default, because
+    /// there is no mailbox.
     void setVerificationRequired(bool required) { m_verificationRequired = required; }
 
-    /// Follows the link of the verification letter. False when there is no such account.
+    /// Verifies an account, as the link in the e-mail does. False if there is no such account.
     bool verify(const QString& email);
 
-    /// Ends all sessions of a user, as an expiry would.
+    /// Ends all sessions of a user.
     void revokeTokens(const QString& userId);
 
     [[nodiscard]] Answer signIn(const QString& email, const QString& password);

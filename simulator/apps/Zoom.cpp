@@ -28,7 +28,7 @@ constexpr const char* Help =
 It ends when its window is closed or the folder of started.log is removed.
 )";
 
-/// A path as the value of a desktop entry's Exec line, in the two layers of escapes that it has.
+// The Exec line of a desktop entry, whose value has two layers of escapes.
 QByteArray execLine(QString program)
 {
     for (const QChar special : u"\\\"`$"_s)
@@ -71,7 +71,7 @@ void noteStart(const QString& folder)
 int showWindow(int argc, char* argv[])
 {
     const QApplication app(argc, argv);
-    simulator::leaveStandardStreams();
+    simulator::closeStandardStreams();
     QLabel window(u"This is where the meeting would be."_s);
     window.setWindowTitle(u"Zoom"_s);
     window.setAlignment(Qt::AlignCenter);
@@ -82,7 +82,7 @@ int showWindow(int argc, char* argv[])
     window.show();
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/zoom"_L1;
-    simulator::liveInFolder(folder, &window);
+    simulator::quitWithFolder(folder, &window);
     noteStart(folder);
     return QApplication::exec();
 }

@@ -17,13 +17,13 @@ using Device = DeviceTree::Device;
 constexpr auto Hub = "devices/pci0000:00/0000:00:14.0/usb1/1-4"_L1;
 constexpr auto Sound = "class/sound"_L1;
 constexpr auto Video = "class/video4linux"_L1;
-constexpr auto BuiltAside = ".plugging"_L1;
-constexpr auto TakenAway = ".unplugging"_L1;
+constexpr auto StagingFolder = ".plugging"_L1;
+constexpr auto RemovalFolder = ".unplugging"_L1;
 
-// What makes one device: the names of its folders, and the attributes a program knows it by.
+// Folder names and attributes of one device.
 struct Model {
     Device device;
-    QLatin1StringView port; // its place on the bus
+    QLatin1StringView port; // on the USB bus
     QLatin1StringView productId;
     QLatin1StringView name;
     QLatin1StringView classFolder;
@@ -71,7 +71,7 @@ bool writeAttribute(const QString& folder, QLatin1StringView name, QLatin1String
     return file.open(QIODevice::WriteOnly) && file.write(line) == line.size() && file.flush();
 }
 
-// The last folders towards the hardware are links named `device`, relative as the kernel's are.
+// The links named "device" are relative, like those of the kernel.
 bool buildNode(const Model& model, const QString& usbFolder)
 {
     const QString node = usbFolder + u'/' + model.nodeFolder();
@@ -80,7 +80,7 @@ bool buildNode(const Model& model, const QString& usbFolder)
         return false;
     if (model.stream.isEmpty())
         return writeAttribute(node, "name"_L1, model.name);
-    // The kernel would shorten the id to one word; whole, it can be recognised by name as well.
+    // The kernel shortens the id to one word. The full name lets a rule match by name too.
     const QString stream = node + u'/' + model.stream;
     return writeAttribute(node, "id"_L1, model.name) && QDir().mkpath(stream) &&
            QFile::link(u"../../"_s + model.node, stream + "/device"_L1) &&
@@ -96,7 +96,7 @@ bool buildDevice(const Model& model, const QString& usbFolder)
            writeAttribute(usbFolder, "serial"_L1, "K4V0001"_L1) && buildNode(model, usbFolder);
 }
 
-// With its parents up to the root, as far as nothing else is in them.
+// Removes the folder and its parents below the root, up to the first that is not empty.
 void removeEmptyFolders(const QString& root, QString folder)
 {
     while (!folder.isEmpty() && QDir(root).rmdir(folder))
@@ -109,14 +109,14 @@ QString DeviceTree::open(const QString& root)
 {
     close();
     if (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
-        return u"on Windows a program asks the system for its devices; a tree is of no use"_s;
+        return u"on Windows a program asks the system for its devices and reads no tree"_s;
     m_madeRoot = !QFileInfo::exists(root);
     if (!QDir().mkpath(root) || !QFileInfo(root).isWritable())
         return u"cannot write in the folder \"%1\""_s.arg(root);
     m_root = QFileInfo(root).canonicalFilePath();
     for (const Model& model : Models)
         unplug(model.device);
-    QDir(path(BuiltAside)).removeRecursively();
+    QDir(path(StagingFolder)).removeRecursively();
     return {};
 }
 
@@ -145,7 +145,7 @@ QString DeviceTree::plug(Device device)
     if (isPlugged(device))
         return {};
     const Model& model = modelOf(device);
-    const QString aside = path(BuiltAside);
+    const QString aside = path(StagingFolder);
     bool done = buildDevice(model, aside) && QDir().mkpath(path(Hub)) &&
                 QDir().mkpath(path(model.classFolder)) &&
                 QDir().rename(aside, path(model.usbFolder()));
@@ -167,11 +167,11 @@ void DeviceTree::unplug(Device device)
     const auto entries = model.classEntries();
     for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry) {
         const QString link = path(entry->link);
-        if (QFileInfo(link).symLinkTarget() == path(entry->target)) // else it is not ours
+        if (QFileInfo(link).symLinkTarget() == path(entry->target)) // leaves foreign links alone
             QFile::remove(link);
     }
-    // It goes at once; taking it apart takes longer.
-    QDir away(path(TakenAway));
+    // A rename removes the whole device at once; removing its files takes longer.
+    QDir away(path(RemovalFolder));
     away.removeRecursively();
     QDir().rename(path(model.usbFolder()), away.path());
     away.removeRecursively();

@@ -5,13 +5,12 @@
 namespace simulator
 {
 
-/// A tree of device attributes, laid out as Linux shows its own below /sys, in which the display's
-/// devices are plugged in and out. It stays out of the way of whatever else the folder holds.
-/// Main thread only.
+/// A tree of device attributes, laid out as /sys on Linux, in which the display's devices can be
+/// plugged and unplugged. Other content of the folder is left alone. Main thread only.
 ///
-/// A device is built aside and appears whole; the entries in the class folders, by which readers
-/// find it, come last and go first. A reader that is at a device while it is unplugged loses it
-/// midway, as with hardware.
+/// A device is built in another place and renamed into the tree, so that it appears complete. The
+/// entries in the class folders, by which readers find it, are added last and removed first. As
+/// with hardware, a device can vanish while it is being read.
 class DeviceTree
 {
 public:
@@ -21,19 +20,20 @@ public:
     ~DeviceTree() { close(); }
     Q_DISABLE_COPY_MOVE(DeviceTree)
 
-    /// Works in @p root from now on, which is made when missing, and clears away what a simulator
-    /// that crashed left there. Empty, or why it cannot be.
+    /// Keeps the tree in @p root, which is created if missing, and removes the devices that a
+    /// simulator left there when it crashed. Returns the reason of a failure, otherwise an empty
+    /// text.
     [[nodiscard]] QString open(const QString& root);
-    /// Unplugs everything and removes all that was made.
+    /// Unplugs all devices and removes the folders that were created.
     void close();
 
     [[nodiscard]] bool isOpen() const { return !m_root.isEmpty(); }
-    /// Absolute; empty when not open.
+    /// Absolute path. Empty when not open.
     [[nodiscard]] const QString& root() const { return m_root; }
 
     [[nodiscard]] bool isPlugged(Device device) const;
-    /// Empty, or why it cannot be; the device is then not there at all. Nothing happens to a device
-    /// that is plugged in already.
+    /// Returns the reason of a failure, after which the device is not plugged in, otherwise an
+    /// empty text. Does nothing if the device is plugged in already.
     [[nodiscard]] QString plug(Device device);
     void unplug(Device device);
 

@@ -13,32 +13,18 @@ namespace
 
 using Device = DeviceTree::Device;
 
-struct Choice {
-    QString word;
-    QList<Device> devices;
-};
-
-const QList<Choice>& choices()
+// The words of the commands. Those before "all" are in the order of DeviceTree::Device.
+const QStringList& deviceWords()
 {
-    static const QList<Choice> list{
-        {u"mic"_s, {Device::Microphone}},
-        {u"camera"_s, {Device::Camera}},
-        {u"speaker"_s, {Device::Speaker}},
-        {u"all"_s, {Device::Microphone, Device::Camera, Device::Speaker}}};
-    return list;
+    static const QStringList s_words{u"mic"_s, u"camera"_s, u"speaker"_s, u"all"_s};
+    return s_words;
 }
 
-int takeChoice(CommandArguments& arguments)
+QList<Device> devicesOf(int choice)
 {
-    QStringList words;
-    for (const Choice& choice : choices())
-        words.append(choice.word);
-    return arguments.choice(words);
-}
-
-CommandOutcome outcomeOf(const QString& error)
-{
-    return error.isEmpty() ? CommandOutcome::done() : CommandOutcome::failed(error);
+    if (choice == deviceWords().size() - 1)
+        return {Device::Microphone, Device::Camera, Device::Speaker};
+    return {Device(choice)};
 }
 
 } // namespace
@@ -58,22 +44,22 @@ void DevicesFeature::addCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
         {u"devices root"_s, u"<folder>"_s,
-         u"Keeps a tree of devices in that folder, laid out as /sys, for a program started with\n"
-         "VORN_SYSFS_ROOT set to it. The tree goes when the simulator ends. Linux only."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         u"Keeps a device tree, laid out as /sys, in the folder for a program started with\n"
+         "VORN_SYSFS_ROOT set to it. The tree is removed when the simulator ends. Linux only."_s,
+         [this](CommandArguments& arguments) {
              const QString folder = arguments.rest(u"the folder"_s);
-             return [this, folder] { return outcomeOf(setRoot(folder)); };
+             return simpleAction([this, folder] { return setRoot(folder); });
          }});
-    interpreter.add({u"plug"_s, u"mic|camera|speaker|all"_s,
+    interpreter.add({u"plug"_s, deviceWords().join(u'|'),
                      u"Plugs in devices of the display, as its cable does (none)."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
-                         const int choice = takeChoice(arguments);
-                         return [this, choice] { return outcomeOf(plug(choice)); };
+                     [this](CommandArguments& arguments) {
+                         const int choice = arguments.choice(deviceWords());
+                         return simpleAction([this, choice] { return plug(choice); });
                      }});
-    interpreter.add({u"unplug"_s, u"mic|camera|speaker|all"_s, u"Takes them away again."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
-                         const int choice = takeChoice(arguments);
-                         return [this, choice] { return outcomeOf(unplug(choice)); };
+    interpreter.add({u"unplug"_s, deviceWords().join(u'|'), u"Unplugs them."_s,
+                     [this](CommandArguments& arguments) {
+                         const int choice = arguments.choice(deviceWords());
+                         return simpleAction([this, choice] { return unplug(choice); });
                      }});
 }
 
@@ -82,9 +68,9 @@ QJsonObject DevicesFeature::status() const
     if (!m_tree.isOpen())
         return {};
     QJsonArray plugged;
-    for (const Choice& choice : choices()) {
-        if (choice.devices.size() == 1 && m_tree.isPlugged(choice.devices.first()))
-            plugged.append(choice.word);
+    for (const Device device : devicesOf(int(deviceWords().size()) - 1)) {
+        if (m_tree.isPlugged(device))
+            plugged.append(deviceWords().at(int(device)));
     }
     return {{u"root"_s, m_tree.root()}, {u"plugged"_s, plugged}};
 }
@@ -93,17 +79,17 @@ QString DevicesFeature::setRoot(const QString& folder)
 {
     QString error = m_tree.open(folder);
     if (error.isEmpty())
-        tellState();
+        reportState();
     return error;
 }
 
 QString DevicesFeature::plug(int choice)
 {
-    for (const Device device : choices().at(choice).devices) {
+    for (const Device device : devicesOf(choice)) {
         if (QString error = m_tree.plug(device); !error.isEmpty())
             return error;
     }
-    tellState();
+    reportState();
     return {};
 }
 
@@ -111,13 +97,13 @@ QString DevicesFeature::unplug(int choice)
 {
     if (!m_tree.isOpen())
         return u"there is no device tree; name its folder with \"devices root\""_s;
-    for (const Device device : choices().at(choice).devices)
+    for (const Device device : devicesOf(choice))
         m_tree.unplug(device);
-    tellState();
+    reportState();
     return {};
 }
 
-void DevicesFeature::tellState()
+void DevicesFeature::reportState()
 {
     m_log.write(u"devices"_s, status());
     emit changed();

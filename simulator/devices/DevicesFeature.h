@@ -8,8 +8,8 @@ namespace simulator
 
 class EventLog;
 
-/// The commands that plug the display's microphone, camera and speaker into this PC and out again,
-/// for a program that reads its devices from a DeviceTree.
+/// The commands that plug the display's microphone, camera and speaker into this PC and unplug
+/// them, for a program that reads its devices from a DeviceTree.
 class DevicesFeature : public Feature
 {
     Q_OBJECT
@@ -22,13 +22,13 @@ public:
     void addCommands(CommandInterpreter& interpreter) override;
     QJsonObject status() const override;
 
-    /// The folder of the tree. Empty, or why it cannot be.
+    /// Keeps the tree in @p folder. Returns the reason of a failure, otherwise an empty text.
     [[nodiscard]] QString setRoot(const QString& folder);
 
 private:
     QString plug(int choice);
     QString unplug(int choice);
-    void tellState();
+    void reportState();
 
     EventLog& m_log;
     DeviceTree m_tree;

@@ -13,16 +13,15 @@ namespace
 
 enum Key { ZoomIn, ZoomOut, Up, Down, Left, Right };
 
-// A second.
-constexpr double DegreesTurned = 20;
-constexpr double TimesZoomed = 1.5;
+constexpr double DegreesPerSecond = 20;
+constexpr double ZoomPerSecond = 1.5; // factor
 
 bool isIndex(int number, std::size_t count)
 {
     return number >= 0 && std::size_t(number) < count;
 }
 
-// What a person reads, not the noise of the arithmetic.
+// Two decimals, for people who read the events.
 double rounded(double value)
 {
     return std::round(value * 100) / 100;
@@ -57,11 +56,11 @@ double CameraHead::direction(int positiveKey, int negativeKey) const
 void CameraHead::advance(double seconds)
 {
     m_view.pan =
-        std::clamp(m_view.pan + direction(Right, Left) * DegreesTurned * seconds, -90., 90.);
+        std::clamp(m_view.pan + direction(Right, Left) * DegreesPerSecond * seconds, -90., 90.);
     m_view.tilt =
-        std::clamp(m_view.tilt + direction(Up, Down) * DegreesTurned * seconds, -30., 30.);
+        std::clamp(m_view.tilt + direction(Up, Down) * DegreesPerSecond * seconds, -30., 30.);
     m_view.zoom = std::clamp(
-        m_view.zoom * std::pow(TimesZoomed, direction(ZoomIn, ZoomOut) * seconds), 1., 4.);
+        m_view.zoom * std::pow(ZoomPerSecond, direction(ZoomIn, ZoomOut) * seconds), 1., 4.);
 }
 
 void CameraHead::save(int number)

@@ -7,7 +7,7 @@
 namespace simulator
 {
 
-/// Where the camera looks.
+/// Direction and zoom of the camera.
 struct CameraView {
     double pan = 0;  ///< degrees, -90 (left) to 90
     double tilt = 0; ///< degrees, -30 (down) to 30
@@ -16,19 +16,18 @@ struct CameraView {
     bool operator==(const CameraView&) const = default;
 };
 
-/// The part of the camera that moves: turns and zooms while a button is held down, and keeps three
-/// positions.
+/// The moving part of the camera. It turns and zooms while a key is held down, and stores three
+/// preset positions.
 class CameraHead
 {
 public:
-    /// One of the display's movement keys, 0 to 5: zoom in, zoom out, up, down, left, right. Others
-    /// are ignored.
+    /// @p key is 0 to 5: zoom in, zoom out, up, down, left, right. Other keys are ignored.
     void press(int key) { hold(key, true); }
     void release(int key) { hold(key, false); }
     bool isMoving() const;
     void advance(double seconds);
 
-    /// @param number  0 to 2; others are ignored
+    /// @p number is 0 to 2; other numbers are ignored.
     void save(int number);
     void recall(int number);
 

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr qsizetype MaxRecorded = 100;
-constexpr int MovementInterval = 33; // milliseconds, as the picture's
+constexpr int MovementInterval = 33; // milliseconds, the interval of the frames
 
 QJsonObject flag(const QString& key, bool value)
 {
@@ -32,42 +32,48 @@ DisplayCamera::DisplayCamera(DisplayModel& display, EventLog& log, QObject* pare
 
 void DisplayCamera::addHandlers()
 {
-    // The states of both framings are answered under the ids that report them.
+    // The answers to both framing queries carry the ids of the reports.
     const auto answerAuto = [this](const QJsonObject& query) {
-        m_display.answer(query, Cmd_AutoFraming, flag(u"autoframestatus"_s, m_autoFraming));
+        m_display.answer(query, ChannelCommand::AutoFraming,
+                         flag(u"autoframestatus"_s, m_autoFraming));
     };
     const auto answerSmart = [this](const QJsonObject& query) {
-        m_display.answer(query, Cmd_SmartFraming, flag(u"smartframestatus"_s, m_smartFraming));
+        m_display.answer(query, ChannelCommand::SmartFraming,
+                         flag(u"smartframestatus"_s, m_smartFraming));
     };
-    m_display.on(Cmd_QueryAutoFraming, MessageType::Query, answerAuto);
-    m_display.on(Cmd_AutoFraming, MessageType::Query, answerAuto);
-    m_display.on(Cmd_QuerySmartFraming, MessageType::Query, answerSmart);
-    m_display.on(Cmd_SmartFraming, MessageType::Query, answerSmart);
-    m_display.on(Cmd_Camera, MessageType::Query, [this](const QJsonObject& query) {
-        m_display.answer(query, Cmd_Camera, flag(u"camerastatus"_s, m_on));
+    m_display.on(ChannelCommand::QueryAutoFraming, MessageType::Query, answerAuto);
+    m_display.on(ChannelCommand::AutoFraming, MessageType::Query, answerAuto);
+    m_display.on(ChannelCommand::QuerySmartFraming, MessageType::Query, answerSmart);
+    m_display.on(ChannelCommand::SmartFraming, MessageType::Query, answerSmart);
+    m_display.on(ChannelCommand::Camera, MessageType::Query, [this](const QJsonObject& query) {
+        m_display.answer(query, ChannelCommand::Camera, flag(u"camerastatus"_s, m_on));
     });
-    m_display.on(Cmd_AutoFraming, MessageType::Report, [this](const QJsonObject& message) {
-        m_autoFraming = message.value("autoframestatus"_L1).toInt() != 0;
-        stateChanged();
-    });
-    m_display.on(Cmd_SmartFraming, MessageType::Report, [this](const QJsonObject& message) {
-        m_smartFraming = message.value("smartframestatus"_L1).toInt() != 0;
-        stateChanged();
-    });
-    m_display.on(Cmd_CameraScale, MessageType::Report, [this](const QJsonObject& message) {
-        record(message);
-        steer(message);
-    });
-    m_display.on(Cmd_CameraPreset, MessageType::Report, [this](const QJsonObject& message) {
-        record(message);
-        usePreset(message);
-    });
+    m_display.on(ChannelCommand::AutoFraming, MessageType::Report,
+                 [this](const QJsonObject& message) {
+                     m_autoFraming = message.value("autoframestatus"_L1).toInt() != 0;
+                     stateChanged();
+                 });
+    m_display.on(ChannelCommand::SmartFraming, MessageType::Report,
+                 [this](const QJsonObject& message) {
+                     m_smartFraming = message.value("smartframestatus"_L1).toInt() != 0;
+                     stateChanged();
+                 });
+    m_display.on(ChannelCommand::CameraScale, MessageType::Report,
+                 [this](const QJsonObject& message) {
+                     record(message);
+                     steer(message);
+                 });
+    m_display.on(ChannelCommand::CameraPreset, MessageType::Report,
+                 [this](const QJsonObject& message) {
+                     record(message);
+                     usePreset(message);
+                 });
 }
 
 void DisplayCamera::steer(const QJsonObject& message)
 {
     constexpr int Down = 0;
-    move(); // up to now as before
+    move(); // completes the movement up to now, before the keys change
     const int key = message.value("scaletype"_L1).toInt(-1);
     if (message.value("scalestatus"_L1).toInt() == Down)
         m_head.press(key);
@@ -125,27 +131,27 @@ void DisplayCamera::setOn(bool on)
     m_on = on;
     stateChanged();
     emit viewChanged();
-    m_display.report(Cmd_Camera, flag(u"camerastatus"_s, m_on));
+    m_display.report(ChannelCommand::Camera, flag(u"camerastatus"_s, m_on));
 }
 
 void DisplayCamera::setAutoFraming(bool on)
 {
     m_autoFraming = on;
     stateChanged();
-    m_display.report(Cmd_AutoFraming, flag(u"autoframestatus"_s, m_autoFraming));
+    m_display.report(ChannelCommand::AutoFraming, flag(u"autoframestatus"_s, m_autoFraming));
 }
 
 void DisplayCamera::setSmartFraming(bool on)
 {
     m_smartFraming = on;
     stateChanged();
-    m_display.report(Cmd_SmartFraming, flag(u"smartframestatus"_s, m_smartFraming));
+    m_display.report(ChannelCommand::SmartFraming, flag(u"smartframestatus"_s, m_smartFraming));
 }
 
 void DisplayCamera::stateChanged()
 {
     QJsonObject state = status();
-    state.remove("commands"_L1); // they have events of their own
+    state.remove("commands"_L1); // each has an event of its own
     m_log.write(u"camera"_s, state);
     emit changed();
 }
@@ -167,19 +173,10 @@ QString DisplayCamera::name() const
 
 void DisplayCamera::addCommands(CommandInterpreter& interpreter)
 {
-    addSwitch(interpreter, u"camera"_s, u"Switches the camera (on)."_s, &DisplayCamera::setOn);
-    addSwitch(interpreter, u"autoframing"_s, u"Switches auto framing (off)."_s,
-              &DisplayCamera::setAutoFraming);
-    addSwitch(interpreter, u"smartframing"_s, u"Switches smart framing (off)."_s,
-              &DisplayCamera::setSmartFraming);
-}
-
-void DisplayCamera::addSwitch(CommandInterpreter& interpreter, const QString& name,
-                              const QString& help, void (DisplayCamera::*set)(bool))
-{
-    interpreter.add(
-        {name, u"on|off"_s, help, [this, set](CommandArguments& arguments) -> CommandAction {
-             const bool on = arguments.onOff();
-             return simpleAction([this, set, on] { (this->*set)(on); });
-         }});
+    interpreter.addSwitch(u"camera"_s, u"Switches the camera (on)."_s,
+                          [this](bool on) { setOn(on); });
+    interpreter.addSwitch(u"autoframing"_s, u"Switches auto framing (off)."_s,
+                          [this](bool on) { setAutoFraming(on); });
+    interpreter.addSwitch(u"smartframing"_s, u"Switches smart framing (off)."_s,
+                          [this](bool on) { setSmartFraming(on); });
 }

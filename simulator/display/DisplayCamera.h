@@ -15,8 +15,8 @@ namespace simulator
 class DisplayModel;
 class EventLog;
 
-/// The display's camera: whether it is on, where it looks, its framing, and the commands it was
-/// given. It moves while a button is held down.
+/// The display's camera: its switch, its view, its framing, and the commands that it received. It
+/// moves while a movement key is held down.
 class DisplayCamera : public Feature
 {
     Q_OBJECT
@@ -32,17 +32,15 @@ public:
     void setOn(bool on);
     void setAutoFraming(bool on);
     void setSmartFraming(bool on);
-    /// Where it looks; nothing while it is off.
+    /// The current view; nothing while the camera is off.
     std::optional<CameraView> view() const;
 
 signals:
-    /// view() has another value.
+    /// The value of view() has changed.
     void viewChanged();
 
 private:
     void addHandlers();
-    void addSwitch(CommandInterpreter& interpreter, const QString& name, const QString& help,
-                   void (DisplayCamera::*set)(bool));
     void record(const QJsonObject& message);
     void steer(const QJsonObject& message);
     void usePreset(const QJsonObject& message);
@@ -57,7 +55,7 @@ private:
     bool m_on = true;
     bool m_autoFraming = false;
     bool m_smartFraming = false;
-    QJsonArray m_commands; // the newest of what moved the camera or its presets
+    QJsonArray m_commands; // the newest commands for movements and presets
 };
 
 } // namespace simulator

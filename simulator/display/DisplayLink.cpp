@@ -19,13 +19,13 @@ namespace
 
 constexpr int ProbeTimeoutMs = 1000;
 constexpr auto FlushTimeout = std::chrono::milliseconds(500);
-// A client that does not read is dropped rather than let grow without end.
+// Bounds the memory that a client which does not read can take; beyond it the client is dropped.
 constexpr qint64 MaxUnwritten = qint64{64} * 1024 * 1024;
-// While reading is off, so little is taken from the system that the client notices.
+// Small while reading is off, so that the client's own buffer fills up.
 constexpr qint64 ReadBufferSize = qint64{256} * 1024;
 constexpr qint64 HeldReadBufferSize = 1;
 
-// One lock a socket name; the name is no path on every system.
+// One lock for each socket name. The name is hashed because on Windows it is not a path.
 QString lockFileName(const QString& socketName)
 {
     const QString name = u"vorn-%1.lock"_s.arg(qHash(socketName, 0), 0, 16);
@@ -58,7 +58,7 @@ DisplayLink::~DisplayLink()
 
 QString DisplayLink::listen()
 {
-    // Two simulators that start at once must not remove each other's socket.
+    // Two simulators that start together must not remove each other's socket.
     QLockFile lock(lockFileName(m_socketName));
     lock.tryLock(ProbeTimeoutMs);
 
@@ -113,7 +113,7 @@ void DisplayLink::remove(const ClientPtr& client)
 {
     if (std::erase(m_clients, client) == 0)
         return;
-    // We may be in one of the socket's own signals.
+    // This may run in a signal of the socket, which then must not be deleted.
     client->socket->disconnect(this);
     client->socket.release()->deleteLater();
     emit clientDisconnected(client->number);
@@ -145,7 +145,7 @@ void DisplayLink::send(int id, const QByteArray& text)
 
 void DisplayLink::sendRaw(const QByteArray& bytes)
 {
-    const auto clients = m_clients; // a failing write removes its client
+    const auto clients = m_clients; // a copy, because a failing write removes its client
     for (const ClientPtr& client : clients) {
         if (!client->socket)
             continue;

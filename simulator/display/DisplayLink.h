@@ -15,36 +15,36 @@ class QLocalSocket;
 namespace simulator
 {
 
-/// The display's end of the channel: listens on the socket that the channel library connects to.
-/// Several programs may be connected; each gets every message. Main thread only.
+/// The display's end of the channel. Listens on the socket to which the channel library connects.
+/// Each message goes to every connected program. Main thread only.
 class DisplayLink : public QObject
 {
     Q_OBJECT
 
 public:
     explicit DisplayLink(QString socketName, QObject* parent = nullptr);
-    /// Writes what is still waiting, for up to half a second a client.
+    /// Writes the bytes that are still waiting, for up to half a second per client.
     ~DisplayLink() override;
 
-    /// Starts to listen, for this user only. A socket file left over by a dead simulator is
-    /// replaced, one that answers is not. Returns the reason if it fails, otherwise nothing.
+    /// Starts to listen, for this user only. Replaces the socket file of a simulator that crashed,
+    /// but not one that answers. Returns the reason of a failure, otherwise an empty text.
     QString listen();
-    /// Stops to listen and drops the clients.
+    /// Stops listening and drops the clients.
     void close();
     bool isListening() const { return m_server.isListening(); }
     const QString& socketName() const { return m_socketName; }
 
     /// Sends one message to every client.
     void send(int id, const QByteArray& text);
-    /// Sends bytes as they are.
+    /// Sends bytes unchanged.
     void sendRaw(const QByteArray& bytes);
     void dropClients();
-    /// While off, nothing is taken from the clients and their buffers fill up.
+    /// While off, nothing is read from the clients and their buffers fill up.
     void setReading(bool reading);
     int clientCount() const { return int(m_clients.size()); }
 
 signals:
-    /// Clients are numbered from 1 in the order of their coming.
+    /// Clients are numbered from 1 in the order in which they connect.
     void clientConnected(int number);
     void clientDisconnected(int number);
     void messageReceived(int id, const QByteArray& text);

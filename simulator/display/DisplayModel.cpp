@@ -18,7 +18,7 @@ struct SourceState {
     QLatin1StringView name;
     int byod; // 0 unavailable, 1 available, 2 selected
     int zoom;
-    int shown; // whether the display shows its source choice
+    int shown; // 1 while the display shows its choice of sources
 };
 
 constexpr std::array<SourceState, 4> SourceStates = {{
@@ -40,19 +40,23 @@ DisplayModel::DisplayModel(EventLog& log, QObject* parent)
 
 void DisplayModel::addHandlers()
 {
-    on(Cmd_Volume, MessageType::Report, [this](const auto& message) { takeVolume(message); });
-    on(Cmd_Volume, MessageType::Query, [this](const auto& query) {
-        answer(query, Cmd_Volume, {{u"volume"_s, m_volume}});
+    on(ChannelCommand::Volume, MessageType::Report,
+       [this](const auto& message) { takeVolume(message); });
+    on(ChannelCommand::Volume, MessageType::Query, [this](const auto& query) {
+        answer(query, ChannelCommand::Volume, {{u"volume"_s, m_volume}});
     });
-    on(Cmd_Source, MessageType::Query,
-       [this](const auto& query) { answer(query, Cmd_Source, sourcePayload()); });
-    on(Cmd_Version, MessageType::Query, [this](const auto& query) {
-        answer(query, Cmd_Version, {{u"ota_ver"_s, m_version}});
+    on(ChannelCommand::Source, MessageType::Query,
+       [this](const auto& query) { answer(query, ChannelCommand::Source, sourcePayload()); });
+    on(ChannelCommand::Version, MessageType::Query, [this](const auto& query) {
+        answer(query, ChannelCommand::Version, {{u"ota_ver"_s, m_version}});
     });
-    on(Cmd_SelectByod, MessageType::Report, [this](const auto&) { setSource(Source::Byod); });
-    on(Cmd_SelectZoom, MessageType::Report, [this](const auto&) { setSource(Source::Zoom); });
-    on(Cmd_StartByod, MessageType::Query, [this](const auto&) { setSource(Source::Byod); });
-    on(Cmd_StartSetup, MessageType::Report, [this](const auto&) { startSetup(); });
+    on(ChannelCommand::SelectByod, MessageType::Report,
+       [this](const auto&) { setSource(Source::Byod); });
+    on(ChannelCommand::SelectZoom, MessageType::Report,
+       [this](const auto&) { setSource(Source::Zoom); });
+    on(ChannelCommand::StartByod, MessageType::Query,
+       [this](const auto&) { setSource(Source::Byod); });
+    on(ChannelCommand::StartSetup, MessageType::Report, [this](const auto&) { startSetup(); });
 }
 
 void DisplayModel::on(ChannelCommand command, MessageType type, const Handler& handler)
@@ -82,8 +86,8 @@ void DisplayModel::greet()
 {
     if (m_mode == 0)
         return;
-    report(Cmd_IsReady, {{u"isReady"_s, m_mode}});
-    report(Cmd_Volume, {{u"volume"_s, m_volume}});
+    report(ChannelCommand::IsReady, {{u"isReady"_s, m_mode}});
+    report(ChannelCommand::Volume, {{u"volume"_s, m_volume}});
     reportSource();
 }
 
@@ -105,7 +109,7 @@ void DisplayModel::sendMessage(ChannelCommand command, MessageType type, int seq
     message.insert("cmd"_L1, int(command));
     message.insert("seq"_L1, seq);
     message.insert("type"_L1, int(type));
-    emit send(command, QJsonDocument(message).toJson(QJsonDocument::Compact));
+    emit send(int(command), QJsonDocument(message).toJson(QJsonDocument::Compact));
 }
 
 void DisplayModel::connectDisplay(int mode)
@@ -118,8 +122,8 @@ void DisplayModel::connectDisplay(int mode)
 
 void DisplayModel::disconnectDisplay()
 {
-    // Sent whatever the state: a program may still believe in a display of an earlier simulator.
-    sendMessage(Cmd_IsReady, MessageType::Report, ++m_seq, {{u"isReady"_s, 0}});
+    // Sent in every state: the program may know a connected display from an earlier simulator.
+    sendMessage(ChannelCommand::IsReady, MessageType::Report, ++m_seq, {{u"isReady"_s, 0}});
     m_mode = 0;
     m_setupRunning = false;
     stateChanged();
@@ -129,7 +133,7 @@ void DisplayModel::setVolume(int volume)
 {
     m_volume = volume;
     stateChanged();
-    report(Cmd_Volume, {{u"volume"_s, m_volume}});
+    report(ChannelCommand::Volume, {{u"volume"_s, m_volume}});
 }
 
 void DisplayModel::takeVolume(const QJsonObject& message)
@@ -149,7 +153,7 @@ void DisplayModel::setVersion(const QString& version)
 {
     m_version = version;
     stateChanged();
-    report(Cmd_Version, {{u"ota_ver"_s, m_version}});
+    report(ChannelCommand::Version, {{u"ota_ver"_s, m_version}});
 }
 
 void DisplayModel::setAcknowledging(bool on)
@@ -160,16 +164,15 @@ void DisplayModel::setAcknowledging(bool on)
 
 void DisplayModel::startSetup()
 {
-    constexpr int FirstRun = 2;
     m_setupRunning = true;
     if (std::exchange(m_mode, FirstRun) != FirstRun)
-        report(Cmd_IsReady, {{u"isReady"_s, m_mode}});
+        report(ChannelCommand::IsReady, {{u"isReady"_s, m_mode}});
     stateChanged();
 }
 
 void DisplayModel::reportSource()
 {
-    report(Cmd_Source, sourcePayload());
+    report(ChannelCommand::Source, sourcePayload());
 }
 
 QJsonObject DisplayModel::sourcePayload() const

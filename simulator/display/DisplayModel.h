@@ -15,8 +15,9 @@ namespace simulator
 
 class EventLog;
 
-/// The display: its state, and what it does with each message from the program. Other parts of the
-/// display (the camera) bring their own messages. It knows no socket; what it sends is a signal.
+/// The display: its state and its reaction to each message from the program. Other parts of the
+/// display (the camera) register the handlers of their own messages. It has no connection itself:
+/// it emits what it sends.
 class DisplayModel : public Feature
 {
     Q_OBJECT
@@ -24,8 +25,9 @@ class DisplayModel : public Feature
 public:
     using Handler = std::function<void(const QJsonObject& message)>;
 
-    /// Mode of a display that is set up.
+    /// Connection modes (message 0).
     static constexpr int NormalUse = 1;
+    static constexpr int FirstRun = 2;
 
     enum class Source { None, Available, Byod, Zoom };
 
@@ -35,19 +37,19 @@ public:
     void addCommands(CommandInterpreter& interpreter) override;
     QJsonObject status() const override;
 
-    /// Names what happens with one kind of message from the program.
+    /// Registers the handler of one kind of message from the program.
     void on(ChannelCommand command, MessageType type, const Handler& handler);
-    /// Takes a message from the program. Without a connected display nothing happens.
+    /// Handles a message from the program. Does nothing while the display is not connected.
     void receive(int id, const QByteArray& text);
-    /// A program has come: a connected display reports itself.
+    /// Reports the state to a program that has just connected, if the display is connected.
     void greet();
 
-    /// Sends a report of the display (type 2), if it is connected.
+    /// Sends a report (type 2) if the display is connected.
     void report(ChannelCommand command, const QJsonObject& payload);
-    /// Answers @p query (type 1), under its sequence number.
+    /// Answers @p query (type 1) with the sequence number of the query.
     void answer(const QJsonObject& query, ChannelCommand command, const QJsonObject& payload);
 
-    /// @p mode 1: normal use, 2: waits for its first-run set-up, others: unsupported by programs.
+    /// @p mode NormalUse, FirstRun, or a number that programs do not support.
     void connectDisplay(int mode);
     void disconnectDisplay();
     void setVolume(int volume);

@@ -18,41 +18,33 @@ void Expectations::addCommands(CommandInterpreter& interpreter)
         interpreter, u"expect"_s,
         u"Waits for a message from the program and fails after that time (5). Conditions:\n"
         "key=value, key!=value (present with another value), key (present). Values are JSON;\n"
-        "what is not JSON is a text. Messages that have come already count, each for one\n"
-        "expectation only."_s,
+        "other text is a string. A message that came before counts too. Each message fulfils\n"
+        "one expectation only."_s,
         m_received);
     addExpect(interpreter, u"expect-sent"_s,
               u"The same for a message that the simulator has sent to a program."_s, m_sent);
-    addExpectNone(interpreter);
-    interpreter.add({u"forget"_s,
-                     {},
-                     u"Makes later expectations look only at messages and requests from now on."_s,
-                     [this](CommandArguments&) {
-                         return simpleAction([this] {
-                             m_received.forget();
-                             m_sent.forget();
-                             emit forgotten();
-                         });
+    interpreter.add({u"expect-none"_s, u"<id> [<condition> ...] [within <seconds>]"_s,
+                     u"Fails when such a message has come or comes within that time (5)."_s,
+                     [this](CommandArguments& arguments) {
+                         const MessagePattern pattern = MessagePattern::parse(arguments);
+                         return m_received.expectNone(pattern, arguments);
                      }});
+    interpreter.add(u"forget"_s,
+                    u"Makes later expectations look only at messages and requests from now on."_s,
+                    [this] {
+                        m_received.forget();
+                        m_sent.forget();
+                        emit forgotten();
+                    });
 }
 
 void Expectations::addExpect(CommandInterpreter& interpreter, const QString& name,
                              const QString& help, MessageMemory& memory)
 {
     interpreter.add({name, u"<id> [<condition> ...] [within <seconds>]"_s, help,
-                     [&memory](CommandArguments& arguments) -> CommandAction {
+                     [&memory](CommandArguments& arguments) {
                          const MessagePattern pattern = MessagePattern::parse(arguments);
                          return memory.expect(pattern, arguments);
-                     }});
-}
-
-void Expectations::addExpectNone(CommandInterpreter& interpreter)
-{
-    interpreter.add({u"expect-none"_s, u"<id> [<condition> ...] [within <seconds>]"_s,
-                     u"Fails when such a message has come or comes within that time (5)."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
-                         const MessagePattern pattern = MessagePattern::parse(arguments);
-                         return m_received.expectNone(pattern, arguments);
                      }});
 }
 

@@ -8,7 +8,7 @@
 namespace simulator
 {
 
-/// Remembers the messages of both directions and holds scripts to what they expect of them.
+/// Stores the messages of both directions and provides the commands that expect them.
 class Expectations : public Feature
 {
     Q_OBJECT
@@ -23,13 +23,12 @@ public:
     void noteSent(int id, const QByteArray& text);
 
 signals:
-    /// Later expectations, also those of other features, are to look only at what is yet to come.
+    /// The command "forget" ran: all features drop the messages that they have stored.
     void forgotten();
 
 private:
     void addExpect(CommandInterpreter& interpreter, const QString& name, const QString& help,
                    MessageMemory& memory);
-    void addExpectNone(CommandInterpreter& interpreter);
 
     MessageMemory m_received{QStringLiteral("message")};
     MessageMemory m_sent{QStringLiteral("message")};

@@ -16,13 +16,7 @@ namespace
 
 constexpr auto DefaultClientLimit = std::chrono::seconds(30);
 
-int hexDigit(char digit)
-{
-    return int(QByteArrayView("0123456789abcdef")
-                   .indexOf(digit >= 'A' && digit <= 'F' ? char(digit + ('a' - 'A')) : digit));
-}
-
-// \n, \r, \t, \\ and \xHH.
+// Understands \n, \r, \t, \\ and \xHH. Nothing if there is any other escape.
 std::optional<QByteArray> unescaped(const QByteArray& text)
 {
     QByteArray bytes;
@@ -31,30 +25,20 @@ std::optional<QByteArray> unescaped(const QByteArray& text)
             bytes.append(text.at(i));
             continue;
         }
-        const char kind = ++i < text.size() ? text.at(i) : '\0';
-        const qsizetype simple = QByteArrayView("nrt\\").indexOf(kind);
-        if (kind != '\0' && simple >= 0) {
+        const QByteArray kind = text.mid(++i, 1);
+        const qsizetype simple = kind.isEmpty() ? -1 : QByteArrayView("nrt\\").indexOf(kind);
+        bool isHexadecimal = false;
+        const int number = text.mid(i + 1, 2).toInt(&isHexadecimal, 16);
+        if (simple >= 0) {
             bytes.append("\n\r\t\\"[simple]);
-        } else if (kind == 'x' && i + 2 < text.size() && hexDigit(text.at(i + 1)) >= 0 &&
-                   hexDigit(text.at(i + 2)) >= 0) {
-            bytes.append(char(hexDigit(text.at(i + 1)) * 16 + hexDigit(text.at(i + 2))));
+        } else if (kind == "x" && isHexadecimal && i + 2 < text.size()) {
+            bytes.append(char(number));
             i += 2;
         } else {
             return std::nullopt;
         }
     }
     return bytes;
-}
-
-// In lines of a readable length.
-QString kindsText()
-{
-    constexpr qsizetype PerLine = 6;
-    const QStringList kinds = malformedLineKinds();
-    QStringList lines;
-    for (qsizetype i = 0; i < kinds.size(); i += PerLine)
-        lines.append(kinds.mid(i, PerLine).join(u", "_s));
-    return lines.join(u",\n"_s) + u'.';
 }
 
 } // namespace
@@ -94,9 +78,8 @@ void LinkCommands::addSendCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
         {u"send"_s, u"<id> <text>"_s,
-         u"Sends a message as it stands, also one that is no JSON or that this display would\n"
-         "not send, and also while no display is connected."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         u"Sends a message unchanged, in any state of the display. The text need not be JSON."_s,
+         [this](CommandArguments& arguments) {
              const int id = arguments.integer(u"the id"_s, std::numeric_limits<int>::min(),
                                               std::numeric_limits<int>::max());
              const QByteArray text = arguments.rest(u"the text"_s).toUtf8();
@@ -105,7 +88,7 @@ void LinkCommands::addSendCommands(CommandInterpreter& interpreter)
     interpreter.add({u"raw"_s, u"<bytes>"_s,
                      u"Sends a line of bytes; \\n, \\r, \\t, \\\\ and \\xHH are understood, and a\n"
                      "newline is added."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
+                     [this](CommandArguments& arguments) {
                          const auto bytes = unescaped(arguments.rest(u"the bytes"_s).toUtf8());
                          if (!bytes)
                              arguments.fail(
@@ -114,8 +97,9 @@ void LinkCommands::addSendCommands(CommandInterpreter& interpreter)
                              [this, line = bytes.value_or(QByteArray()) + '\n'] { sendRaw(line); });
                      }});
     interpreter.add({u"malformed"_s, u"<kind> [<count>]"_s,
-                     u"Sends lines that are wrong, that often (1). Kinds:\n"_s + kindsText(),
-                     [this](CommandArguments& arguments) -> CommandAction {
+                     u"Sends malformed lines, one or as many as the count says. Kinds:\n"_s +
+                         wordList(malformedLineKinds()) + u'.',
+                     [this](CommandArguments& arguments) {
                          const int kind = arguments.choice(malformedLineKinds());
                          const int count = arguments.atEnd()
                                                ? 1
@@ -129,30 +113,26 @@ void LinkCommands::addSendCommands(CommandInterpreter& interpreter)
 
 void LinkCommands::addFaultCommands(CommandInterpreter& interpreter)
 {
-    interpreter.add(
-        {u"drop-client"_s,
-         {},
-         u"Breaks the connection to every program; programs come back in a second."_s,
-         [this](CommandArguments&) { return simpleAction([this] { m_link.dropClients(); }); }});
-    interpreter.add(
-        {u"reading"_s, u"on|off"_s,
-         u"While off, nothing that programs send is read and their buffers fill (on)."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
-             const bool on = arguments.onOff();
-             return simpleAction([this, on] { m_link.setReading(on); });
-         }});
-    interpreter.add(
-        {u"link"_s, u"up|down"_s,
-         u"Down: breaks the connections and listens no more, until up (up)."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
-             const bool up = arguments.choice({u"down"_s, u"up"_s}) == 1;
-             return [this, up]() -> CommandOutcome {
-                 if (!up)
-                     m_link.close();
-                 const QString error = up && !m_link.isListening() ? m_link.listen() : QString();
-                 return error.isEmpty() ? CommandOutcome::done() : CommandOutcome::failed(error);
-             };
-         }});
+    interpreter.add(u"drop-client"_s,
+                    u"Breaks the connection to every program; programs come back in a second."_s,
+                    [this] { m_link.dropClients(); });
+    interpreter.addSwitch(
+        u"reading"_s,
+        u"While off, nothing that programs send is read and their buffers fill (on)."_s,
+        [this](bool on) { m_link.setReading(on); });
+    interpreter.add({u"link"_s, u"up|down"_s,
+                     u"Down: breaks the connections and stops listening, until up (up)."_s,
+                     [this](CommandArguments& arguments) {
+                         const bool up = arguments.choice({u"down"_s, u"up"_s}) == 1;
+                         return simpleAction([this, up] { return setLinkUp(up); });
+                     }});
+}
+
+QString LinkCommands::setLinkUp(bool up)
+{
+    if (!up)
+        m_link.close();
+    return up && !m_link.isListening() ? m_link.listen() : QString();
 }
 
 void LinkCommands::sendRaw(const QByteArray& bytes)

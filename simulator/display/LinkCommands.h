@@ -8,7 +8,7 @@ namespace simulator
 class DisplayLink;
 class EventLog;
 
-/// The commands of the connection itself, below the display: raw messages and faults.
+/// The commands of the connection below the display: raw messages and faults.
 class LinkCommands : public Feature
 {
     Q_OBJECT
@@ -24,6 +24,7 @@ public:
 private:
     void addSendCommands(CommandInterpreter& interpreter);
     void addFaultCommands(CommandInterpreter& interpreter);
+    QString setLinkUp(bool up);
     void sendRaw(const QByteArray& bytes);
 
     DisplayLink& m_link;

@@ -15,8 +15,8 @@ struct Kind {
     QByteArray (*make)();
 };
 
-// The first group has a valid id: the text reaches the program. The second does not get past the
-// channel library.
+// The lines of the first group have a valid id, so their text reaches the program. The channel
+// library drops those of the second group.
 const std::array Kinds = {
     Kind{"empty"_L1, [] { return QByteArray("1 \n"); }},
     Kind{"truncated"_L1, [] { return QByteArray("1 {\"cmd\":1,\"type\":2,\"vol\n"); }},

@@ -7,9 +7,9 @@
 namespace simulator
 {
 
-/// Lines that no well-behaved display sends, to see that a program survives them.
+/// Kinds of lines that no well-behaved display sends. A program has to survive them.
 QStringList malformedLineKinds();
-/// One line of kind number @p kind of that list; its newline is part of it where it has one.
+/// A line of the kind with index @p kind in that list, including its newline if it has one.
 QByteArray malformedLine(int kind);
 
 } // namespace simulator

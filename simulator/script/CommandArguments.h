@@ -8,13 +8,14 @@
 namespace simulator
 {
 
-/// A word without the double quotes around it, or as it stands when there are none.
+/// Removes the double quotes around a word, and the escapes inside them. A word without quotes is
+/// returned unchanged.
 QString unquoted(const QString& word);
 
-/// The words after a command's name, taken one by one. What a command cannot use is noted as the
-/// error; the first one stays, and everything taken after it is a harmless default.
+/// The words after a command's name, taken one by one. A word that a command cannot use is recorded
+/// as the error and a harmless default is returned instead. Only the first error is kept.
 ///
-/// Words end at blanks outside double quotes; the quotes remain part of the word.
+/// Words end at blanks outside double quotes. The quotes remain part of the word.
 class CommandArguments
 {
 public:
@@ -24,7 +25,7 @@ public:
     }
 
     bool atEnd() const { return m_rest.isEmpty(); }
-    /// The next word without taking it, empty at the end.
+    /// The next word, which is not taken. Empty at the end.
     QString peek() const;
 
     /// @p what names the argument in the error message.
@@ -32,10 +33,10 @@ public:
     int integer(const QString& what, int minimum, int maximum);
     /// Seconds with decimals, 0 to 3600.
     std::chrono::milliseconds seconds(const QString& what);
-    /// Index of the next word among @p words; 0 when it is none of them.
+    /// Index of the next word in @p words, 0 with an error when it is not among them.
     int choice(const QStringList& words);
     bool onOff() { return choice({QStringLiteral("off"), QStringLiteral("on")}) == 1; }
-    /// Everything that is left, as it stands.
+    /// All remaining text, unchanged.
     QString rest(const QString& what);
 
     void fail(const QString& reason);

@@ -22,12 +22,13 @@ QString indented(const QString& text, int columns)
 
 } // namespace
 
-CommandAction simulator::simpleAction(std::function<void()> function)
+QString simulator::wordList(const QStringList& words)
 {
-    return [function = std::move(function)] {
-        function();
-        return CommandOutcome::done();
-    };
+    constexpr qsizetype WordsPerLine = 6;
+    QStringList lines;
+    for (qsizetype i = 0; i < words.size(); i += WordsPerLine)
+        lines.append(words.mid(i, WordsPerLine).join(u", "_s));
+    return lines.join(u",\n"_s);
 }
 
 void CommandInterpreter::beginSection(const QString& title)
@@ -39,6 +40,14 @@ void CommandInterpreter::add(Command command)
 {
     Q_ASSERT_X(!find(command.name), "CommandInterpreter::add", "two commands of one name");
     m_sections.last().commands.append(std::move(command));
+}
+
+void CommandInterpreter::addSwitch(const QString& name, const QString& help,
+                                   std::function<void(bool)> set)
+{
+    add({name, u"on|off"_s, help, [set = std::move(set)](CommandArguments& arguments) {
+             return simpleAction([set, on = arguments.onOff()] { set(on); });
+         }});
 }
 
 CommandInterpreter::Line CommandInterpreter::parse(const QString& text) const

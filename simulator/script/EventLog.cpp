@@ -8,7 +8,7 @@ using namespace simulator;
 
 void EventLog::write(const QString& event, const QJsonObject& fields)
 {
-    // By hand, so that the event comes first: Qt sorts the keys.
+    // Qt sorts the keys of an object; the event is to be the first.
     const QByteArray rest = QJsonDocument(fields).toJson(QJsonDocument::Compact).sliced(1);
     m_out << "{\"event\":\"" << event.toStdString() << (fields.isEmpty() ? "\"" : "\",")
           << rest.toStdString() << std::endl;

@@ -8,7 +8,7 @@
 namespace simulator
 {
 
-/// What the simulator has to tell, one JSON object a line, each flushed at once. Main thread only.
+/// Writes events as one JSON object per line and flushes each line. Main thread only.
 class EventLog
 {
 public:
@@ -18,7 +18,7 @@ public:
     {
     }
 
-    /// Writes {"event":"<event>", ...} with @p fields. The event is a plain word.
+    /// Writes {"event":"<event>", ...} with @p fields. The event is one word that needs no escape.
     void write(const QString& event, const QJsonObject& fields = {});
 
 private:

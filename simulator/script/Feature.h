@@ -9,8 +9,8 @@ namespace simulator
 
 class CommandInterpreter;
 
-/// One area of what the simulator plays, with its own state and commands. A new area is a new
-/// feature that Simulator owns; nothing else has to know of it. Main thread only.
+/// One area of the simulation, with its own state and commands. Simulator owns the features, which
+/// do not depend on each other. Main thread only.
 class Feature : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class Feature : public QObject
 public:
     using QObject::QObject;
 
-    /// One word: heads its commands in the help and its part of the status.
+    /// One word: the title of its commands in the help and the key of its part of the status.
     virtual QString name() const = 0;
     virtual void addCommands(CommandInterpreter& interpreter) = 0;
-    /// Its part of the answer to the command `status`, or nothing.
+    /// Its part of the answer to the command "status". Empty if there is none.
     virtual QJsonObject status() const { return {}; }
 
 signals:
-    /// Something a waiting command may be waiting for.
+    /// A state changed on which a waiting command may depend.
     void changed();
 };
 

@@ -15,7 +15,7 @@ QString FlowCommands::name() const
 
 void FlowCommands::addCommands(CommandInterpreter& interpreter)
 {
-    interpreter.add({u"wait"_s, u"<seconds>"_s, u"Does nothing for that long."_s,
+    interpreter.add({u"wait"_s, u"<seconds>"_s, u"Waits for this time."_s,
                      [](CommandArguments& arguments) -> CommandAction {
                          const auto limit = arguments.seconds(u"the time"_s);
                          return [limit] { return CommandOutcome::pause(limit); };

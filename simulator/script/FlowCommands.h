@@ -7,7 +7,7 @@ namespace simulator
 
 class EventLog;
 
-/// The commands that only steer the script: wait, echo, quit.
+/// The commands that control the script itself: wait, echo, quit.
 class FlowCommands : public Feature
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     QString name() const override;
     void addCommands(CommandInterpreter& interpreter) override;
 
-    /// From now on `quit` without a code ends with 1.
+    /// From now on the command "quit" without a code means exit code 1.
     void noteFailure() { m_failed = true; }
 
 signals:

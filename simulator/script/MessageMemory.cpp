@@ -15,7 +15,7 @@ std::chrono::milliseconds parseLimit(CommandArguments& arguments)
 {
     if (arguments.atEnd())
         return DefaultLimit;
-    arguments.word({}); // "within": a pattern ends nowhere else
+    arguments.word({}); // "within", because nothing else ends a pattern
     return arguments.seconds(u"the time"_s);
 }
 

@@ -11,13 +11,13 @@
 namespace simulator
 {
 
-/// What came or went, for commands that expect something of it. Each message satisfies one
-/// expectation at most; messages that came before it count, until they are forgotten. Old ones are
-/// dropped when there are too many.
+/// Stores messages for the commands that expect them. A message fulfils at most one expectation,
+/// and may have arrived before the expectation started. Beyond 10,000 messages the oldest are
+/// dropped.
 class MessageMemory
 {
 public:
-    /// @p noun names one message in what a failed expectation says.
+    /// @p noun names one message in the text of a failed expectation.
     explicit MessageMemory(const QString& noun)
         : m_noun(noun)
     {
@@ -26,9 +26,9 @@ public:
     void note(int id, const QJsonObject& message);
     void forget() { m_messages.clear(); }
 
-    /// Both take "[within <seconds>]" from @p arguments, which ends a pattern; 5 s without it. The
-    /// memory must outlive the action. Whoever notes a message has to have waiting commands look
-    /// again.
+    /// Both take an optional "within <seconds>" from @p arguments; the default is 5 s. The memory
+    /// must outlive the action. The caller of note() has to report a change of its feature, so that
+    /// waiting commands are evaluated again.
     [[nodiscard]] CommandAction expect(const MessagePattern& pattern, CommandArguments& arguments);
     [[nodiscard]] CommandAction expectNone(const MessagePattern& pattern,
                                            CommandArguments& arguments);

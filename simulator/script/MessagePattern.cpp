@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// A number, true, false, null, "text" or a whole array or object; anything else is text itself.
+// Any JSON value. Text that is not JSON is taken as a string.
 QJsonValue parseValue(const QString& text)
 {
     const QJsonDocument document = QJsonDocument::fromJson("[" + text.toUtf8() + "]");

@@ -10,13 +10,13 @@ namespace simulator
 
 class CommandArguments;
 
-/// Which messages an expectation means: an id and conditions on the keys of the JSON object.
+/// The condition that an expectation sets: a message id, and conditions on keys of the object.
 class MessagePattern
 {
 public:
-    /// Takes "<id> [key=value|key!=value|key ...]" up to the end or the word "within".
+    /// Takes "<id> [key=value|key!=value|key ...]" up to the word "within" or the end.
     static MessagePattern parse(CommandArguments& arguments);
-    /// The same for messages of a known id, without it.
+    /// Takes the conditions only; the id is known.
     static MessagePattern parseConditions(int id, CommandArguments& arguments);
 
     bool matches(int id, const QJsonObject& message) const;

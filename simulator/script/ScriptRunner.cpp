@@ -20,7 +20,7 @@ ScriptRunner::ScriptRunner(const QString& source, OnFailure onFailure,
     m_limitTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_advanceTimer, &QTimer::timeout, this, &ScriptRunner::advance);
     connect(&m_limitTimer, &QTimer::timeout, this, [this] {
-        lookAtWait(true);
+        checkWait(true);
         advance();
     });
 }
@@ -63,7 +63,7 @@ QString ScriptRunner::take(int line, const QString& text, std::deque<Entry>& ent
 void ScriptRunner::advance()
 {
     if (m_wait)
-        lookAtWait(false);
+        checkWait(false);
     while (!m_wait && !m_stopped && !m_entries.empty()) {
         Entry entry = std::move(m_entries.front());
         m_entries.pop_front();
@@ -92,12 +92,12 @@ void ScriptRunner::begin(Entry entry)
     case CommandOutcome::Kind::Wait:
         m_limitTimer.start(outcome.limit);
         m_wait = std::move(outcome);
-        lookAtWait(false);
+        checkWait(false);
         break;
     }
 }
 
-void ScriptRunner::lookAtWait(bool timeUp)
+void ScriptRunner::checkWait(bool timeUp)
 {
     if (!m_wait)
         return;

@@ -15,34 +15,34 @@ namespace simulator
 
 class EventLog;
 
-/// Runs the commands of one source, a scenario file or standard input, one after another.
-/// Everything runs from the event loop, never inside a call to this object.
+/// Runs the commands of one source, a scenario file or standard input, one after another. Commands
+/// run from the event loop and never inside a call to this object. Main thread only.
 class ScriptRunner : public QObject
 {
     Q_OBJECT
 
 public:
     enum class OnFailure {
-        Stop,    ///< the rest does not run
-        Continue ///< the next command is as good as any
+        Stop,    ///< the remaining commands do not run
+        Continue ///< the next command runs
     };
 
     /// @p source names the script in events and messages.
     ScriptRunner(const QString& source, OnFailure onFailure, const CommandInterpreter& interpreter,
                  EventLog& log, QObject* parent = nullptr);
 
-    /// Takes a whole script. The messages returned name each line that is wrong, and why; when
-    /// there are any, nothing of it runs.
+    /// Takes a whole script. Returns one message for each line with an error. If there are any,
+    /// no line runs.
     QStringList load(const QString& text);
-    /// Takes one more line. Returns the message if it is wrong; it is then passed over.
+    /// Takes one more line. Returns a message, and ignores the line, if it has an error.
     QString append(const QString& text);
-    /// To be called when something may have happened that a command waits for.
+    /// Evaluates the condition of a waiting command again, from the event loop.
     void recheck() { m_advanceTimer.start(); }
 
 signals:
-    /// A command failed; after it either the script has stopped or it goes on.
+    /// A command failed. OnFailure says whether the script continues.
     void failed(const QString& message);
-    /// All commands taken so far have run, and none of them stopped the script.
+    /// All commands taken so far have run and none of them ended the script.
     void idle();
 
 private:
@@ -55,7 +55,7 @@ private:
     QString take(int line, const QString& text, std::deque<Entry>& entries) const;
     void advance();
     void begin(Entry entry);
-    void lookAtWait(bool timeUp);
+    void checkWait(bool timeUp);
     void fail(const QString& reason);
 
     const QString m_source;
@@ -68,7 +68,7 @@ private:
     bool m_idle = true;
     std::optional<Entry> m_current;
     std::optional<CommandOutcome> m_wait;
-    QTimer m_advanceTimer; // of no duration: gathers the reasons to look again
+    QTimer m_advanceTimer; // of zero duration, so that several changes cause one evaluation
     QTimer m_limitTimer;
 };
 

@@ -8,8 +8,8 @@
 namespace simulator
 {
 
-/// Standard input line by line, without holding up the event loop. The end of the input is no
-/// event: a simulator started in the background has none.
+/// Reads standard input line by line without blocking the event loop. The end of the input is not
+/// reported, because a simulator that runs in the background has no input.
 class StdinReader : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     ~StdinReader() override;
 
 signals:
-    /// Without its newline.
+    /// @p line is without its newline.
     void lineRead(const QByteArray& line);
 
 private:

@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 namespace simulator
 {
 
-void liveInFolder(const QString& folder, QObject* owner)
+void quitWithFolder(const QString& folder, QObject* owner)
 {
     QDir().mkpath(folder);
     auto* const timer = new QTimer(owner);
@@ -25,7 +25,7 @@ void liveInFolder(const QString& folder, QObject* owner)
     timer->start(200ms);
 }
 
-void leaveStandardStreams()
+void closeStandardStreams()
 {
     const QByteArray nowhere = QProcess::nullDevice().toLocal8Bit();
     for (std::FILE* stream : {stdout, stderr}) {

@@ -7,13 +7,13 @@ class QObject;
 namespace simulator
 {
 
-/// Ends the program once the folder that it works in is gone: a detached program of a test or a
-/// tour does not outlive its home. Needs the application object; call on the main thread.
-/// @param owner  the watch lives as long as this
-void liveInFolder(const QString& folder, QObject* owner);
+/// Ends the program when @p folder is removed, so that a detached program does not outlive the test
+/// or the tour that started it. Needs the application object. Main thread only.
+/// @param owner  lifetime of the watch
+void quitWithFolder(const QString& folder, QObject* owner);
 
-/// Lets go of the standard streams, so that whoever reads those of the program that started this
-/// one does not wait for its end too.
-void leaveStandardStreams();
+/// Closes the standard streams. A program that reads the streams of the starter would otherwise
+/// wait for the end of this program too.
+void closeStandardStreams();
 
 } // namespace simulator

@@ -20,7 +20,7 @@ namespace
 
 void keepUpdaterRunning()
 {
-    if (readOrders().behaviour != UpdaterOrders::Behaviour::Unkillable) {
+    if (readSettings().behaviour != UpdaterSettings::Behaviour::Unkillable) {
         QCoreApplication::exit(0);
         return;
     }
@@ -38,13 +38,13 @@ Installer::Installer()
     : m_lock(updaterFolder() + "/guard.lock"_L1)
 {
     m_lock.setStaleLockTime(0ms);
-    liveInFolder(updaterFolder(), this);
+    quitWithFolder(updaterFolder(), this);
 }
 
 void Installer::installLate()
 {
     logUpdater(u"installing"_s);
-    QTimer::singleShot(readOrders().duration, this,
+    QTimer::singleShot(readSettings().duration, this,
                        [] { QCoreApplication::exit(install() ? 0 : 1); });
 }
 

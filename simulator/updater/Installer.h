@@ -6,9 +6,9 @@
 namespace simulator
 {
 
-/// Plays what an updater may leave behind when it is ended: an installer that finishes all the
-/// same, or a guard that starts the updater again. Main thread; ends the program with its exit
-/// code.
+/// Plays a program that keeps running when the updater is ended: an installer that completes the
+/// upgrade, or a guard that restarts the updater. Ends the program with its exit code. Main thread
+/// only.
 class Installer : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     Installer();
 
     void installLate();
-    /// Keeps an updater running until the orders say otherwise. False: another guard is there.
+    /// Restarts the updater as long as the settings say so. False if another guard is running.
     [[nodiscard]] bool guard();
 
 private:

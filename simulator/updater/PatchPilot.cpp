@@ -19,29 +19,30 @@ constexpr const char* Help =
   PatchPilot --help           this help
 
 In the background it records the installed version in the registry value "version" where there is
-none, and in "newver" the version that it is told to offer, and stays. An upgrade makes the version in
-"newver" the installed one and ends; the next start of the application shows it.
+none, and the version of the setting "offer" in "newver", and keeps running. An upgrade records the
+version in "newver" as the installed one and ends; the next start of the application shows it.
 
-It takes its orders from patchpilot.ini, which lies where registry.ini does on Linux, in
-${XDG_CONFIG_HOME:-~/.config}/VORNApp, and may be written at any time. Every key may be left out:
+It reads its settings from patchpilot.ini in ${XDG_CONFIG_HOME:-~/.config}/VORNApp, the folder of
+registry.ini on Linux. The file may be written at any time, and every key is optional:
 
   offer=2.0.0.0      the newer version that is found; nothing is offered without it
   installed=1.0.0.0  what "version" becomes where it is missing; the version of this build
   seconds=3          how long an upgrade takes, 0 to 3600
   behaviour=well     how an upgrade goes:
     well             it completes
-    never            it never completes, and stays
-    dies             it ends with exit code 1 when it should have completed
-    late             it completes though it is ended meanwhile, by another program
-    unkillable       it never completes, and each updater that is ended is started again, in the
-                     background too, until the behaviour is another
+    never            it never completes and keeps running
+    dies             it ends with exit code 1 instead of completing
+    late             another program completes it, even if the updater is killed meanwhile
+    unkillable       it never completes, and a killed updater is restarted in the background until
+                     the behaviour changes
 
-What it does stands in patchpilot.log beside it, a line each: "background", "recorded 1.0.0.0", "found
-2.0.0.0", "update <program>", "installed 2.0.0.0", "died", "installing" (by the other program),
-"started again", "update <program>: another updater is running", "not understood: <key>=<value>" (an
-order). Only one runs at a time in one such folder, and it ends when the folder is removed.
+It writes its actions to patchpilot.log in the same folder, one per line: "background", "recorded
+1.0.0.0", "found 2.0.0.0", "update <program>", "installed 2.0.0.0", "died", "installing" (by the other
+program), "started again", "update <program>: another updater is running", "not understood:
+<key>=<value>" (a setting). Only one updater runs at a time in a folder, and it ends when the folder
+is removed.
 
-Exit codes: 0; 1 for an upgrade that failed and for another updater that is running; 2 for a mistake in
+Exit codes: 0; 1 for an upgrade that failed and for another updater that is running; 2 for an error in
 the command line.
 )";
 
@@ -63,7 +64,7 @@ int main(int argc, char* argv[])
         return 2;
     }
 
-    simulator::leaveStandardStreams();
+    simulator::closeStandardStreams();
     simulator::Updater updater;
     const bool isRunning =
         isUpgrade ? updater.upgrade(arguments.constLast()) : updater.runInBackground();

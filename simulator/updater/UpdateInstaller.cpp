@@ -12,12 +12,12 @@ int main(int argc, char* argv[])
     const QCoreApplication app(argc, argv);
     const QString job = QCoreApplication::arguments().value(1);
     if (job != "install"_L1 && job != "guard"_L1) {
-        std::cerr
-            << "Started by PatchPilot, whose --help tells more: UpdateInstaller install|guard\n";
+        std::cerr << "Started by PatchPilot; see PatchPilot --help. Usage: UpdateInstaller "
+                     "install|guard\n";
         return 2;
     }
 
-    simulator::leaveStandardStreams();
+    simulator::closeStandardStreams();
     simulator::Installer installer;
     if (job == "install"_L1)
         installer.installLate();

@@ -17,7 +17,7 @@ namespace simulator
 namespace
 {
 
-// A program of another name, which is not ended when the updater is.
+// The installer has another name, so killing the updater by name does not end it.
 void startInstaller(const QString& job)
 {
     if (!QProcess::startDetached(platform::programBesideApplication(u"UpdateInstaller.exe"_s),
@@ -30,23 +30,23 @@ void startInstaller(const QString& job)
 Updater::Updater()
     : m_lock(updaterFolder() + "/patchpilot.lock"_L1)
 {
-    m_lock.setStaleLockTime(0ms); // only the end of its holder frees it
-    liveInFolder(updaterFolder(), this);
+    m_lock.setStaleLockTime(0ms); // the lock does not expire
+    quitWithFolder(updaterFolder(), this);
 }
 
 bool Updater::runInBackground()
 {
     if (!begin(u"background"_s))
         return false;
-    if (readOrders().behaviour == UpdaterOrders::Behaviour::Unkillable)
+    if (readSettings().behaviour == UpdaterSettings::Behaviour::Unkillable)
         startInstaller(u"guard"_s);
-    const QString installed = readOrders().installed;
+    const QString installed = readSettings().installed;
     if (recordedVersion(u"version"_s).isEmpty() && recordVersion(u"version"_s, installed))
         logUpdater(u"recorded "_s + installed);
     auto* const timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, &Updater::lookAround);
+    connect(timer, &QTimer::timeout, this, &Updater::checkOffer);
     timer->start(100ms);
-    lookAround();
+    checkOffer();
     return true;
 }
 
@@ -59,12 +59,12 @@ bool Updater::upgrade(const QString& application)
         QTimer::singleShot(0, this, [] { QCoreApplication::exit(1); });
         return true;
     }
-    const UpdaterOrders orders = readOrders();
-    using enum UpdaterOrders::Behaviour;
-    switch (orders.behaviour) {
+    const UpdaterSettings settings = readSettings();
+    using enum UpdaterSettings::Behaviour;
+    switch (settings.behaviour) {
     case Well:
     case Dies:
-        QTimer::singleShot(orders.duration, this, &Updater::endUpgrade);
+        QTimer::singleShot(settings.duration, this, &Updater::endUpgrade);
         break;
     case Late:
         startInstaller(u"install"_s);
@@ -88,11 +88,11 @@ bool Updater::begin(const QString& what)
     return true;
 }
 
-// Writes only what the orders newly ask for: a folder that is just being removed must not come
-// back.
-void Updater::lookAround()
+// Writes only a new offer: a repeated write would create the folder again while it is being
+// removed.
+void Updater::checkOffer()
 {
-    const QString offer = readOrders().offer;
+    const QString offer = readSettings().offer;
     if (offer.isEmpty() || offer == m_offered)
         return;
     m_offered = offer;
@@ -102,7 +102,7 @@ void Updater::lookAround()
 
 void Updater::endUpgrade()
 {
-    if (readOrders().behaviour == UpdaterOrders::Behaviour::Dies) {
+    if (readSettings().behaviour == UpdaterSettings::Behaviour::Dies) {
         logUpdater(u"died"_s);
         QCoreApplication::exit(1);
         return;

@@ -8,8 +8,9 @@
 namespace simulator
 {
 
-/// Plays the updater: in the background it records the versions, in an upgrade it installs the one
-/// it found, as the orders of the moment say. Main thread; ends the program with its exit code.
+/// Plays the updater. In the background it records the versions; in an upgrade it installs the
+/// version that it found, as the current settings say. Ends the program with its exit code. Main
+/// thread only.
 class Updater : public QObject
 {
     Q_OBJECT
@@ -17,18 +18,18 @@ class Updater : public QObject
 public:
     Updater();
 
-    /// Both return at once. False: another updater is running.
+    /// Both return at once. False if another updater is running.
     [[nodiscard]] bool runInBackground();
     /// @param application  file path of the program to upgrade
     [[nodiscard]] bool upgrade(const QString& application);
 
 private:
     [[nodiscard]] bool begin(const QString& what);
-    void lookAround();
+    void checkOffer();
     void endUpgrade();
 
     QLockFile m_lock;
-    QString m_offered; // by the orders, as far as they were followed
+    QString m_offered; // the offer that was recorded last
 };
 
 } // namespace simulator

@@ -20,10 +20,10 @@ namespace
 
 const QString RegistryKey = u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s;
 
-const std::map<QString, UpdaterOrders::Behaviour>& behaviours()
+const std::map<QString, UpdaterSettings::Behaviour>& behaviours()
 {
-    using enum UpdaterOrders::Behaviour;
-    static const std::map<QString, UpdaterOrders::Behaviour> s_behaviours{
+    using enum UpdaterSettings::Behaviour;
+    static const std::map<QString, UpdaterSettings::Behaviour> s_behaviours{
         {u"well"_s, Well},
         {u"never"_s, Never},
         {u"dies"_s, Dies},
@@ -41,7 +41,7 @@ std::optional<std::chrono::milliseconds> durationOf(const QString& seconds)
     return std::chrono::milliseconds(qRound(value * 1000));
 }
 
-bool isUnderstood(const QString& key, const QString& value)
+bool isValid(const QString& key, const QString& value)
 {
     if (key == "behaviour"_L1)
         return behaviours().contains(value);
@@ -50,21 +50,21 @@ bool isUnderstood(const QString& key, const QString& value)
     return key == "installed"_L1 || key == "offer"_L1;
 }
 
-/// The orders are read again and again: a mistake is told when it is new.
-void complainOnce(const QSettings& orders)
+// The settings are read several times a second, so an invalid value is logged only when it is new.
+void logInvalidValues(const QSettings& settings)
 {
-    static QStringList s_told;
-    QStringList mistakes;
-    for (const QString& key : orders.allKeys()) {
-        const QString value = orders.value(key).toString();
-        if (!isUnderstood(key, value))
-            mistakes.append(u"not understood: %1=%2"_s.arg(key, value));
+    static QStringList s_logged;
+    QStringList invalid;
+    for (const QString& key : settings.allKeys()) {
+        const QString value = settings.value(key).toString();
+        if (!isValid(key, value))
+            invalid.append(u"not understood: %1=%2"_s.arg(key, value));
     }
-    for (const QString& mistake : std::as_const(mistakes)) {
-        if (!s_told.contains(mistake))
-            simulator::logUpdater(mistake);
+    for (const QString& line : std::as_const(invalid)) {
+        if (!s_logged.contains(line))
+            simulator::logUpdater(line);
     }
-    s_told = mistakes;
+    s_logged = invalid;
 }
 
 } // namespace
@@ -74,19 +74,19 @@ QString updaterFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/VORNApp"_L1;
 }
 
-UpdaterOrders readOrders()
+UpdaterSettings readSettings()
 {
     const QSettings file(updaterFolder() + "/patchpilot.ini"_L1, QSettings::IniFormat);
-    complainOnce(file);
-    UpdaterOrders orders;
+    logInvalidValues(file);
+    UpdaterSettings settings;
     const auto behaviour = behaviours().find(file.value("behaviour"_L1).toString());
     if (behaviour != behaviours().end())
-        orders.behaviour = behaviour->second;
-    orders.installed =
+        settings.behaviour = behaviour->second;
+    settings.installed =
         file.value("installed"_L1, QString::fromLatin1(VORN_INSTALLED_VERSION)).toString();
-    orders.offer = file.value("offer"_L1).toString();
-    orders.duration = durationOf(file.value("seconds"_L1).toString()).value_or(orders.duration);
-    return orders;
+    settings.offer = file.value("offer"_L1).toString();
+    settings.duration = durationOf(file.value("seconds"_L1).toString()).value_or(settings.duration);
+    return settings;
 }
 
 void logUpdater(const QString& text)

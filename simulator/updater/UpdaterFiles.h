@@ -7,32 +7,32 @@
 namespace simulator
 {
 
-/// How the updater is to behave.
-struct UpdaterOrders {
+/// Settings of the simulated updater.
+struct UpdaterSettings {
     enum class Behaviour { Well, Never, Dies, Late, Unkillable };
 
     Behaviour behaviour = Behaviour::Well;
-    QString installed; ///< recorded as the installed version where there is none yet
-    QString offer;     ///< the newer version that is found; empty: none
+    QString installed; ///< recorded as the installed version if there is none
+    QString offer;     ///< the newer version; empty if there is none
     std::chrono::milliseconds duration = std::chrono::seconds(3); ///< of an upgrade
 };
 
-/// The folder that the orders, the log and, on Linux, the registry lie in.
+/// Folder of the settings, the log and, on Linux, the registry.
 [[nodiscard]] QString updaterFolder();
 
-/// Read afresh at each call. A file that is missing or holds nonsense gives the defaults, and
-/// each piece of nonsense a line in the log.
-[[nodiscard]] UpdaterOrders readOrders();
+/// Reads the settings file at each call. A missing or invalid value gives the default. Each invalid
+/// value is logged once.
+[[nodiscard]] UpdaterSettings readSettings();
 
 /// Appends one line to the log.
 void logUpdater(const QString& text);
 
 /// The registry values "version" (installed) and "newver" (found).
 [[nodiscard]] QString recordedVersion(const QString& name);
-/// False, with a line in the log, when the registry cannot be written.
+/// Logs the failure and returns false if the registry cannot be written.
 bool recordVersion(const QString& name, const QString& version);
 
-/// Makes the version that was found the installed one; false when none was.
+/// Records the version that was found as the installed one. False if there is none.
 bool install();
 
 } // namespace simulator

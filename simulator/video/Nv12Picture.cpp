@@ -13,7 +13,7 @@ struct Rgb {
     static Rgb of(QRgb colour) { return {qRed(colour), qGreen(colour), qBlue(colour)}; }
 };
 
-// BT.601 with 219 steps of luma and 224 of chroma, in units of 1/65536.
+// BT.601 limited range: 219 steps of luma and 224 of chroma. Factors are in units of 1/65536.
 constexpr int Half = 1 << 15;
 
 uchar luma(const Rgb& c)

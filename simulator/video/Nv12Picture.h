@@ -7,9 +7,9 @@
 namespace simulator
 {
 
-/// Puts a part of @p image, which is of Format_RGB32 and of even width and height, into the NV12
-/// picture @p nv12 of the same size, in BT.601 of limited range. The part is widened to whole pairs
-/// of pixels. A picture of another length is made anew, and then the part must be everything.
+/// Converts a part of @p image (Format_RGB32, even width and height) into the NV12 picture @p nv12
+/// of the same size, in BT.601 limited range. The part is widened to whole pairs of pixels. If @p
+/// nv12 has another length it is resized, and then @p part must be the whole image.
 void convertToNv12(const QImage& image, const QRect& part, QByteArray& nv12);
 
 } // namespace simulator

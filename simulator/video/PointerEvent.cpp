@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// Magic; 0, 2, 0; length of the rest, little-endian; type; number of points; number of the point;
-// x and y, big-endian.
+// Layout: magic; 0, 2, 0; length of the remaining bytes, little-endian; type; number of points;
+// index of the point; x and y, big-endian.
 constexpr qsizetype Size = 20;
 constexpr qsizetype LengthAt = 7;
 constexpr qsizetype TypeAt = 9;

@@ -12,8 +12,8 @@
 namespace simulator
 {
 
-/// The display's first-run set-up as a person walks through it: steps, buttons, choices. Places are
-/// fractions of the screen's width and height.
+/// The display's first-run set-up: steps, buttons and choices. Positions and areas are fractions of
+/// the screen's width and height.
 class SetupFlow
 {
 public:
@@ -30,7 +30,7 @@ public:
         bool isPressed = false;
     };
 
-    /// Where the pointer was pressed last, or has been moved to since.
+    /// The last position of the pointer.
     struct Mark {
         QPointF position;
         bool isDown = false;
@@ -45,13 +45,13 @@ public:
     QList<Button> buttons() const;
     const std::optional<Mark>& mark() const { return m_mark; }
 
-    /// Changes whenever the screen does.
+    /// Increases with each change of the screen.
     int revision() const { return m_revision; }
 
-    /// A button works when it is released where it was pressed. Returns the name of the one that
-    /// did, if any.
+    /// Handles a pointer event. A button is activated when the pointer is pressed and released on
+    /// it. Returns the name of the activated button, otherwise an empty text.
     QString take(const PointerEvent& event);
-    /// Begins again, with nothing chosen.
+    /// Returns to the first step and the default choices.
     void restart();
 
 private:
@@ -63,7 +63,7 @@ private:
     Step m_step = Step::Welcome;
     QList<int> m_choices = QList<int>(6, 0); // by step
     std::optional<Mark> m_mark;
-    QString m_armed; // button on which the pointer was pressed
+    QString m_armed; // name of the button on which the pointer was pressed
     int m_revision = 0;
 };
 

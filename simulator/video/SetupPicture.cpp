@@ -23,7 +23,7 @@ constexpr QRectF TrackArea(0.08, 0.955, 0.84, 0.016);
 constexpr QRectF CameraArea(0.62, 0.52, 0.3, 0.24);
 constexpr QRectF FirstPatchArea(0.62, 0.36, 0.04, 0.071);
 constexpr double PatchDistance = 0.05;
-constexpr int TrackFrames = 120; // of one way across
+constexpr int TrackFrames = 120; // from one end to the other
 
 constexpr QRgb Accent = 0xFF4DAF4E;
 constexpr QRgb Ink = 0xFFF2F5F7;
@@ -63,7 +63,7 @@ QRect SetupPicture::movingPlace(const QRectF& fractions) const
     return place(fractions).toAlignedRect();
 }
 
-// A letter's height, also for pictures that are narrower than usual.
+// Height of letters in pixels. In a narrow picture it depends on the width.
 int SetupPicture::letters(double fractionOfHeight) const
 {
     const double height = std::min<double>(m_size.height(), m_size.width() * 9.0 / 16);
@@ -111,7 +111,7 @@ void SetupPicture::drawHeader(QPainter& painter, const SetupFlow& flow) const
     painter.setPen(QColor(Accent));
     painter.drawText(place({0.08, 0.045, 0.2, 0.075}), Qt::AlignVCenter, u"VORN"_s);
 
-    // One dot a step, and the one reached is wide.
+    // One dot for each step. The dot of the current step is wide.
     painter.setPen(Qt::NoPen);
     const double dot = letters(0.016);
     double x = place({0.08, 0, 0, 0}).x();
@@ -196,7 +196,7 @@ void SetupPicture::drawCamera(const SetupFlow& flow, const std::optional<CameraV
     drawMark(painter, flow);
 }
 
-/// A wall with a window, a table and three people, a room three times as wide as the picture.
+// A wall with a window, a table and three people. The room is three times as wide as the picture.
 void SetupPicture::drawRoom(QPainter& painter, const CameraView& camera, const QRect& area)
 {
     painter.save();

@@ -15,22 +15,22 @@ namespace simulator
 
 class SetupFlow;
 
-/// Draws the set-up screen, with a clock, a counter of the frames, something that moves and what
-/// the camera sees while it is on. Needs a QGuiApplication, for the letters.
+/// Draws the set-up screen with a clock, a frame counter, a moving bar and, while the camera is on,
+/// its view. Needs a QGuiApplication, to draw text.
 class SetupPicture
 {
 public:
-    /// @p size is even in both directions.
+    /// Both dimensions of @p size are even.
     explicit SetupPicture(const QSize& size);
 
     const QSize& size() const { return m_size; }
-    /// The next frame as NV12.
+    /// Draws a frame and returns it as NV12.
     const QByteArray& draw(const SetupFlow& flow, const std::optional<CameraView>& camera,
                            quint32 frameNumber);
 
-    /// Colours to measure what comes out at the other end, six squares from left to right.
+    /// Colours of six squares, from left to right, by which a test checks the conversion.
     static QList<QRgb> patchColours();
-    /// Place of the n-th of them, in pixels of a picture of that size.
+    /// Area of square @p n, in pixels of a picture of @p size.
     static QRect patch(int n, const QSize& size);
 
 private:

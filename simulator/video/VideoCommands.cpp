@@ -6,16 +6,6 @@
 using namespace simulator;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-CommandOutcome outcomeOf(const QString& error)
-{
-    return error.isEmpty() ? CommandOutcome::done() : CommandOutcome::failed(error);
-}
-
-} // namespace
-
 void VideoFeature::addCommands(CommandInterpreter& interpreter)
 {
     addWriterCommands(interpreter);
@@ -26,33 +16,26 @@ void VideoFeature::addCommands(CommandInterpreter& interpreter)
 void VideoFeature::addWriterCommands(CommandInterpreter& interpreter)
 {
     interpreter.add(
-        {u"video start"_s,
-         {},
-         u"Writes the display's set-up screen as frames into the shared memory, and takes the\n"
-         "pointer's datagrams on UDP port 49176. The set-up begins with its first step (welcome,\n"
-         "language, network, room-name, finish); pressing its buttons leads on, and after the "
-         "last\n"
-         "the display reports mode 1. Prints \"setup\" with the buttons of each step, \"pointer\" "
-         "and\n"
-         "\"button\"."_s,
-         [this](CommandArguments&) -> CommandAction {
-             return [this] { return outcomeOf(start()); };
-         }});
-    interpreter.add(
-        {u"video stop"_s, {}, u"Ends that; the shared memory goes."_s, [this](CommandArguments&) {
-             return simpleAction([this] { stop(); });
-         }});
+        u"video start"_s,
+        u"Writes the display's set-up screen as frames into the shared memory and receives the\n"
+        "pointer's datagrams on UDP port 49176. The set-up begins with its first step (welcome,\n"
+        "language, network, room-name, finish). Pressing its buttons leads through the steps, and\n"
+        "after the last one the display reports mode 1. Prints \"setup\" with the buttons of each\n"
+        "step, \"pointer\" and \"button\"."_s,
+        [this] { return start(); });
+    interpreter.add(u"video stop"_s, u"Stops writing and removes the shared memory."_s,
+                    [this] { stop(); });
     interpreter.add(
         {u"video size"_s, u"<width> <height>"_s,
          u"Sets the size of the frames (1920 1080): even, at most that of 3840 x 2160."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         [this](CommandArguments& arguments) {
              constexpr int Largest = 0xFFFF;
              const int width = arguments.integer(u"the width"_s, 2, Largest);
              const int height = arguments.integer(u"the height"_s, 2, Largest);
-             return [this, width, height] { return outcomeOf(setSize(width, height)); };
+             return simpleAction([this, width, height] { return setSize(width, height); });
          }});
-    interpreter.add({u"video rate"_s, u"<1..200>"_s, u"Sets the frames a second (30)."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
+    interpreter.add({u"video rate"_s, u"<1..200>"_s, u"Sets the frames per second (30)."_s,
+                     [this](CommandArguments& arguments) {
                          const int rate = arguments.integer(u"the rate"_s, 1, 200);
                          return simpleAction([this, rate] { setRate(rate); });
                      }});
@@ -60,46 +43,27 @@ void VideoFeature::addWriterCommands(CommandInterpreter& interpreter)
 
 void VideoFeature::addFaultCommands(CommandInterpreter& interpreter)
 {
-    interpreter.add({u"video stall"_s,
-                     {},
-                     u"Announces no more frames, while the shared memory stays, until resume."_s,
-                     [this](CommandArguments&) -> CommandAction {
-                         return [this] { return outcomeOf(stall()); };
-                     }});
-    interpreter.add({u"video resume"_s,
-                     {},
-                     u"Goes on after stall."_s,
-                     [this](CommandArguments&) -> CommandAction {
-                         return [this] { return outcomeOf(resume()); };
-                     }});
+    interpreter.add(u"video stall"_s,
+                    u"Announces no more frames, while the shared memory stays, until resume."_s,
+                    [this] { return stall(); });
+    interpreter.add(u"video resume"_s, u"Continues after stall."_s, [this] { return resume(); });
     interpreter.add(
-        {u"video die"_s,
-         {},
-         u"The writer dies: the names of shared memory and event vanish, until return."_s,
-         [this](CommandArguments&) -> CommandAction {
-             return [this] { return outcomeOf(die()); };
-         }});
-    interpreter.add(
-        {u"video cut"_s,
-         {},
-         u"Cuts the shared memory short under the program and goes on announcing, until\n"
-         "return. Linux only."_s,
-         [this](CommandArguments&) -> CommandAction {
-             return [this] { return outcomeOf(cutShort()); };
-         }});
-    interpreter.add({u"video return"_s,
-                     {},
-                     u"Comes back after die or cut, with new objects under the old names."_s,
-                     [this](CommandArguments&) -> CommandAction {
-                         return [this] { return outcomeOf(comeBack()); };
-                     }});
+        u"video die"_s,
+        u"The writer dies: the names of shared memory and event vanish, until return."_s,
+        [this] { return die(); });
+    interpreter.add(u"video cut"_s,
+                    u"Truncates the shared memory under the program and keeps announcing frames,\n"
+                    "until return. Linux only."_s,
+                    [this] { return cutShort(); });
+    interpreter.add(u"video return"_s,
+                    u"Returns after die or cut, with new objects under the old names."_s,
+                    [this] { return comeBack(); });
     interpreter.add(
         {u"video hostile"_s, u"<kind> [<frames>]"_s,
-         u"Makes that many of the next frames (1) wrong. Kinds: "_s +
-             FrameWriter::faultNames().mid(0, 5).join(u", "_s) + u",\n"_s +
-             FrameWriter::faultNames().mid(5).join(u", "_s) +
-             u" (right when announced, and changed while it is read)."_s,
-         [this](CommandArguments& arguments) -> CommandAction {
+         u"Makes the next frame, or that many frames, wrong. Kinds:\n"_s +
+             wordList(FrameWriter::faultNames()) +
+             u"\n(torn: right when announced, and changed while it is read)."_s,
+         [this](CommandArguments& arguments) {
              const auto fault = FrameWriter::Fault(arguments.choice(FrameWriter::faultNames()));
              const int frames =
                  arguments.atEnd() ? 1 : arguments.integer(u"the number of frames"_s, 1, 1'000'000);
@@ -113,7 +77,7 @@ void VideoFeature::addExpectations(CommandInterpreter& interpreter)
                      u"Waits for a pointer event, as \"expect\" does for a message. Keys: type "
                      u"(press, release,\n"
                      "move), x, y (fractions of the picture)."_s,
-                     [this](CommandArguments& arguments) -> CommandAction {
+                     [this](CommandArguments& arguments) {
                          const auto pattern = MessagePattern::parseConditions(0, arguments);
                          return m_pointerEvents.expect(pattern, arguments);
                      }});
@@ -127,7 +91,7 @@ void VideoFeature::addExpectations(CommandInterpreter& interpreter)
                                     : arguments.seconds(u"the time"_s);
              return [this, step, limit] {
                  return CommandOutcome::until([this, step] { return m_flow.step() == step; }, limit,
-                                              u"the set-up did not get there"_s);
+                                              u"the set-up did not reach that step"_s);
              };
          }});
 }

@@ -14,11 +14,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// What is left when the memory is cut short: the header and a little of the picture.
+// Size of the truncated memory: the header and a little of the picture.
 constexpr std::size_t CutSize = 4096;
 constexpr int MillisecondsPerSecond = 1000;
 
-// As far as a place is of use to a reader.
+// Four decimals, for people who read the events.
 double rounded(double fraction)
 {
     constexpr double Steps = 10'000;
@@ -69,7 +69,7 @@ void VideoFeature::setState(State state)
 
 QString VideoFeature::start()
 {
-    if (QString error = listenToThePointer(); !error.isEmpty())
+    if (QString error = bindPointerPort(); !error.isEmpty())
         return error;
     if (QString error = makeObjects(); !error.isEmpty())
         return error;
@@ -77,7 +77,7 @@ QString VideoFeature::start()
     m_hostileFrames = 0;
     m_timer.start();
     setState(State::Writing);
-    tellStep();
+    reportStep();
     return {};
 }
 
@@ -93,21 +93,21 @@ void VideoFeature::stop()
 QString VideoFeature::makeObjects()
 {
     m_writer.reset();
-    m_objects.reset(); // before its names are given to others
+    m_objects.reset(); // frees the names before they are used again
     m_objects = makeFrameObjects(m_names.mapping.toStdString(), m_names.event.toStdString());
     if (!m_objects->makeMemory(framelayout::MappingSize) || !m_objects->makeEvent()) {
         const QString error = u"the shared memory cannot be made: "_s + qt_error_string();
         m_objects.reset();
         m_timer.stop();
         if (m_state != State::Stopped)
-            setState(State::Dead); // from which the return can be tried again
+            setState(State::Dead); // "video return" can try again
         return error;
     }
     m_writer.emplace(*m_objects);
     return {};
 }
 
-QString VideoFeature::listenToThePointer()
+QString VideoFeature::bindPointerPort()
 {
     if (m_pointer.state() == QAbstractSocket::BoundState ||
         m_pointer.bind(QHostAddress::LocalHost, m_names.pointerPort))
@@ -137,7 +137,7 @@ void VideoFeature::setRate(int framesPerSecond)
 QString VideoFeature::stall()
 {
     if (m_state != State::Writing)
-        return u"the video does not run"_s;
+        return u"the video is not running"_s;
     m_timer.stop();
     setState(State::Stalled);
     return {};
@@ -155,7 +155,7 @@ QString VideoFeature::resume()
 QString VideoFeature::die()
 {
     if (!m_objects)
-        return u"the video does not run"_s;
+        return u"the video is not running"_s;
     m_timer.stop();
     m_writer.reset();
     m_objects.reset();
@@ -177,10 +177,10 @@ QString VideoFeature::comeBack()
 QString VideoFeature::cutShort()
 {
     if (!m_objects)
-        return u"the video does not run"_s;
+        return u"the video is not running"_s;
     if (!m_objects->resize(CutSize))
-        return u"this system cannot cut a shared memory short"_s;
-    m_timer.start(); // it goes on announcing
+        return u"this system cannot truncate shared memory"_s;
+    m_timer.start(); // frames are still announced
     setState(State::CutShort);
     return {};
 }
@@ -193,7 +193,7 @@ void VideoFeature::setHostile(FrameWriter::Fault fault, int frames)
 
 void VideoFeature::writeFrame()
 {
-    if (m_state == State::CutShort) { // there is nothing left to write to
+    if (m_state == State::CutShort) { // writing would fault
         m_objects->post();
         return;
     }
@@ -236,13 +236,13 @@ void VideoFeature::takePointer(const PointerEvent& event)
                     {{u"name"_s, button}, {u"step"_s, SetupFlow::stepNames().at(int(before))}});
     if (m_flow.step() == before)
         return;
-    tellStep();
+    reportStep();
     if (m_flow.step() == SetupFlow::Step::Done)
         emit setupFinished();
 }
 
-// With the middles of the buttons, for somebody who wants to press them.
-void VideoFeature::tellStep()
+// The event contains the centre of each button, where a script can press it.
+void VideoFeature::reportStep()
 {
     QJsonArray buttons;
     const QList<SetupFlow::Button> all = m_flow.buttons();

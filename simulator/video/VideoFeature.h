@@ -19,15 +19,15 @@ namespace simulator
 
 class EventLog;
 
-/// The display's screen as it comes to this PC: writes the set-up screen as frames into the shared
-/// memory, takes the pointer from the program, and plays a writer that fails. Needs a
-/// QGuiApplication once it is started.
+/// The display's screen: writes the set-up screen as frames into the shared memory, receives the
+/// pointer events of the program, and simulates a writer that fails. Needs a QGuiApplication once
+/// it is started.
 class VideoFeature : public Feature
 {
     Q_OBJECT
 
 public:
-    /// What is fixed between the writer and the program, and a test's own instead.
+    /// Names of the shared objects. Tests use names of their own.
     struct Names {
         QString mapping = QString::fromLatin1(framelayout::MappingName);
         QString event = QString::fromLatin1(framelayout::EventName);
@@ -42,14 +42,14 @@ public:
     void addCommands(CommandInterpreter& interpreter) override;
     QJsonObject status() const override;
 
-    /// Forgets the pointer events and steps that nobody expected.
+    /// Drops the stored pointer events, so that later expectations look only at new ones.
     void forget() { m_pointerEvents.forget(); }
-    /// What the display's camera sees; nothing while it is off.
+    /// The view of the display's camera; nothing while the camera is off.
     void setCamera(const std::optional<CameraView>& view) { m_camera = view; }
     quint16 pointerPort() const { return m_pointer.localPort(); }
 
 signals:
-    /// The set-up was walked through to its end.
+    /// The last step of the set-up was completed.
     void setupFinished();
 
 private:
@@ -62,7 +62,7 @@ private:
     QString start();
     void stop();
     QString makeObjects();
-    QString listenToThePointer();
+    QString bindPointerPort();
     QString setSize(int width, int height);
     void setRate(int framesPerSecond);
     QString stall();
@@ -76,7 +76,7 @@ private:
     void writeFrame();
     void takeDatagrams();
     void takePointer(const PointerEvent& event);
-    void tellStep();
+    void reportStep();
 
     EventLog& m_log;
     const Names m_names;

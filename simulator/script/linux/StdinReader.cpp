@@ -30,7 +30,7 @@ struct StdinReader::Private {
             return;
         if (count <= 0)
             notifier.setEnabled(false);
-        // The last line may lack its newline.
+        // The last line may have no newline.
         reader.append(count > 0 ? QByteArrayView(bytes.data(), count) : QByteArrayView("\n"));
         while (const auto line = reader.next())
             emit receiver.lineRead(*line);

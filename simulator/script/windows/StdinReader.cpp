@@ -17,8 +17,8 @@ constexpr qsizetype MaxLineLength = qsizetype{8} * 1024 * 1024;
 
 } // namespace
 
-// Neither a console nor a pipe can be waited for together with the event loop's handles, so a
-// thread blocks in the read; the signal reaches the main thread queued.
+// The event loop can wait neither for a console nor for a pipe, so a thread blocks in the read. Its
+// signal reaches the main thread through a queued connection.
 struct StdinReader::Private {
     std::atomic_bool ending = false;
     std::atomic_bool ended = false;
@@ -35,7 +35,7 @@ struct StdinReader::Private {
         bool more = true;
         while (more && !ending) {
             more = ReadFile(input, bytes.data(), DWORD(bytes.size()), &count, nullptr) && count > 0;
-            // The last line may lack its newline.
+            // The last line may have no newline.
             reader.append(more ? QByteArrayView(bytes.data(), count) : QByteArrayView("\n"));
             while (const auto line = reader.next())
                 emit receiver.lineRead(*line);
@@ -54,7 +54,7 @@ StdinReader::StdinReader(QObject* parent)
 StdinReader::~StdinReader()
 {
     m_private->ending = true;
-    // Again until it took effect: the thread may have been between two reads.
+    // Repeated because a call has no effect while the thread is between two reads.
     while (!m_private->ended) {
         if (const HANDLE thread = OpenThread(THREAD_TERMINATE, FALSE, m_private->threadId)) {
             CancelSynchronousIo(thread);
