@@ -26,8 +26,8 @@ ChannelClient::~ChannelClient()
 
 ErrorCode ChannelClient::initChannel(Callback callback)
 {
-    std::shared_ptr<const Callback> replaced; // destroyed outside the lock
-    const std::lock_guard lock(m_mutex);
+    std::shared_ptr<const Callback> replaced; // destroyed after the lock is released
+    const std::scoped_lock lock(m_mutex);
     if (m_thread && !m_worker)
         return ErrorCode::NotAvailable;
     replaced = std::move(m_callback);
@@ -57,7 +57,7 @@ void ChannelClient::deliver(int id, const std::string& text)
 {
     std::shared_ptr<const Callback> callback;
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         callback = m_callback;
     }
     if (callback)
@@ -75,7 +75,7 @@ ErrorCode ChannelClient::pushMsg(int id, const std::string& msg)
     case OutgoingQueue::Result::Full:
         return ErrorCode::BufferFull;
     case OutgoingQueue::Result::FirstWaiting: {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         if (m_worker)
             emit m_worker->outgoingWaiting();
         break;
@@ -92,7 +92,7 @@ bool ChannelClient::stop(QDeadlineTimer deadline)
     std::shared_ptr<const Callback> callback;
     std::shared_ptr<EndSignal> ended;
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         thread = std::move(m_thread);
         callback = std::move(m_callback);
         ended = std::move(m_ended);
@@ -104,8 +104,9 @@ bool ChannelClient::stop(QDeadlineTimer deadline)
     thread->quit();
     if (QThread::currentThread() != thread.get() && ended->wait(deadline) && thread->wait())
         return true;
-    // Still in the callback. The next stop, at the latest the destructor's, waits for it again.
-    const std::lock_guard lock(m_mutex);
+    // The callback is still running. The next stop(), at the latest that of the destructor, waits
+    // for it again.
+    const std::scoped_lock lock(m_mutex);
     m_thread = std::move(thread);
     m_ended = std::move(ended);
     return false;

@@ -14,7 +14,7 @@ using namespace channel;
 namespace
 {
 
-// Bounds what a peer that sends faster than the callback takes can make us hold.
+// Bounds the memory that a peer can take which sends faster than the callback returns.
 constexpr qint64 ReadBufferSize = qint64{256} * 1024;
 
 bool endRequested()
@@ -42,7 +42,7 @@ ChannelWorker::~ChannelWorker()
 {
     if (m_socket) {
         m_socket->disconnect(this);
-        sendWaiting(); // what was pushed just before the end
+        sendWaiting(); // messages that were pushed just before the end
     }
     m_outgoing.close();
     m_ended->set();
@@ -89,6 +89,7 @@ void ChannelWorker::onDisconnected()
 
 void ChannelWorker::readLines()
 {
+    Q_ASSERT(thread() == QThread::currentThread());
     while (m_socket->bytesAvailable() > 0) {
         m_reader.append(m_socket->readAll());
         while (const auto line = m_reader.next()) {
@@ -107,12 +108,13 @@ void ChannelWorker::handleLine(const QByteArray& line)
         return;
     }
     m_deliver(message->id, message->text.toStdString());
-    // The answer goes out now rather than after the rest of the lines.
+    // Sends the answer before the remaining lines are handled.
     sendWaiting();
 }
 
 void ChannelWorker::sendWaiting()
 {
+    Q_ASSERT(thread() == QThread::currentThread());
     if (m_socket->state() != QLocalSocket::ConnectedState)
         return;
     const QByteArray bytes = m_outgoing.take();
@@ -123,7 +125,7 @@ void ChannelWorker::sendWaiting()
     m_outgoing.setUnwritten(m_socket->bytesToWrite());
 }
 
-// Once a connection: a peer that sends rubbish must not fill the log.
+// Reported once per connection, so that a faulty peer cannot fill the log.
 void ChannelWorker::reportSkipped()
 {
     if (m_malformed > 0 || m_reader.skipped() > 0) {

@@ -17,8 +17,8 @@ class QTimer;
 namespace channel
 {
 
-/// Holds the connection to the simulator. Made by ChannelClient and moved to its thread, where all
-/// of it runs, the delivery of messages included.
+/// Holds the connection to the simulator. ChannelClient creates it and moves it to its thread, on
+/// which everything runs, including the callback.
 class ChannelWorker : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ class ChannelWorker : public QObject
 public:
     using Deliver = std::function<void(int, const std::string&)>;
 
-    /// @p ended is set when the worker has used @p outgoing and @p deliver for the last time.
+    /// Sets @p ended after its last use of @p outgoing and @p deliver.
     ChannelWorker(QString serverName, std::chrono::milliseconds reconnectInterval,
                   OutgoingQueue& outgoing, Deliver deliver, std::shared_ptr<EndSignal> ended);
     ~ChannelWorker() override;
@@ -35,7 +35,7 @@ public:
     void start();
 
 signals:
-    /// May be emitted from any thread: the queue has something to take.
+    /// The queue holds bytes to send. May be emitted from any thread.
     void outgoingWaiting();
 
 private:
@@ -52,10 +52,12 @@ private:
     OutgoingQueue& m_outgoing;
     const Deliver m_deliver;
     const std::shared_ptr<EndSignal> m_ended;
+
+    // Used on the thread of the worker only.
     QLocalSocket* m_socket = nullptr;
     QTimer* m_reconnectTimer = nullptr;
     LineReader m_reader;
-    qsizetype m_malformed = 0; // lines without a valid id on this connection
+    qsizetype m_malformed = 0; // number of lines without a valid id on this connection
 };
 
 } // namespace channel

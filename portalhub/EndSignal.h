@@ -8,14 +8,14 @@
 namespace channel
 {
 
-/// Set once, when a thread has touched for the last time what it shares with others. QThread::wait
-/// would do, but the thread sanitizer does not see into it.
+/// Set once, after the last access of a thread to data that it shares. QThread::wait() alone would
+/// suffice, but ThreadSanitizer does not instrument Qt and cannot see that it synchronises.
 class EndSignal
 {
 public:
     void set()
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_set = true;
         m_changed.notify_all();
     }

@@ -7,21 +7,21 @@
 namespace channel
 {
 
-/// Cuts a stream of bytes into lines without ever holding more than one line of the permitted
-/// length plus the piece appended last: what grows longer is skipped up to its newline.
+/// Splits a stream of bytes into lines. Holds at most one line of the maximum length and the bytes
+/// appended last: a longer line is skipped up to its newline.
 class LineReader
 {
 public:
-    /// @p maxLength is the longest line handed out, in bytes without its newline.
+    /// @p maxLength is the maximum length of a line in bytes, without its newline.
     explicit LineReader(qsizetype maxLength)
         : m_maxLength(maxLength)
     {
     }
 
     void append(QByteArrayView bytes);
-    /// The next whole line without its newline, or nothing until more bytes come.
+    /// Takes the next complete line, without its newline. Nothing if there is none yet.
     std::optional<QByteArray> next();
-    /// Forgets everything, for a new connection.
+    /// Drops all bytes and counts, for a new connection.
     void reset();
 
     /// Number of overlong lines skipped since the last reset.
@@ -32,8 +32,8 @@ private:
 
     const qsizetype m_maxLength;
     QByteArray m_buffer;
-    qsizetype m_start = 0;    // where the next line begins
-    qsizetype m_searched = 0; // no newline between m_start and here
+    qsizetype m_start = 0;    // begin of the next line
+    qsizetype m_searched = 0; // there is no newline from m_start up to here
     qsizetype m_skipped = 0;
     bool m_skipping = false;
 };

@@ -5,12 +5,13 @@
 #include <optional>
 #include <string_view>
 
-/// The channel's wire format: one message is one line, the decimal id, one blank, the JSON text
+/// The wire format of the channel. A message is one line: the decimal id, one blank, the JSON text
 /// and a newline.
 namespace channel
 {
 
-/// Longest line without its newline, in bytes. Longer ones are not sent and skipped when received.
+/// Maximum length of a line in bytes, without its newline. A longer line is not sent, and skipped
+/// when received.
 inline constexpr qsizetype MaxLineLength = qsizetype{4} * 1024 * 1024;
 
 struct Message {
@@ -18,12 +19,12 @@ struct Message {
     QByteArray text;
 };
 
-/// The line that carries @p text, newline included. Line breaks inside the text become blanks: JSON
-/// has them only between its tokens.
+/// The line for @p text, including its newline. Line breaks in the text become blanks, which does
+/// not change JSON, because it has line breaks only between tokens.
 QByteArray encodeLine(int id, std::string_view text);
 
-/// Takes a line apart, given without its newline. Nothing when it does not begin with an id and a
-/// blank; the text itself is not looked at.
+/// Parses a line without its newline. Nothing if it does not begin with an id and a blank. The text
+/// is not checked.
 std::optional<Message> parseLine(QByteArrayView line);
 
 } // namespace channel

@@ -6,7 +6,7 @@ using namespace channel;
 
 OutgoingQueue::Result OutgoingQueue::push(const QByteArray& line)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     if (!m_open)
         return Result::Closed;
     if (line.size() > m_capacity - m_waiting.size() - m_unwritten)
@@ -18,7 +18,7 @@ OutgoingQueue::Result OutgoingQueue::push(const QByteArray& line)
 
 void OutgoingQueue::open()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_open = true;
     m_waiting.clear();
     m_unwritten = 0;
@@ -26,21 +26,21 @@ void OutgoingQueue::open()
 
 void OutgoingQueue::close()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_open = false;
     m_waiting.clear();
 }
 
 QByteArray OutgoingQueue::take()
 {
-    const std::lock_guard lock(m_mutex);
-    // Until the worker says how much of it the socket kept, all of it counts as unwritten.
+    const std::scoped_lock lock(m_mutex);
+    // Counts as unwritten until the worker calls setUnwritten().
     m_unwritten += m_waiting.size();
     return std::exchange(m_waiting, {});
 }
 
 void OutgoingQueue::setUnwritten(qsizetype bytes)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::scoped_lock lock(m_mutex);
     m_unwritten = bytes;
 }

@@ -7,19 +7,20 @@
 namespace channel
 {
 
-/// What waits to be written to the peer. Any thread pushes; the worker that owns the socket opens,
-/// takes and closes. Bounded: a peer that does not read costs a fixed amount of memory.
+/// Bytes that wait to be written to the peer. Any thread pushes; the worker that owns the socket
+/// opens, takes and closes. The size is bounded, so a peer that does not read costs a fixed amount
+/// of memory.
 class OutgoingQueue
 {
 public:
     enum class Result {
-        Accepted,     ///< more bytes behind others; the worker has already been told
-        FirstWaiting, ///< the worker has to be told that there is something to take
-        Closed,       ///< dropped: no connection
-        Full,         ///< dropped: the peer does not read
+        Accepted,     ///< other bytes wait already, so the worker has been notified
+        FirstWaiting, ///< the caller has to notify the worker
+        Closed,       ///< dropped because there is no connection
+        Full,         ///< dropped because the peer does not read
     };
 
-    /// @p capacity counts the bytes here and those the socket has not yet written.
+    /// @p capacity bounds the bytes in this queue plus those that the socket has not yet written.
     explicit OutgoingQueue(qsizetype capacity)
         : m_capacity(capacity)
     {
@@ -30,12 +31,12 @@ public:
     void open();
     void close();
     QByteArray take();
-    /// Tells how many of the taken bytes the socket still holds.
+    /// Sets the number of taken bytes that the socket has not yet written.
     void setUnwritten(qsizetype bytes);
 
 private:
     const qsizetype m_capacity;
-    std::mutex m_mutex; // guards what follows
+    std::mutex m_mutex; // guards all members below
     bool m_open = false;
     QByteArray m_waiting;
     qsizetype m_unwritten = 0;

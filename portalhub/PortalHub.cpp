@@ -13,16 +13,16 @@
 namespace
 {
 
-// A callback that waits for the thread which ends the program must not hold the end up.
+// Limits the delay of the exit by a callback that waits for the thread on which the program ends.
 constexpr std::chrono::milliseconds EndTimeout = std::chrono::seconds(1);
 
-std::atomic_bool s_processEnding = false;
+std::atomic_bool g_processEnding = false;
 
 channel::ChannelClient& client()
 {
-    // Never destroyed: static objects of the program may still push while the process ends.
-    static auto* const client = new channel::ChannelClient(channel::socketName());
-    return *client;
+    // Never destroyed, because static objects of the program may still push while the process ends.
+    static auto* const s_client = new channel::ChannelClient(channel::socketName());
+    return *s_client;
 }
 
 // Runs while the application object is being destroyed.
@@ -31,7 +31,7 @@ void endWithApplication()
     client().stop(QDeadlineTimer(EndTimeout));
 }
 
-// The thread must be gone before the static objects of Qt are, also where the process exits without
+// Ends the thread before the static objects of Qt are destroyed, also if the process exits without
 // destroying its application object.
 struct ProcessEnd {
     ProcessEnd() = default;
@@ -39,7 +39,7 @@ struct ProcessEnd {
     ProcessEnd& operator=(const ProcessEnd&) = delete;
     ~ProcessEnd()
     {
-        s_processEnding = true;
+        g_processEnding = true;
         qRemovePostRoutine(endWithApplication);
         client().stop(QDeadlineTimer(EndTimeout));
     }
@@ -49,20 +49,21 @@ struct ProcessEnd {
 
 PortalHub& PortalHub::Instance()
 {
-    static PortalHub hub;
-    return hub;
+    static PortalHub s_hub;
+    return s_hub;
 }
 
 PortalHubApi::ErrorCode PortalHub::InitChannel(std::function<int(int, const std::string&)> callback)
 {
-    // The thread's event loop cannot run without one.
-    if (!QCoreApplication::instance() || s_processEnding)
+    // The event loop of the thread needs an application object.
+    if (!QCoreApplication::instance() || g_processEnding)
         return PortalHubApi::ErrorCode::NotAvailable;
     const auto result = client().initChannel(std::move(callback));
-    // An application object takes the routines along when it goes; another one needs it anew.
+    // The routines are removed together with the application object, so a second one needs it
+    // again.
     qRemovePostRoutine(endWithApplication);
     qAddPostRoutine(endWithApplication);
-    static const ProcessEnd processEnd;
+    static const ProcessEnd s_processEnd;
     return result;
 }
 

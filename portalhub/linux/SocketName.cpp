@@ -11,6 +11,6 @@ QString channel::socketName()
         const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
         name = (folder.isEmpty() ? QByteArrayLiteral("/tmp") : folder) + "/vorn-portalhub";
     }
-    // Qt looks for a relative name in the folder for temporary files.
+    // Qt would resolve a relative name in the folder for temporary files.
     return QDir::current().absoluteFilePath(QFile::decodeName(name));
 }
