@@ -12,11 +12,10 @@
 #include <string>
 #include <utility>
 
-/// How long a test waits for what must happen, on a machine busy with other things; in
-/// milliseconds.
+/// Maximum time, in milliseconds, that a test waits for an event on a busy machine.
 inline constexpr int Patience = 60'000;
 
-/// Messages that a channel callback received, to be looked at from the test's thread.
+/// The messages that a channel callback received. May be used from any thread.
 class Inbox
 {
 public:
@@ -24,24 +23,20 @@ public:
 
     int add(int id, const std::string& text)
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_entries.append({id, QByteArray::fromStdString(text)});
         return 0;
     }
 
     QList<Entry> entries() const
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         return m_entries;
     }
 
-    qsizetype count() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_entries.size();
-    }
+    qsizetype count() const { return entries().size(); }
 
-    /// A callback for the channel; the inbox must outlive it.
+    /// A callback for the channel. The inbox must outlive it.
     auto callback()
     {
         return [this](int id, const std::string& text) { return add(id, text); };
@@ -49,10 +44,10 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    QList<Entry> m_entries;
+    QList<Entry> m_entries; // guarded by m_mutex
 };
 
-/// The events of this name that a simulator wrote, in their order.
+/// The events of this name that a simulator wrote, in order.
 inline QList<QJsonObject> eventsNamed(const QString& name, const std::ostringstream& written)
 {
     QList<QJsonObject> found;
@@ -65,7 +60,7 @@ inline QList<QJsonObject> eventsNamed(const QString& name, const std::ostringstr
     return found;
 }
 
-/// Writes a scenario; returns its path, empty when that failed.
+/// Writes a scenario file. Returns its path, or an empty text on failure.
 inline QString writeScenario(const QTemporaryDir& folder, const QByteArray& content)
 {
     QFile file(folder.filePath(QStringLiteral("story")));
@@ -73,7 +68,7 @@ inline QString writeScenario(const QTemporaryDir& folder, const QByteArray& cont
     return isWritten ? file.fileName() : QString();
 }
 
-/// A socket name of the test's own.
+/// Provides a socket name in a temporary folder.
 class SocketFolder
 {
 public:

@@ -7,25 +7,24 @@
 using namespace Qt::StringLiterals;
 using simulator::DisplayLink;
 
-/// The library as a program loads it, in processes of its own: it ends with each of them.
-class PortalHubTest : public QObject
+/// The shared library in processes that end in different ways.
+class tst_PortalHub : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void endsCleanly_data();
-    void endsCleanly();
+    void libraryEndsWithItsProcess_data();
+    void libraryEndsWithItsProcess();
 };
 
-void PortalHubTest::endsCleanly_data()
+void tst_PortalHub::libraryEndsWithItsProcess_data()
 {
     QTest::addColumn<QString>("mode");
-    for (const char* mode :
-         {"application", "two-applications", "exit-while-running", "no-application"})
+    for (const char* mode : {"return-from-main", "exit-while-running"})
         QTest::newRow(mode) << QString::fromLatin1(mode);
 }
 
-void PortalHubTest::endsCleanly()
+void tst_PortalHub::libraryEndsWithItsProcess()
 {
     QFETCH(QString, mode);
     const SocketFolder folder;
@@ -48,5 +47,5 @@ void PortalHubTest::endsCleanly()
     }
 }
 
-QTEST_GUILESS_MAIN(PortalHubTest)
-#include "PortalHubTest.moc"
+QTEST_GUILESS_MAIN(tst_PortalHub)
+#include "tst_PortalHub.moc"

@@ -1,4 +1,3 @@
-#include "launch/ProcessManager.h"
 #include "launch/SystemProgramControl.h"
 #include "launch/UpgradeControl.h"
 #include "persistence/InstalledVersions.h"
@@ -7,7 +6,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,23 +33,21 @@ bool isRunning(const QString& program)
 
 } // namespace
 
-/// The real upgrade steps against the simulated updater, which lies beside this test as it lies
-/// beside the application.
-class SimulatedProgramsTest : public QObject
+/// The program's upgrade steps with the simulated updater, which lies in the folder of this test as
+/// it does in the folder of the application.
+class tst_SimulatedPrograms : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
     void cleanup();
-    void upgradesWell();
-    void upgradesBadly_data();
-    void upgradesBadly();
-    void endsWithItsHome();
-    void zoomIsFound();
+    void failedUpgradeCanBeRepeated_data();
+    void failedUpgradeCanBeRepeated();
+    void updaterEndsWithItsFolder();
 
 private:
-    void order(const QByteArray& lines) const;
+    void configure(const QByteArray& lines) const;
     [[nodiscard]] QStringList linesOf(const QString& name) const;
     [[nodiscard]] QStringList log() const { return linesOf(u"VORNApp/patchpilot.log"_s); }
     [[nodiscard]] bool hasLogged(const QString& start) const
@@ -72,34 +68,34 @@ private:
     const QString m_update = u"update "_s + QCoreApplication::applicationFilePath();
 };
 
-void SimulatedProgramsTest::init()
+void tst_SimulatedPrograms::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     qputenv("XDG_CONFIG_HOME", m_home->path().toUtf8());
     qputenv("XDG_DATA_HOME", m_home->path().toUtf8());
     QVERIFY(QDir(m_home->path()).mkpath(u"VORNApp"_s));
-    m_programs.killProcess(u"PatchPilot.exe"_s); // of whatever ran before
+    m_programs.killProcess(u"PatchPilot.exe"_s); // left by an earlier run
     m_upgrade =
         std::make_unique<UpgradeControl>(m_programs, QCoreApplication::applicationFilePath(), 10ms);
 }
 
-void SimulatedProgramsTest::cleanup()
+void tst_SimulatedPrograms::cleanup()
 {
     m_upgrade.reset();
     if (QFile::exists(m_home->path()))
-        order("behaviour=well\n"); // else it would come again
+        configure("behaviour=well\n"); // stops the guard that restarts the updater
     m_programs.killProcess(u"PatchPilot.exe"_s);
     m_home.reset();
 }
 
-void SimulatedProgramsTest::order(const QByteArray& lines) const
+void tst_SimulatedPrograms::configure(const QByteArray& lines) const
 {
     QFile file(m_home->filePath(u"VORNApp/patchpilot.ini"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(lines);
 }
 
-QStringList SimulatedProgramsTest::linesOf(const QString& name) const
+QStringList tst_SimulatedPrograms::linesOf(const QString& name) const
 {
     QFile file(m_home->filePath(name));
     return file.open(QIODevice::ReadOnly)
@@ -107,29 +103,10 @@ QStringList SimulatedProgramsTest::linesOf(const QString& name) const
                : QStringList();
 }
 
-void SimulatedProgramsTest::upgradesWell()
-{
-    order("installed=1.0\nseconds=0.1\n");
-    watch();
-    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"1.0"_s, Patience);
-    QVERIFY(installedVersionValue(u"newver"_s).isEmpty());
-    order("installed=1.0\nseconds=0.1\noffer=2.0\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), Patience);
-    QCOMPARE(installedVersionValue(u"newver"_s), u"2.0"_s);
-
-    m_upgrade->start();
-    QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, Patience);
-    QVERIFY(m_upgrade->isUpdating()); // until the program quits
-    QTRY_COMPARE_WITH_TIMEOUT(log(),
-                              (QStringList{u"background"_s, u"recorded 1.0"_s, u"found 2.0"_s,
-                                           m_update, u"installed 2.0"_s}),
-                              Patience);
-}
-
-void SimulatedProgramsTest::upgradesBadly_data()
+void tst_SimulatedPrograms::failedUpgradeCanBeRepeated_data()
 {
     QTest::addColumn<QByteArray>("behaviour");
-    QTest::addColumn<QString>("sign"); // in the log, before the time-out
+    QTest::addColumn<QString>("sign"); // log line before the time-out
     QTest::addColumn<bool>("finishes");
     QTest::newRow("never finishes") << "never"_ba << m_update << false;
     QTest::newRow("dies") << "dies"_ba << u"died"_s << false;
@@ -137,15 +114,15 @@ void SimulatedProgramsTest::upgradesBadly_data()
     QTest::newRow("cannot be killed") << "unkillable"_ba << m_update << false;
 }
 
-/// An upgrade that goes wrong is given up; then the updater is in the background again, and a retry
-/// with a better one succeeds.
-void SimulatedProgramsTest::upgradesBadly()
+/// After the time-out of a failed upgrade the updater runs in the background again, and a second
+/// upgrade succeeds.
+void tst_SimulatedPrograms::failedUpgradeCanBeRepeated()
 {
     QFETCH(const QByteArray, behaviour);
     QFETCH(const QString, sign);
     QFETCH(const bool, finishes);
-    const QByteArray orders = "installed=1.0\nseconds=0.5\noffer=2.0\nbehaviour=";
-    order(orders + behaviour);
+    const QByteArray settings = "installed=1.0\nseconds=0.5\noffer=2.0\nbehaviour=";
+    configure(settings + behaviour);
     watch();
     QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), Patience);
     if (behaviour == "unkillable") {
@@ -169,14 +146,14 @@ void SimulatedProgramsTest::upgradesBadly()
         return;
     }
     QCOMPARE(installed(), u"1.0"_s);
-    order(orders + "well");
-    // A guard that has just looked would start an updater of its own beside the retry's.
+    configure(settings + "well");
+    // A running guard could start a second updater beside that of the next upgrade.
     QTRY_VERIFY_WITH_TIMEOUT(!isRunning(u"UpdateInstaller.exe"_s), Patience);
     m_upgrade->start();
     QTRY_COMPARE_WITH_TIMEOUT(installed(), u"2.0"_s, Patience);
 }
 
-void SimulatedProgramsTest::endsWithItsHome()
+void tst_SimulatedPrograms::updaterEndsWithItsFolder()
 {
     watch();
     QTRY_VERIFY_WITH_TIMEOUT(!installed().isEmpty(), Patience);
@@ -185,19 +162,5 @@ void SimulatedProgramsTest::endsWithItsHome()
     QVERIFY(!QFile::exists(m_home->path()));
 }
 
-void SimulatedProgramsTest::zoomIsFound()
-{
-    const QString program = QCoreApplication::applicationDirPath() + "/apps/zoom"_L1;
-    QCOMPARE(QProcess::execute(program, {u"--install"_s}), 0);
-    QString found;
-    QVERIFY(ProcessManager::findZoomPath(found));
-    QCOMPARE(found, program);
-
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QVERIFY(ProcessManager::startProcess(found));
-    const auto started = [this] { return linesOf(u"zoom/started.log"_s).value(0); };
-    QTRY_VERIFY_WITH_TIMEOUT(started().startsWith(u"started "_s), Patience);
-}
-
-QTEST_GUILESS_MAIN(SimulatedProgramsTest)
-#include "SimulatedProgramsTest.moc"
+QTEST_GUILESS_MAIN(tst_SimulatedPrograms)
+#include "tst_SimulatedPrograms.moc"

@@ -8,51 +8,40 @@
 using namespace channel;
 using namespace Qt::StringLiterals;
 
-class ChannelWireTest : public QObject
+/// The wire format, the splitting into lines and the bounded queue.
+class tst_ChannelWire : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void parsesLines_data();
-    void parsesLines();
-    void keepsEncodedTextOnOneLine();
-    void cutsLinesWhereverTheBytesBreak();
-    void skipsOverlongLinesWithoutKeepingThem();
-    void queueIsBoundedByWhatTheSocketHolds();
+    void linesAreParsed_data();
+    void linesAreParsed();
+    void encodedTextIsOneLine();
+    void linesAreFoundInAnyPiecesOfTheStream();
+    void overlongLinesAreSkipped();
+    void queueCountsTheUnwrittenBytesOfTheSocket();
 };
 
-void ChannelWireTest::parsesLines_data()
+void tst_ChannelWire::linesAreParsed_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<bool>("valid");
     QTest::addColumn<int>("id");
     QTest::addColumn<QByteArray>("text");
-    const auto good = [](const char* name, const QByteArray& line, int id, const QByteArray& text) {
-        QTest::newRow(name) << line << true << id << text;
+    const auto good = [](const QByteArray& line, int id, const QByteArray& text) {
+        QTest::newRow(line.constData()) << line << true << id << text;
     };
-    const auto bad = [](const char* name, const QByteArray& line) {
-        QTest::newRow(name) << line << false << 0 << QByteArray();
-    };
-    good("message", "11 {\"cmd\":11}", 11, "{\"cmd\":11}");
-    good("negative id", "-5 x", -5, "x");
-    good("no text", "1 ", 1, "");
-    good("only the first blank counts", "1  x y", 1, " x y");
-    good("bytes that are no text", QByteArray("1 \xff\0z", 5), 1, QByteArray("\xff\0z", 3));
-    bad("empty", "");
-    bad("blank", " ");
-    bad("id only", "12");
-    bad("no id", "{\"cmd\":1}");
-    bad("blank before the id", " 1 x");
-    bad("no blank", "1{}");
-    bad("tab", "1\tx");
-    bad("plus", "+1 x");
-    bad("fraction", "1.5 x");
-    bad("hexadecimal", "0x10 x");
-    bad("above int", "2147483648 x");
-    bad("far above int", "99999999999999999999999 x");
+    good("11 {\"cmd\":11}", 11, "{\"cmd\":11}");
+    good("-5 x", -5, "x");
+    good("1 ", 1, "");
+    good("1  x y", 1, " x y");
+    good(QByteArray("1 \xff\0z", 5), 1, QByteArray("\xff\0z", 3));
+    for (const char* line : {"", " ", "12", "{\"cmd\":1}", " 1 x", "1{}", "1\tx", "+1 x", "1.5 x",
+                             "0x10 x", "2147483648 x", "99999999999999999999999 x"})
+        QTest::newRow(line) << QByteArray(line) << false << 0 << QByteArray();
 }
 
-void ChannelWireTest::parsesLines()
+void tst_ChannelWire::linesAreParsed()
 {
     QFETCH(QByteArray, line);
     QFETCH(bool, valid);
@@ -64,13 +53,13 @@ void ChannelWireTest::parsesLines()
     }
 }
 
-void ChannelWireTest::keepsEncodedTextOnOneLine()
+void tst_ChannelWire::encodedTextIsOneLine()
 {
     QCOMPARE(encodeLine(7, "{\n  \"a\": 1\r\n}"), "7 {   \"a\": 1  }\n");
     QCOMPARE(encodeLine(-1, ""), "-1 \n");
 }
 
-void ChannelWireTest::cutsLinesWhereverTheBytesBreak()
+void tst_ChannelWire::linesAreFoundInAnyPiecesOfTheStream()
 {
     QByteArray stream;
     QList<QByteArray> lines;
@@ -94,10 +83,10 @@ void ChannelWireTest::cutsLinesWhereverTheBytesBreak()
     }
 }
 
-void ChannelWireTest::skipsOverlongLinesWithoutKeepingThem()
+void tst_ChannelWire::overlongLinesAreSkipped()
 {
     LineReader reader(10);
-    reader.append("0123456789\n01234567890\nok\n01234567890"); // the last one is not ended yet
+    reader.append("0123456789\n01234567890\nok\n01234567890"); // the last line is not complete
     QCOMPARE(reader.next(), "0123456789");
     QCOMPARE(reader.next(), "ok");
     QVERIFY(!reader.next());
@@ -114,7 +103,7 @@ void ChannelWireTest::skipsOverlongLinesWithoutKeepingThem()
     QCOMPARE(reader.next(), "new");
 }
 
-void ChannelWireTest::queueIsBoundedByWhatTheSocketHolds()
+void tst_ChannelWire::queueCountsTheUnwrittenBytesOfTheSocket()
 {
     using Result = OutgoingQueue::Result;
     OutgoingQueue queue(10);
@@ -124,7 +113,7 @@ void ChannelWireTest::queueIsBoundedByWhatTheSocketHolds()
     QCOMPARE(queue.push("5678"), Result::Accepted);
     QCOMPARE(queue.push("9ab"), Result::Full);
     QCOMPARE(queue.take(), "12345678");
-    QCOMPARE(queue.push("9ab"), Result::Full); // not written yet
+    QCOMPARE(queue.push("9ab"), Result::Full); // the socket has not written it
     queue.setUnwritten(5);
     QCOMPARE(queue.push("9ab"), Result::FirstWaiting);
     queue.close();
@@ -133,5 +122,5 @@ void ChannelWireTest::queueIsBoundedByWhatTheSocketHolds()
     QCOMPARE(queue.push("0123456789"), Result::FirstWaiting);
 }
 
-QTEST_GUILESS_MAIN(ChannelWireTest)
-#include "ChannelWireTest.moc"
+QTEST_GUILESS_MAIN(tst_ChannelWire)
+#include "tst_ChannelWire.moc"
