@@ -17,11 +17,12 @@ namespace
 
 using Planes = std::array<FrameFactory::Plane, 2>;
 
-/// Lines begin where graphics interfaces like them to, and hold whole pairs of chroma.
+/// Rows start at multiples of this, which graphics interfaces prefer and which keeps chroma pairs
+/// whole.
 constexpr int LineAlignment = 16;
 
-/// Its memory goes back when the buffer is destroyed and not before, as a picture may be read by
-/// the graphics card after it was unmapped.
+/// Returns its memory when it is destroyed, not when it is unmapped: the graphics card may still be
+/// reading the picture then.
 class PooledBuffer final : public QAbstractVideoBuffer
 {
 public:
@@ -85,7 +86,7 @@ FrameFactory::FrameFactory()
     platform::keepLargeBlocks(FrameHeader::MaximumDataSize, FrameMemory::BlockCount);
 }
 
-/// Touches as much memory as FrameMemory would hold, on the thread whose heap the frames come from.
+/// Touches as much memory as FrameMemory would hold, on the thread that allocates the frames.
 void FrameFactory::prepare(const QVideoFrameFormat& format)
 {
     const qint64 pixels = qint64(format.frameWidth()) * format.frameHeight();
@@ -121,7 +122,7 @@ QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill
 
 #endif
 
-void FrameFactory::rest()
+void FrameFactory::freeUnused()
 {
     m_memory.clear();
 }

@@ -9,8 +9,8 @@
 #include <functional>
 
 /// Makes NV12 frames without the page faults that fresh memory costs. Since Qt 6.8 a frame can
-/// carry a buffer of ours, which returns its memory for the next one. Before that Qt allocates each
-/// frame, and all that can be done is to have the heap keep the memory. One thread at a time.
+/// carry a buffer of ours, whose memory is used again for a later frame. Before 6.8 Qt allocates
+/// each frame itself, and the heap is configured to keep that memory. One thread at a time.
 class FrameFactory
 {
 public:
@@ -19,16 +19,16 @@ public:
         int bytesPerLine = 0;
         int rows = 0; ///< whole lines that fit
     };
-    /// Luma and chroma of a frame to be filled. False gives the frame up.
+    /// Fills luma and chroma of a new frame. False discards the frame.
     using Fill = std::function<bool(const std::array<Plane, 2>& planes)>;
 
     FrameFactory();
 
-    /// A null frame when there is no memory to write to or @p fill gives it up.
+    /// An invalid frame when there is no memory for it or @p fill discards it.
     [[nodiscard]] QVideoFrame make(const QVideoFrameFormat& format, const Fill& fill);
 
-    /// No frame will be wanted for a while.
-    void rest();
+    /// Frees memory that no frame uses. For times when no frame is expected.
+    void freeUnused();
 
 private:
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)

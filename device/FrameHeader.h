@@ -33,13 +33,13 @@ struct FrameHeader {
         return slotOffset(index) + SlotSize <= ViewSize;
     }
 
-    /// Fills everything but the index from a slot's header bytes.
+    /// Reads all fields except the index from the header bytes of a slot.
     void parse(const std::array<uchar, HeaderSize>& bytes);
 
     /// Whether this describes an NV12 frame that lies within a slot of the view.
     [[nodiscard]] bool isValid() const;
     [[nodiscard]] std::size_t lumaSize() const { return std::size_t(w) * h; }
-    /// Bytes of a chroma row: one pair for each two pixels, a last odd pixel included.
+    /// Bytes of a chroma row: a pair of bytes for two pixels, also for a single last one.
     [[nodiscard]] int chromaBytesPerRow() const { return (w + 1) / 2 * 2; }
     [[nodiscard]] int chromaRows() const { return (h + 1) / 2; }
 };

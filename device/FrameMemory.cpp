@@ -5,7 +5,8 @@
 
 struct FrameMemory::Store {
     std::mutex mutex;
-    std::size_t blockSize = 0; // 0: blocks that come back are not kept
+    // Guarded by the mutex.
+    std::size_t blockSize = 0; // 0: returned blocks are freed
     std::vector<Memory> idle;
 };
 
@@ -58,7 +59,7 @@ FrameMemory::Block FrameMemory::take(std::size_t size)
     }
     if (idle.empty())
         return {m_store, allocate(blockSize), blockSize};
-    Memory memory = std::move(idle.back()); // the one used last, which the caches know best
+    Memory memory = std::move(idle.back()); // the last one used is most likely in the caches
     idle.pop_back();
     return {m_store, std::move(memory), blockSize};
 }

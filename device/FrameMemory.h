@@ -8,11 +8,11 @@
 #include <new>
 #include <vector>
 
-/// Memory for video frames that is used again and again: a fresh block of this size costs a page
-/// fault every 4096 bytes, which takes longer than filling it.
+/// Memory for video frames that is used repeatedly: a fresh block of this size costs a page fault
+/// every 4096 bytes, which takes longer than filling it.
 ///
-/// The blocks are all of one size, that of the largest frame since the last clear(). They are
-/// handed out by one thread and may come back on any, also when this object is gone.
+/// All blocks have one size, that of the largest frame since the last clear(). One thread takes
+/// them; they may be destroyed on any thread, also after this object.
 class FrameMemory
 {
     struct Free {
@@ -22,7 +22,7 @@ class FrameMemory
     struct Store;
 
 public:
-    /// A block goes back when its owner is destroyed.
+    /// Owns a block and returns it on destruction.
     class Block
     {
     public:
@@ -31,8 +31,8 @@ public:
         Block(Block&&) noexcept = default;
         Block& operator=(Block&&) = delete;
 
-        /// Aligned to a page; null when there was no memory. The content is what the last owner
-        /// left.
+        /// Aligned to a page; null when no memory was available. The content is that of the
+        /// last owner.
         uchar* data() const { return m_memory.get(); }
 
     private:
@@ -41,18 +41,18 @@ public:
         std::size_t m_size;
     };
 
-    /// One frame is being filled, one waits for the main thread, one is the sink's, and one may
-    /// still be on its way to the graphics card.
+    /// One block is being filled, one waits for the main thread, one is shown by the sink, and one
+    /// may still be uploaded to the graphics card.
     static constexpr int BlockCount = 4;
 
     FrameMemory();
     ~FrameMemory();
     Q_DISABLE_COPY_MOVE(FrameMemory)
 
-    /// At least @p size bytes. The first time, and whenever blocks of that size are new, all of
-    /// them are made and touched. More come when those are in use.
+    /// At least @p size bytes. When the size grows, BlockCount blocks are allocated and touched at
+    /// once; further ones are allocated while all of those are in use.
     [[nodiscard]] Block take(std::size_t size);
-    /// Frees what nobody uses.
+    /// Frees the blocks that are not in use.
     void clear();
 
 private:

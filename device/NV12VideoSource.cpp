@@ -1,17 +1,15 @@
 #include "device/NV12VideoSource.h"
 
+#include <QThread>
+
 NV12VideoSource::NV12VideoSource(QObject* parent)
     : QObject(parent)
 {
 }
 
-QVideoSink* NV12VideoSource::videoSink() const
-{
-    return m_videoSink;
-}
-
 void NV12VideoSource::setVideoSink(QVideoSink* sink)
 {
+    Q_ASSERT(QThread::currentThread() == thread());
     if (m_videoSink == sink)
         return;
     if (m_videoSink)
@@ -29,7 +27,8 @@ void NV12VideoSource::setVideoSink(QVideoSink* sink)
 
 void NV12VideoSource::pushFrame(const QVideoFrame& frame)
 {
-    // The frame that is replaced gives its memory back after the lock, as that may take a while.
+    // Declared before the lock: a frame that is replaced returns its memory after the unlock, which
+    // may take a while.
     QVideoFrame replaced = frame;
     const std::scoped_lock lock(m_mutex);
     if (!m_hasSink)

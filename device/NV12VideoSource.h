@@ -8,9 +8,9 @@
 
 /// Brings frames from the video worker to the sink of the monitor window.
 ///
-/// The sink belongs to the thread of this object (main), so frames are handed to it there: the
-/// worker leaves the newest one in a slot and wakes that thread. A slow window sees the newest
-/// frame and the frames between are dropped.
+/// The sink belongs to this object's thread (main) and gets its frames there: the worker stores the
+/// newest frame and wakes that thread. A slow window gets the newest frame; the frames between are
+/// dropped.
 class NV12VideoSource : public QObject
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
     explicit NV12VideoSource(QObject* parent = nullptr);
 
     /// Main thread.
-    QVideoSink* videoSink() const;
-    /// Main thread. The sink is not owned; one that is destroyed is forgotten.
+    QVideoSink* videoSink() const { return m_videoSink; }
+    /// Main thread. The sink is not owned and may be destroyed at any time.
     void setVideoSink(QVideoSink* sink);
 
-    /// Any thread. Dropped while there is no sink.
+    /// Any thread. Frames are dropped while there is no sink.
     void pushFrame(const QVideoFrame& frame);
 
 signals:
@@ -34,8 +34,10 @@ signals:
 private:
     void deliver();
 
-    QVideoSink* m_videoSink = nullptr;
+    QVideoSink* m_videoSink = nullptr; // main thread only
+
     std::mutex m_mutex;
+    // Guarded by m_mutex.
     QVideoFrame m_newest;
     bool m_hasSink = false;
     bool m_deliveryPosted = false;

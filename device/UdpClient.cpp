@@ -5,8 +5,8 @@
 namespace
 {
 
-/// Datagrams are only logged, so a flood may lose its oldest ones rather than fill the memory.
-constexpr std::size_t MaximumQueued = 256; // of 64 KB at most
+/// Datagrams are only logged, so the oldest ones are dropped in a flood to bound the memory used.
+constexpr std::size_t MaximumQueued = 256; // each up to 64 KB
 constexpr int DatagramsPerTurn = 64;
 
 } // namespace
@@ -100,7 +100,7 @@ void UdpClient::readPendingDatagrams()
         }
         m_cond.notify_one();
     }
-    // A sender without pause must not keep the event loop here.
+    // A sender without pause must not hold up the event loop.
     if (m_socket->hasPendingDatagrams())
         QMetaObject::invokeMethod(this, &UdpClient::readPendingDatagrams, Qt::QueuedConnection);
 }

@@ -9,8 +9,8 @@
 #include <deque>
 #include <mutex>
 
-/// Datagrams to and from companion programs on the loopback interface. The socket belongs to the
-/// thread that made this object; waitForDatagram() may be called from any other.
+/// Exchanges datagrams with companion programs on the loopback interface. The socket belongs to the
+/// thread of this object; waitForDatagram() and stop() may be called on any thread.
 class UdpClient : public QObject
 {
     Q_OBJECT
@@ -19,27 +19,28 @@ public:
     explicit UdpClient(QObject* parent = nullptr);
     ~UdpClient() override;
 
-    /// Binds to the loopback address; true also when bound already.
+    /// Binds to the loopback address. True also when the socket is bound already.
     bool bind(quint16 port);
     [[nodiscard]] bool isBound() const;
     void send(const char* data, int len, quint16 port, const QHostAddress& address);
 
-    /// Moves the oldest datagram into `out`; false when none came in time or the client is
-    /// stopping.
+    /// Moves the oldest datagram into @p out. False when none came in time or stop() was called.
     bool waitForDatagram(QNetworkDatagram& out, std::chrono::milliseconds timeout);
-    /// Wakes the waiting thread and lets every later wait fail at once.
+    /// Ends the current wait and makes all later ones return false at once.
     void stop();
 
-    /// The bytes as two upper-case hex digits and a blank each.
+    /// Each byte as two upper-case hex digits followed by a blank.
     static QByteArray hexDump(QByteArrayView bytes);
 
 public slots:
     void readPendingDatagrams();
 
 private:
-    QUdpSocket* m_socket;
+    QUdpSocket* m_socket; // this object's thread only
+
     std::mutex m_mutex;
     std::condition_variable m_cond;
+    // Guarded by m_mutex.
     std::deque<QNetworkDatagram> m_queue;
     bool m_stop = false;
 };

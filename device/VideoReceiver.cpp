@@ -86,7 +86,7 @@ void VideoReceiver::run(const StopRequest& stop)
     Log::info(Function) << "thread start";
     while (!stop.isMade()) {
         if (!isPlaying()) {
-            m_frames.rest();
+            m_frames.freeUnused();
             waitUntilPlaying(stop);
         } else if (m_channel->isOpen() || connectChannel()) {
             waitForFrame(stop);

@@ -18,13 +18,12 @@ struct DeviceRecord {
     bool operator==(const DeviceRecord&) const = default;
 };
 
-/// Appends one record for each present device of the class, in a steady order. False when the class
-/// cannot be listed; `errorCode` is then GetLastError() or errno. Any thread.
+/// Appends one record for each present device of the class, in a stable order. False when the class
+/// cannot be listed; @p errorCode is then GetLastError() or errno. Any thread.
 bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32& errorCode);
 
-/// A number that stays the same while the same devices are there, for much less than a scan costs.
-/// What changes within a device may escape it. Empty where the system offers no such thing. Any
-/// thread.
+/// A number that changes when devices come or go, at a small part of the cost of a scan. Does not
+/// detect changes inside a device. Empty on systems that offer no such number. Any thread.
 std::optional<std::size_t> deviceStamp();
 
 } // namespace platform

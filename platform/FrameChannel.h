@@ -11,10 +11,10 @@ namespace platform
 {
 
 /// Reading end of a named shared memory that another process fills and announces through a named
-/// event. It never creates either object and never writes to the memory.
+/// event. Creates neither object and never writes to the memory.
 ///
-/// One thread reads: every operation but interrupt() belongs to it. The writer is not trusted: it
-/// may die, come back with new objects, or cut the memory short while it is being read.
+/// One thread calls all operations except interrupt(). The writer is not trusted: it may die,
+/// return with new objects, or cut the memory short while it is read.
 class FrameChannel
 {
 public:
@@ -28,7 +28,7 @@ public:
     enum class WaitOutcome {
         Signalled, ///< announced at least once since the last wait
         TimedOut,
-        Interrupted, ///< by interrupt(), now or since the last wait
+        Interrupted, ///< by interrupt(), during this wait or since the last one
         Failed,
     };
 
@@ -41,24 +41,22 @@ public:
     FrameChannel(const FrameChannel&) = delete;
     FrameChannel& operator=(const FrameChannel&) = delete;
 
-    /// Opens mapping, view and event in this order; closes what an earlier attempt left first.
+    /// Closes what is open, then opens mapping, view and event in this order.
     virtual OpenResult open() = 0;
     virtual bool isOpen() const = 0;
     virtual void close() = 0;
 
-    /// Waits until the writer announces a frame. Announcements made while nobody waited count as
-    /// one. A wait that times out or fails closes the channel when the writer has made new objects
-    /// under the old names, or has taken the event away: ask isOpen() afterwards.
+    /// Waits until the writer announces a frame. Announcements made between two waits count as one.
+    /// A wait that times out or fails closes the channel when the writer has made new objects under
+    /// the old names or has taken the event away; isOpen() then returns false.
     virtual WaitResult wait(std::chrono::milliseconds patience) = 0;
 
-    /// Bytes in the view while it is open.
-    virtual std::size_t size() const = 0;
-
-    /// Copies out of the shared memory, in one pass. False when the channel is closed, the range is
-    /// outside the view, or the writer has taken the memory away; `target` is then partly filled.
+    /// Copies out of the shared memory in one pass. False when the channel is closed, the range is
+    /// outside the view, or the writer has cut the memory short; @p target may be partly filled
+    /// then.
     virtual bool copyOut(std::size_t offset, void* target, std::size_t length) = 0;
 
-    /// Ends the current wait, or else the next one. Any thread, as long as the object lives.
+    /// Ends the current wait, or the next one when there is none. Any thread.
     virtual void interrupt() = 0;
 
 protected:

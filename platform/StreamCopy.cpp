@@ -9,8 +9,8 @@
 #ifdef _MSC_VER
 #include <windows.h>
 #define VORN_WIDE_CODE
-// On Windows GCC puts registers of this width on the stack at addresses that they may not have; in
-// optimised code these stay in the processor.
+// On Windows GCC spills registers of this width to stack addresses that lack the alignment they
+// need. Optimised code does not spill them.
 #elif !defined(__MINGW32__) || defined(__OPTIMIZE__)
 #define VORN_WIDE_CODE __attribute__((target("avx512f")))
 #endif
@@ -23,11 +23,11 @@ namespace
 
 constexpr std::size_t LineSize = 64;
 constexpr std::size_t ReadAhead = 16 * LineSize;
-/// What is smaller is better kept in the caches.
+/// Smaller blocks are better kept in the caches.
 constexpr std::size_t SmallestStreamed = 1 << 20;
 
-// Both copy whole lines to a target that is aligned to one. A prefetch beyond the end of the source
-// is no access: it never faults.
+// Both functions copy whole cache lines to an aligned target. Prefetching beyond the end of the
+// source is harmless: a prefetch never faults.
 
 void streamLines(char* target, const char* source, std::size_t lines)
 {
@@ -69,8 +69,8 @@ bool hasWideRegisters()
 
 using StreamLines = void (*)(char* target, const char* source, std::size_t lines);
 
-/// A line written at once is what some processors need to leave their caches out of it.
-StreamLines bestOfProcessor()
+/// Some processors bypass their caches only when a line is written by one instruction.
+StreamLines chooseStreamLines()
 {
 #ifdef VORN_WIDE_CODE
     if (hasWideRegisters())
@@ -81,13 +81,13 @@ StreamLines bestOfProcessor()
 
 void stream(char* target, const char* source, std::size_t length)
 {
-    static const StreamLines s_streamLines = bestOfProcessor();
+    static const StreamLines s_streamLines = chooseStreamLines();
     const std::size_t head =
         (LineSize - reinterpret_cast<std::uintptr_t>(target) % LineSize) % LineSize;
     std::memcpy(target, source, head);
     const std::size_t lines = (length - head) / LineSize;
     s_streamLines(target + head, source + head, lines);
-    // Streamed writes are seen by other threads in no order without this.
+    // Without the fence, other threads may see streamed writes in any order.
     _mm_sfence();
     const std::size_t done = head + lines * LineSize;
     std::memcpy(target + done, source + done, length - done);

@@ -5,11 +5,11 @@
 namespace platform
 {
 
-/// Copies like memcpy. A large block is written past the processor's caches where it can be: one
-/// that does not fit them would only push out what else is in use, and written through them its
-/// target is read from memory first. Frames take about a quarter less time that way.
+/// Copies like memcpy, but writes large blocks past the processor's caches where possible. A block
+/// that does not fit into the caches would only evict other data, and a cached write first reads
+/// its target from memory. Frames are copied about a quarter faster this way.
 ///
-/// Owns nothing, so that it may be left by a jump.
+/// Owns nothing, so a signal handler may jump out of it.
 void streamCopy(void* target, const void* source, std::size_t length);
 
 } // namespace platform

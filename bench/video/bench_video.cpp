@@ -75,7 +75,6 @@ public:
     OpenResult open() override { return m_channel->open(); }
     bool isOpen() const override { return m_channel->isOpen(); }
     void close() override { m_channel->close(); }
-    std::size_t size() const override { return m_channel->size(); }
     void interrupt() override { m_channel->interrupt(); }
     bool copyOut(std::size_t offset, void* target, std::size_t length) override
     {

@@ -20,13 +20,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr std::size_t kAttributeLimit = 4096;
-constexpr int kMaxLinks = 4; // card, interface, device; more is a tree that leads in circles
+constexpr std::size_t AttributeLimit = 4096;
+constexpr int MaximumPlaces = 4; // entry, card, interface, device; more means a circle of links
 
 struct ClassFolder {
     QLatin1StringView path;
     QLatin1StringView prefix;
-    QLatin1StringView suffixes; // one of these characters has to be the last one; empty: a digit
+    QLatin1StringView suffixes; // allowed last characters; empty: any digit
 };
 
 ClassFolder classFolder(platform::DeviceClass deviceClass)
@@ -50,8 +50,8 @@ bool belongsTo(const ClassFolder& folder, const QString& name)
     return folder.suffixes.isEmpty() ? last.isDigit() : folder.suffixes.contains(last);
 }
 
-/// Where a path leads to, free of links; empty when there is nothing. The kernel is asked once,
-/// while realpath() asks it for each part of the path.
+/// The path with its links resolved; empty when it leads nowhere. Takes one look-up in the kernel,
+/// where realpath() takes one for each part of the path.
 QString placeOf(const QString& path)
 {
     const int fd = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
@@ -77,11 +77,11 @@ public:
 
     [[nodiscard]] platform::DeviceRecord describe(const QString& entry) const
     {
-        // From the entry towards the hardware: its own place, then where `device` leads.
+        // From the entry towards the hardware, along the `device` links.
         QStringList places{placeOf(entry)};
         if (const QString card = cardOf(entry); !card.isEmpty())
             places << card;
-        for (int i = 0; i < places.size() && places.size() < kMaxLinks; ++i) {
+        for (int i = 0; i < places.size() && places.size() < MaximumPlaces; ++i) {
             const QString next = placeOf(places[i] + "/device"_L1);
             if (!next.isEmpty() && !places.contains(next))
                 places << next;
@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    // A stream of a sound card (pcmC1D0c) is named after the card (card1).
+    // The sound card (card1) that a stream (pcmC1D0c) belongs to.
     [[nodiscard]] static QString cardOf(const QString& entry)
     {
         const QFileInfo info(entry);
@@ -138,15 +138,15 @@ private:
         return usbDevice.isEmpty() ? QString() : attribute(usbDevice, "product"_L1);
     }
 
-    // Empty when there is none, as devices vanish while they are listed, and when it is a folder,
-    // as the `id` of a bus is. An attribute is read in one piece.
+    // Empty when the attribute does not exist, since devices can vanish during the scan, or is a
+    // folder, as the `id` of a bus is.
     [[nodiscard]] static QString attribute(const QString& folder, QLatin1StringView name)
     {
         const QByteArray path = QFile::encodeName(folder + u'/' + name);
         const int fd = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
         if (fd < 0)
             return {};
-        std::array<char, kAttributeLimit> text;
+        std::array<char, AttributeLimit> text;
         const auto length = ::read(fd, text.data(), text.size());
         ::close(fd);
         return length > 0 ? QString::fromUtf8(text.data(), length).trimmed() : QString();
@@ -161,22 +161,21 @@ QString rootOfTree()
     return configured.isEmpty() ? u"/sys"_s : configured;
 }
 
-// QDir cannot tell an empty folder from one that may not be read.
+// Returns errno or 0. QDir does not distinguish an empty folder from an unreadable one.
 int listFolder(const QString& path, QStringList& names)
 {
     DIR* const folder = ::opendir(QFile::encodeName(path).constData());
     if (!folder)
         return errno;
-    // One thread reads this stream, which is all that readdir() asks for.
+    // Only this thread reads the stream, which is what readdir() requires.
     while (const dirent* entry = ::readdir(folder)) // NOLINT(concurrency-mt-unsafe)
         names << QFile::decodeName(entry->d_name);
     ::closedir(folder);
     return 0;
 }
 
-/// Of the folder's own change and of its entries, in whatever order they are listed. A device that
-/// comes back is a new entry; where the entries are links they are not followed, which is what
-/// would cost most of a look that is taken every second.
+/// Hash of the folder's modification time and its entries, independent of order. Links are not
+/// followed: that would dominate a check made once a second.
 std::size_t stampOfFolder(const QByteArray& path)
 {
     DIR* const folder = ::opendir(path.constData());

@@ -20,7 +20,7 @@ namespace
 
 using platform::FrameChannel;
 
-/// What tells one shared-memory object from another of the same name.
+/// Distinguishes shared-memory objects that had the same name.
 struct ObjectId {
     dev_t device = 0;
     ino_t inode = 0;
@@ -39,8 +39,8 @@ timespec deadlineAfter(std::chrono::milliseconds patience)
     return time;
 }
 
-/// POSIX shared memory and semaphore. Every access to either is guarded, since its owner can cut
-/// both short at any time.
+/// POSIX shared memory and semaphore. Every access is guarded, since the writer can truncate both
+/// at any time.
 class PosixFrameChannel final : public FrameChannel
 {
 public:
@@ -65,7 +65,6 @@ public:
 
     [[nodiscard]] bool isOpen() const override { return m_view && m_event; }
     void close() override { closeObjects(); }
-    [[nodiscard]] std::size_t size() const override { return isOpen() ? m_viewSize : 0; }
 
     WaitResult wait(std::chrono::milliseconds patience) override
     {
@@ -98,7 +97,7 @@ public:
 
     void interrupt() override
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_interrupted = true;
         int result = -1;
         if (m_event && platform::guarded([&] { result = ::sem_post(m_event); }) && result == 0)
@@ -119,12 +118,13 @@ private:
         sem_t* const event = ::sem_open(m_eventName.c_str(), 0);
         if (event == SEM_FAILED)
             return {OpenStep::Event, static_cast<quint32>(errno)};
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_event = event;
         return {OpenStep::Done, 0};
     }
 
-    // errno, or 0. The mapping keeps the object alive, so that its inode number stays its own.
+    // Returns errno or 0. The mapping keeps the object alive, so its inode number is not used
+    // again.
     int mapView(int fd)
     {
         struct stat status = {};
@@ -132,7 +132,7 @@ private:
             return errno;
         if (status.st_size < 0 || static_cast<quint64>(status.st_size) < m_viewSize)
             return ENXIO;
-        // Page faults are taken here rather than during the first frame.
+        // Populated now, so that the first frame takes no page faults.
         void* const view = ::mmap(nullptr, m_viewSize, PROT_READ, MAP_SHARED | MAP_POPULATE, fd, 0);
         if (view == MAP_FAILED)
             return errno;
@@ -145,17 +145,17 @@ private:
     {
         if (m_view)
             ::munmap(std::exchange(m_view, nullptr), m_viewSize);
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         if (!m_event)
             return;
         takeBackOwnPosts(0);
         ::sem_close(std::exchange(m_event, nullptr));
     }
 
-    // errno, or 0 when a post was taken.
+    // Returns errno, or 0 when a post was taken.
     int waitForPost(const timespec& deadline)
     {
-        int error = EFAULT; // the semaphore's memory is gone
+        int error = EFAULT; // the semaphore's memory was taken away
         const bool intact = platform::guarded([&] {
             int result = 0;
             do
@@ -166,9 +166,9 @@ private:
         return intact ? error : EFAULT;
     }
 
-    // An event knows only "set" and "not set", however often it was set. The count is asked once,
-    // so that a writer who posts without pause cannot hold the reader here; it lies in memory that
-    // the writer can change, so that a huge one must not hold up an interruption either.
+    // Makes the semaphore behave like an auto-reset event, which does not count. The count is read
+    // once, so that a writer that posts without pause cannot keep the reader here. The writer can
+    // set any count, so the loop also ends on an interruption.
     void takePendingPosts()
     {
         const bool intact = platform::guarded([this] {
@@ -177,13 +177,13 @@ private:
             while (pending-- > 0 && !m_interrupted && ::sem_trywait(m_event) == 0) {
             }
         });
-        Q_UNUSED(intact) // the copy that follows tells
+        Q_UNUSED(intact) // a lost mapping is reported by the copyOut() that follows
     }
 
-    // True when interrupt() was called; `taken` posts have left the semaphore already.
+    // True when interrupt() was called. The caller has already taken `taken` posts.
     bool takeInterrupt(int taken)
     {
-        const std::lock_guard lock(m_mutex);
+        const std::scoped_lock lock(m_mutex);
         if (!m_interrupted)
             return false;
         m_interrupted = false;
@@ -191,7 +191,7 @@ private:
         return true;
     }
 
-    // The posts of interrupt() must not look like frames to a later wait. Needs the mutex.
+    // Removes the posts of interrupt(), which a later wait would take for frames. Needs the mutex.
     void takeBackOwnPosts(int taken)
     {
         const int count = std::exchange(m_ownPosts, 0) - taken;
@@ -201,7 +201,7 @@ private:
             for (int i = 0; i < count && ::sem_trywait(m_event) == 0; ++i) {
             }
         });
-        Q_UNUSED(intact) // nothing left to take back
+        Q_UNUSED(intact) // without its memory there is nothing to remove
     }
 
     [[nodiscard]] bool isReplaced() const
@@ -214,7 +214,7 @@ private:
             if (known && ObjectId{status.st_dev, status.st_ino} != m_mappingId)
                 return true;
         }
-        // Opening a semaphore that this process has open gives the same address again.
+        // Opening a semaphore that this process has open returns the same address.
         sem_t* const event = ::sem_open(m_eventName.c_str(), 0);
         if (event == SEM_FAILED)
             return false;
@@ -227,15 +227,17 @@ private:
     const std::string m_eventName;
     const std::size_t m_viewSize;
 
-    // The reading thread's own.
+    // Reading thread only.
     void* m_view = nullptr;
     ObjectId m_mappingId;
 
-    // m_event is changed by the reading thread under the mutex, hence read by it without.
     std::mutex m_mutex;
+    // Written by the reading thread under m_mutex; other threads read it under m_mutex.
     sem_t* m_event = nullptr;
-    std::atomic_bool m_interrupted = false; // written under the mutex
-    int m_ownPosts = 0;                     // made by interrupt() and perhaps still pending
+    // Written under m_mutex.
+    std::atomic_bool m_interrupted = false;
+    // Guarded by m_mutex.
+    int m_ownPosts = 0; // posts of interrupt() that may still be pending
 };
 
 } // namespace

@@ -10,30 +10,30 @@
 namespace
 {
 
-// Setup classes and property keys as the device installer documents them; spelled out here, since
-// the system's headers define them only for one source file of a program.
-constexpr GUID kMediaClass{
+// Setup classes and property keys as documented for the device installer. They are repeated here
+// because the system's headers define them in one source file of a program only.
+constexpr GUID MediaClass{
     0x4D36E96C, 0xE325, 0x11CE, {0xBF, 0xC1, 0x08, 0x00, 0x2B, 0xE1, 0x03, 0x18}};
-constexpr GUID kCameraClass{
+constexpr GUID CameraClass{
     0xCA3E7AB9, 0xB4C3, 0x4AE6, {0x82, 0x51, 0x57, 0x9E, 0xF9, 0x33, 0x89, 0x0F}};
-constexpr GUID kAudioEndpointClass{
+constexpr GUID AudioEndpointClass{
     0xC166523C, 0xFE0C, 0x4A94, {0xA5, 0x86, 0xF1, 0xA8, 0x0C, 0xFB, 0xBF, 0x3E}};
-constexpr DEVPROPKEY kInstanceId{
+constexpr DEVPROPKEY InstanceIdKey{
     {0x78C34FC8, 0x104A, 0x4ACA, {0x9E, 0xA4, 0x52, 0x4D, 0x52, 0x99, 0x6E, 0x57}}, 256};
-constexpr DEVPROPKEY kFriendlyName{
+constexpr DEVPROPKEY FriendlyNameKey{
     {0xA45C254E, 0xDF1C, 0x4EFD, {0x80, 0x20, 0x67, 0xD1, 0x46, 0xA8, 0x50, 0xE0}}, 14};
 
 const GUID& classGuid(platform::DeviceClass deviceClass)
 {
     switch (deviceClass) {
     case platform::DeviceClass::Camera:
-        return kCameraClass;
+        return CameraClass;
     case platform::DeviceClass::AudioEndpoint:
-        return kAudioEndpointClass;
+        return AudioEndpointClass;
     case platform::DeviceClass::Media:
         break;
     }
-    return kMediaClass;
+    return MediaClass;
 }
 
 /// The present devices of one setup class.
@@ -65,10 +65,10 @@ public:
     [[nodiscard]] QString property(SP_DEVINFO_DATA& data, const DEVPROPKEY& key) const
     {
         std::array<wchar_t, 512> buffer{};
-        constexpr DWORD kBytes = sizeof(buffer) - sizeof(wchar_t); // keeps the terminator
+        constexpr DWORD Size = sizeof(buffer) - sizeof(wchar_t); // keeps the terminator
         DEVPROPTYPE type = 0;
         if (!SetupDiGetDevicePropertyW(m_set, &data, &key, &type,
-                                       reinterpret_cast<BYTE*>(buffer.data()), kBytes, nullptr, 0))
+                                       reinterpret_cast<BYTE*>(buffer.data()), Size, nullptr, 0))
             return {};
         return QString::fromWCharArray(buffer.data());
     }
@@ -91,8 +91,8 @@ bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32&
     }
     SP_DEVINFO_DATA data;
     for (DWORD index = 0; devices.device(index, data); ++index)
-        records << DeviceRecord{devices.property(data, kInstanceId),
-                                devices.property(data, kFriendlyName)};
+        records << DeviceRecord{devices.property(data, InstanceIdKey),
+                                devices.property(data, FriendlyNameKey)};
     errorCode = 0;
     return true;
 }

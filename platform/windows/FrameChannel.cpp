@@ -22,7 +22,7 @@ struct ViewCloser {
 };
 using UniqueView = std::unique_ptr<const void, ViewCloser>;
 
-/// Memory may be mapped that is only reserved, and reading that would end the program.
+/// Memory that is only reserved can be mapped, but reading it would crash.
 bool isCommitted(const void* view, std::size_t size)
 {
     const auto* const end = static_cast<const std::byte*>(view) + size;
@@ -35,8 +35,8 @@ bool isCommitted(const void* view, std::size_t size)
     return true;
 }
 
-/// Named file mapping and auto-reset event. Neither can shrink, and both names live on with the
-/// writer's successor, so there is nothing to look after between two frames.
+/// Named file mapping and auto-reset event. Neither can shrink, and a restarted writer opens the
+/// same objects as long as this process has them open, so nothing has to be checked between frames.
 class KernelFrameChannel final : public FrameChannel
 {
 public:
@@ -78,7 +78,7 @@ public:
 
     WaitResult wait(std::chrono::milliseconds patience) override
     {
-        // The interruption comes first, as the lower index wins when both are set.
+        // The interruption comes first: the lower index is reported when both are set.
         const std::array<HANDLE, 2> handles{m_interrupt.get(), m_event.get()};
         const DWORD count = m_event ? 2 : 1;
         const auto time = isOpen() ? static_cast<DWORD>(patience.count()) : 0;
@@ -95,8 +95,6 @@ public:
             return {WaitOutcome::Failed, GetLastError()};
         }
     }
-
-    [[nodiscard]] std::size_t size() const override { return isOpen() ? m_viewSize : 0; }
 
     bool copyOut(std::size_t offset, void* target, std::size_t length) override
     {
@@ -121,7 +119,7 @@ private:
     const std::size_t m_viewSize;
     const UniqueHandle m_interrupt;
     UniqueHandle m_mapping;
-    UniqueView m_view; // gone before the mapping is
+    UniqueView m_view; // unmapped before the mapping is closed
     UniqueHandle m_event;
 };
 

@@ -8,8 +8,8 @@
 #include <functional>
 #include <vector>
 
-/// Shared memory without another process. The test plays the writer: it is asked each time the
-/// receiver waits, on the receiver's thread.
+/// Shared memory without another process. The test plays the writer in a function that each wait
+/// calls, on the receiver's thread.
 class FakeFrameChannel : public platform::FrameChannel
 {
 public:
@@ -30,7 +30,6 @@ public:
     bool isOpen() const override { return m_isOpen; }
     void close() override { m_isOpen = false; }
     WaitResult wait(std::chrono::milliseconds) override { return m_writer(*this); }
-    std::size_t size() const override { return m_isOpen ? m_view.size() : 0; }
     void interrupt() override {}
 
     bool copyOut(std::size_t offset, void* target, std::size_t length) override
@@ -63,6 +62,7 @@ public:
 
 private:
     const Writer m_writer;
-    std::vector<uchar> m_view; // of the exact size, so that a sanitizer sees the first byte beyond
+    std::vector<uchar>
+        m_view; // of the exact size, so that a sanitizer reports the first byte beyond
     bool m_isOpen = false;
 };

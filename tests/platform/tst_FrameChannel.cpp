@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <future>
 #include <limits>
-#include <thread>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -18,15 +17,21 @@ using Outcome = FrameChannel::WaitOutcome;
 namespace
 {
 
-constexpr std::size_t kViewSize = 1 << 20;
-// What the system answers for a name that is not there, and for a view beyond the end.
-constexpr quint32 kNoSuchName = kIsWindows ? 2 : ENOENT;
-constexpr quint32 kTooSmall = kIsWindows ? 5 : ENXIO;
-constexpr std::chrono::milliseconds kShort{30}; // nothing will come
-constexpr std::chrono::seconds kLong{20};       // something will come
+constexpr std::size_t ViewSize = 1 << 20;
+// Error codes for a name that does not exist, and for a view larger than the memory.
+constexpr quint32 NoSuchName = kIsWindows ? 2 : ENOENT;
+constexpr quint32 TooSmall = kIsWindows ? 5 : ENXIO;
+constexpr std::chrono::milliseconds Short{30}; // for waits that time out
+constexpr std::chrono::seconds Long{20};       // for waits that end earlier
+
+QByteArray mappingCommand(std::size_t size)
+{
+    return "mapping " + QByteArray::number(qulonglong(size));
+}
 
 } // namespace
 
+/// Reads what a writer in another process does, correct or not.
 class tst_FrameChannel : public QObject
 {
     Q_OBJECT
@@ -36,21 +41,24 @@ private slots:
     void cleanup();
 
     void opensInThreeSteps();
-    void countsPostsMadeMeanwhileAsOne();
+    void postsBetweenWaitsCountAsOne();
     void copiesOnlyFromTheView();
-    void findsTheWriterReplaced_data();
-    void findsTheWriterReplaced();
-    void keepsTheObjectsOfAWriterThatIsGone();
-    void survivesMemoryTakenAway();
-    void survivesMemoryTakenAwayWhileCopying();
-    void refusesMemoryThatIsOnlyReserved();
-    void survivesAnEventTakenAway();
-    void isInterruptedWhileWaiting();
-    void isInterruptedBeforeWaiting();
+    void noticesRenewedObjects_data();
+    void noticesRenewedObjects();
+    void keepsTheObjectsOfADeadWriter();
+    void survivesTruncatedMemory();
+    void refusesReservedMemory();
+    void survivesATruncatedEvent();
+    void interruptEndsAWait();
+    void interruptEndsTheNextWait();
 
 private:
-    bool startWriter(HelperProcess& writer) const;
-    static QByteArray mappingCommand(std::size_t size);
+    bool startWriter();
+    bool openAll();
+    Outcome wait(std::chrono::milliseconds patience = Long)
+    {
+        return m_channel->wait(patience).outcome;
+    }
 
     QString m_mapping;
     QString m_event;
@@ -58,14 +66,17 @@ private:
     std::unique_ptr<HelperProcess> m_writer;
 };
 
-QByteArray tst_FrameChannel::mappingCommand(std::size_t size)
+bool tst_FrameChannel::startWriter()
 {
-    return "mapping " + QByteArray::number(static_cast<qulonglong>(size));
+    m_writer = std::make_unique<HelperProcess>();
+    return m_writer->startAndWait(HelperProcess::path(u"frame_writer"_s), {m_mapping, m_event});
 }
 
-bool tst_FrameChannel::startWriter(HelperProcess& writer) const
+/// Has both objects made and opens them.
+bool tst_FrameChannel::openAll()
 {
-    return writer.startAndWait(HelperProcess::path(u"frame_writer"_s), {m_mapping, m_event});
+    return m_writer->command(mappingCommand(ViewSize)) && m_writer->command("event") &&
+           m_channel->open().failedAt == Step::Done;
 }
 
 void tst_FrameChannel::init()
@@ -73,9 +84,8 @@ void tst_FrameChannel::init()
     m_mapping = uniqueName(u"vorn_test_frames_"_s);
     m_event = uniqueName(u"vorn_test_event_"_s);
     m_channel =
-        platform::makeFrameChannel(m_mapping.toStdString(), m_event.toStdString(), kViewSize);
-    m_writer = std::make_unique<HelperProcess>();
-    QVERIFY(startWriter(*m_writer));
+        platform::makeFrameChannel(m_mapping.toStdString(), m_event.toStdString(), ViewSize);
+    QVERIFY(startWriter());
 }
 
 void tst_FrameChannel::cleanup()
@@ -86,63 +96,52 @@ void tst_FrameChannel::cleanup()
 
 void tst_FrameChannel::opensInThreeSteps()
 {
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Failed);
-
-    auto result = m_channel->open();
-    QCOMPARE(result.failedAt, Step::Mapping);
-    QCOMPARE(result.error, kNoSuchName);
-
-    QVERIFY(m_writer->command(mappingCommand(kViewSize / 2)));
-    result = m_channel->open();
-    QCOMPARE(result.failedAt, Step::View);
-    QCOMPARE(result.error, kTooSmall);
-
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)));
-    result = m_channel->open();
-    QCOMPARE(result.failedAt, Step::Event);
-    QCOMPARE(result.error, kNoSuchName);
-    QVERIFY(!m_channel->isOpen());
-
+    QCOMPARE(wait(), Outcome::Failed);
+    const auto failsAt = [this](Step step, quint32 error) {
+        const auto result = m_channel->open();
+        return result.failedAt == step && result.error == error && !m_channel->isOpen();
+    };
+    QVERIFY(failsAt(Step::Mapping, NoSuchName));
+    QVERIFY(m_writer->command(mappingCommand(ViewSize / 2)));
+    QVERIFY(failsAt(Step::View, TooSmall));
+    QVERIFY(m_writer->command(mappingCommand(ViewSize)));
+    QVERIFY(failsAt(Step::Event, NoSuchName));
     QVERIFY(m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     QVERIFY(m_channel->isOpen());
-    QCOMPARE(m_channel->size(), kViewSize);
 }
 
-void tst_FrameChannel::countsPostsMadeMeanwhileAsOne()
+void tst_FrameChannel::postsBetweenWaitsCountAsOne()
 {
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
-
+    QVERIFY(openAll());
     QVERIFY(m_writer->command("post 1000"));
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Signalled);
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
+    QCOMPARE(wait(), Outcome::Signalled);
+    QCOMPARE(wait(Short), Outcome::TimedOut);
     QVERIFY(m_channel->isOpen());
-
     QVERIFY(m_writer->command("post 1"));
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Signalled);
+    QCOMPARE(wait(), Outcome::Signalled);
 }
 
 void tst_FrameChannel::copiesOnlyFromTheView()
 {
-    QVERIFY(m_writer->command(mappingCommand(kViewSize + 100)) && m_writer->command("event"));
+    QVERIFY(m_writer->command(mappingCommand(ViewSize + 100)) && m_writer->command("event"));
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     QVERIFY(m_writer->command("fill 65"));
 
-    std::vector<char> copy(kViewSize + 100);
-    QVERIFY(m_channel->copyOut(0, copy.data(), kViewSize));
-    QCOMPARE(std::count(copy.begin(), copy.end(), 'A'), std::ptrdiff_t(kViewSize));
-    QVERIFY(m_channel->copyOut(kViewSize - 1, copy.data(), 1));
-    QVERIFY(m_channel->copyOut(kViewSize, copy.data(), 0));
+    std::vector<char> copy(ViewSize + 100);
+    QVERIFY(m_channel->copyOut(0, copy.data(), ViewSize));
+    QCOMPARE(std::count(copy.begin(), copy.end(), 'A'), std::ptrdiff_t(ViewSize));
+    QVERIFY(m_channel->copyOut(ViewSize - 1, copy.data(), 1));
+    QVERIFY(m_channel->copyOut(ViewSize, copy.data(), 0));
 
-    QVERIFY(!m_channel->copyOut(0, copy.data(), kViewSize + 1));
-    QVERIFY(!m_channel->copyOut(kViewSize - 1, copy.data(), 2));
+    QVERIFY(!m_channel->copyOut(0, copy.data(), ViewSize + 1));
+    QVERIFY(!m_channel->copyOut(ViewSize - 1, copy.data(), 2));
     QVERIFY(!m_channel->copyOut(std::numeric_limits<std::size_t>::max(), copy.data(), 2));
     m_channel->close();
     QVERIFY(!m_channel->copyOut(0, copy.data(), 1));
 }
 
-void tst_FrameChannel::findsTheWriterReplaced_data()
+void tst_FrameChannel::noticesRenewedObjects_data()
 {
     QTest::addColumn<bool>("newMapping");
     QTest::addColumn<bool>("newEvent");
@@ -151,146 +150,123 @@ void tst_FrameChannel::findsTheWriterReplaced_data()
     QTest::newRow("event") << false << true;
 }
 
-void tst_FrameChannel::findsTheWriterReplaced()
+void tst_FrameChannel::noticesRenewedObjects()
 {
     if (kIsWindows)
-        QSKIP("A name outlives its writer there while it is used.");
+        QSKIP("Names outlive their writer on Windows.");
     QFETCH(bool, newMapping);
     QFETCH(bool, newEvent);
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QVERIFY(m_writer->command("fill 65"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
+    QVERIFY(openAll() && m_writer->command("fill 65"));
 
     if (newMapping)
-        QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("fill 66"));
+        QVERIFY(m_writer->command(mappingCommand(ViewSize)) && m_writer->command("fill 66"));
     if (newEvent)
         QVERIFY(m_writer->command("event"));
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
+    QCOMPARE(wait(Short), Outcome::TimedOut);
     QVERIFY(!m_channel->isOpen());
 
     QCOMPARE(m_channel->open().failedAt, Step::Done);
     QVERIFY(m_writer->command("post 1"));
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Signalled);
+    QCOMPARE(wait(), Outcome::Signalled);
     char byte = 0;
-    QVERIFY(m_channel->copyOut(kViewSize - 1, &byte, 1));
+    QVERIFY(m_channel->copyOut(ViewSize - 1, &byte, 1));
     QCOMPARE(byte, newMapping ? 'B' : 'A');
 }
 
-void tst_FrameChannel::keepsTheObjectsOfAWriterThatIsGone()
+void tst_FrameChannel::keepsTheObjectsOfADeadWriter()
 {
     if (kIsWindows)
-        QSKIP("A name outlives its writer there while it is used.");
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
+        QSKIP("Names outlive their writer on Windows.");
+    QVERIFY(openAll());
     m_writer->closeWriteChannel();
     QVERIFY(m_writer->waitForFinished()); // it has removed both names
 
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
+    QCOMPARE(wait(Short), Outcome::TimedOut);
     QVERIFY(m_channel->isOpen());
     char byte = 1;
     QVERIFY(m_channel->copyOut(0, &byte, 1));
-
-    HelperProcess successor;
-    QVERIFY(startWriter(successor));
-    QVERIFY(successor.command(mappingCommand(kViewSize)) && successor.command("event"));
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
-    QVERIFY(!m_channel->isOpen());
 }
 
-void tst_FrameChannel::survivesMemoryTakenAway()
+void tst_FrameChannel::survivesTruncatedMemory()
 {
     if (kIsWindows)
-        QSKIP("Memory cannot be cut short there.");
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
-    std::vector<char> copy(kViewSize);
-    for (int i = 0; i < 3; ++i) { // the signal must come through each time
+        QSKIP("Windows cannot truncate shared memory.");
+    QVERIFY(openAll());
+    std::vector<char> copy(ViewSize);
+    for (int i = 0; i < 3; ++i) { // each time, since a signal handler could work only once
         QVERIFY(m_writer->command("resize 4096"));
         QVERIFY(!m_channel->copyOut(0, copy.data(), copy.size()));
         QVERIFY(m_channel->copyOut(0, copy.data(), 4096));
-        QVERIFY(m_writer->command("resize " + QByteArray::number(qulonglong(kViewSize))));
+        QVERIFY(m_writer->command("resize " + QByteArray::number(qulonglong(ViewSize))));
         QVERIFY(m_channel->copyOut(0, copy.data(), copy.size()));
     }
-}
 
-void tst_FrameChannel::survivesMemoryTakenAwayWhileCopying()
-{
-    if (kIsWindows)
-        QSKIP("Memory cannot be cut short there.");
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
+    // While it is copied.
     m_writer->write("flap 20000\n");
     m_writer->waitForBytesWritten();
-
-    std::vector<char> copy(kViewSize);
     while (m_writer->bytesAvailable() == 0) {
-        [[maybe_unused]] const bool whole = m_channel->copyOut(0, copy.data(), copy.size());
+        [[maybe_unused]] const bool isWhole = m_channel->copyOut(0, copy.data(), copy.size());
         m_writer->waitForReadyRead(0);
     }
     QCOMPARE(m_writer->nextLine(), "ok");
     QVERIFY(m_channel->copyOut(0, copy.data(), copy.size()));
 }
 
-void tst_FrameChannel::refusesMemoryThatIsOnlyReserved()
+void tst_FrameChannel::refusesReservedMemory()
 {
     if (!kIsWindows)
-        QSKIP("Shared memory is all there when it is mapped.");
-    QVERIFY(m_writer->command("reserve " + QByteArray::number(qulonglong(kViewSize))));
+        QSKIP("Linux has no memory that is only reserved.");
+    QVERIFY(m_writer->command("reserve " + QByteArray::number(qulonglong(ViewSize))));
     const auto result = m_channel->open();
     QCOMPARE(result.failedAt, Step::View);
     QCOMPARE(result.error, quint32(487)); // ERROR_INVALID_ADDRESS
 }
 
-void tst_FrameChannel::survivesAnEventTakenAway()
+void tst_FrameChannel::survivesATruncatedEvent()
 {
     if (kIsWindows)
-        QSKIP("An event cannot be taken away there.");
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
+        QSKIP("Windows cannot truncate an event.");
+    QVERIFY(openAll());
     QVERIFY(m_writer->command("cut-event"));
     m_channel->interrupt();
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Interrupted);
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Failed);
+    QCOMPARE(wait(), Outcome::Interrupted);
+    QCOMPARE(wait(), Outcome::Failed);
     QVERIFY(!m_channel->isOpen());
 }
 
-void tst_FrameChannel::isInterruptedWhileWaiting()
+void tst_FrameChannel::interruptEndsAWait()
 {
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
-
+    QVERIFY(openAll());
     for (int i = 0; i < 200; ++i) {
-        auto outcome =
-            std::async(std::launch::async, [this] { return m_channel->wait(kLong).outcome; });
+        auto outcome = std::async(std::launch::async, [this] { return wait(); });
         m_channel->interrupt();
         QCOMPARE(outcome.get(), Outcome::Interrupted);
     }
-    // The interruptions have left nothing behind that looks like a frame.
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
+    // No interruption is left that a wait would take for a frame.
+    QCOMPARE(wait(Short), Outcome::TimedOut);
 }
 
-void tst_FrameChannel::isInterruptedBeforeWaiting()
+void tst_FrameChannel::interruptEndsTheNextWait()
 {
     m_channel->interrupt();
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Interrupted);
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Failed); // not open
+    QCOMPARE(wait(), Outcome::Interrupted);
+    QCOMPARE(wait(), Outcome::Failed); // not open
 
-    QVERIFY(m_writer->command(mappingCommand(kViewSize)) && m_writer->command("event"));
-    QCOMPARE(m_channel->open().failedAt, Step::Done);
+    QVERIFY(openAll());
     m_channel->interrupt();
     m_channel->interrupt();
     QVERIFY(m_writer->command("post 1"));
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Interrupted);
-    QCOMPARE(m_channel->wait(kLong).outcome, Outcome::Signalled); // the frame is not lost
-    QCOMPARE(m_channel->wait(kShort).outcome, Outcome::TimedOut);
+    QCOMPARE(wait(), Outcome::Interrupted);
+    QCOMPARE(wait(), Outcome::Signalled); // the frame is not lost
+    QCOMPARE(wait(Short), Outcome::TimedOut);
 
-    // Nor does a closed channel leave its interruption to the next reader.
+    // A channel that is closed leaves no interruption to the next reader.
     m_channel->interrupt();
     m_channel->close();
     const auto other =
-        platform::makeFrameChannel(m_mapping.toStdString(), m_event.toStdString(), kViewSize);
+        platform::makeFrameChannel(m_mapping.toStdString(), m_event.toStdString(), ViewSize);
     QCOMPARE(other->open().failedAt, Step::Done);
-    QCOMPARE(other->wait(kShort).outcome, Outcome::TimedOut);
+    QCOMPARE(other->wait(Short).outcome, Outcome::TimedOut);
 }
 
 QTEST_GUILESS_MAIN(tst_FrameChannel)

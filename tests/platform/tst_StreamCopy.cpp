@@ -9,11 +9,11 @@ class tst_StreamCopy : public QObject
     Q_OBJECT
 
 private slots:
-    void copiesAllAndNothingElse_data();
-    void copiesAllAndNothingElse();
+    void copiesExactlyTheRange_data();
+    void copiesExactlyTheRange();
 };
 
-void tst_StreamCopy::copiesAllAndNothingElse_data()
+void tst_StreamCopy::copiesExactlyTheRange_data()
 {
     constexpr qsizetype LargeBlock = 1 << 20;
     QTest::addColumn<qsizetype>("length");
@@ -23,7 +23,7 @@ void tst_StreamCopy::copiesAllAndNothingElse_data()
         QTest::addRow("%td bytes", std::ptrdiff_t(length)) << length;
 }
 
-void tst_StreamCopy::copiesAllAndNothingElse()
+void tst_StreamCopy::copiesExactlyTheRange()
 {
     QFETCH(const qsizetype, length);
     constexpr qsizetype Margin = 128;
