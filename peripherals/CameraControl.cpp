@@ -41,7 +41,7 @@ void CameraControl::setAutoFraming(bool newAutoFraming, Direction direction)
         return;
 
     m_channel.send(Function, DealChannelMsg::buildAutoFraming(newAutoFraming));
-    // The display forgets smart framing while automatic framing is off.
+    // The display leaves smart framing when automatic framing is switched off.
     if (newAutoFraming && m_smartFraming)
         m_channel.send(Function, DealChannelMsg::buildSmartFraming(true));
 }

@@ -9,10 +9,10 @@
 class MessageChannel;
 
 /// Steers the display's camera for the user interface: movement and zoom while a button is held,
-/// presets, automatic framing. Every command is one message to the display; nothing is repeated
-/// when the display does not hear it.
+/// presets, automatic framing. Every command is one message to the display; lost messages are not
+/// repeated.
 ///
-/// The user interface calls from the main thread, the display's reports arrive on the channel
+/// The user interface calls on the main thread, the display's reports arrive on the channel
 /// library's thread. Signals are emitted on the thread of the change.
 class CameraControl : public QObject, public CameraReports
 {
@@ -55,10 +55,11 @@ public:
     /// @param PresetNum     a PresetNumber
     /// @param PresetStatus  a PresetAction
     Q_INVOKABLE void preset(int PresetNum, int PresetStatus);
-    /// Asks for both framings and the camera's use; the answers come through the setters.
+    /// Queries both framings and the use of the camera. The answers arrive through the setters.
     Q_INVOKABLE void requestStatus();
 
-    /// @param direction  0: the user's wish, sent to the display; otherwise the display's report
+    /// @param direction  0: set by the user and sent to the display; otherwise reported by the
+    ///                   display
     Q_INVOKABLE void setAutoFraming(bool newAutoFraming, int direction = 0)
     {
         setAutoFraming(newAutoFraming, static_cast<Direction>(direction));
@@ -72,14 +73,15 @@ public:
     void setCameraSwitch(int sw) override;
 
 signals:
-    /// @param sw  0: the display's camera is off, otherwise in use
+    /// @param sw  0: the display's camera is off; otherwise it is in use
     void cameraSwitch(int sw);
     void autoFramingChanged();
     void smartFramingChanged();
 
 private:
     MessageChannel& m_channel;
-    // Compared and stored in one atomic step, so that no lock is held while others are told.
+    // Any thread. Compared and stored in one atomic step, so that no lock is held while signals are
+    // emitted and messages are sent.
     std::atomic<bool> m_autoFraming{false};
     std::atomic<bool> m_smartFraming{false};
 };

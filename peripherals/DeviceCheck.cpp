@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Changes that the stamp does not show are found this late.
+/// The devices are listed at least every so many rounds, for changes that the stamp does not show.
 constexpr int RoundsPerScan = 20;
 
 using StatusSetter = void (LocalDeviceStatus::*)(int);
@@ -56,7 +56,7 @@ bool DeviceCheck::ReadJsonConfig(const QString& path)
     m_kinds.clear();
 
     QFile file(path);
-    // Opening a pipe of that name would wait for its writer.
+    // Opening a named pipe would block until somebody writes to it.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         Log::error(Function) << "Failed to open config file:" << path;
         return false;
@@ -104,7 +104,7 @@ void DeviceCheck::checkDevices(LocalDeviceStatus& status)
     }
 }
 
-/// The stamp is taken before the scan, so that what changes in between is seen the next time.
+/// Takes the stamp before the scan, so that a change in between is found in the next round.
 bool DeviceCheck::isScanDue()
 {
     const std::optional<std::size_t> stamp = m_stamp ? m_stamp() : std::nullopt;
@@ -125,13 +125,13 @@ QList<platform::DeviceRecord> DeviceCheck::scanDevices()
         quint32 errorCode = 0;
         if (!m_scan(deviceClass, devices, errorCode)) {
             Log::error("DeviceCheck::scanDevices") << "SetupDiGetClassDevs err:" << errorCode;
-            m_lastStamp.reset(); // to be tried again in the next round
+            m_lastStamp.reset(); // tries again in the next round
         }
     }
     return devices;
 }
 
-/// False when the time ran out before the kind's status was known.
+/// False when the time ran out before the status of the kind was known.
 bool DeviceCheck::compare(Kind& kind, std::chrono::steady_clock::time_point deadline) const
 {
     const auto pairs = static_cast<std::size_t>(m_devices.size()) * kind.filters.size();

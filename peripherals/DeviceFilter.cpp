@@ -7,11 +7,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// The engine's own interpreter counts its steps the same on every system, unlike compiled matching.
-// Steps count from each start position; the useful filters need some hundred, one that backtracks
-// without end is over in a fraction of a millisecond. The empty comment ends the list of options: a
-// filter that begins with such options of its own could otherwise lift the limits. Unlike an empty
-// group, it is nothing that a quantifier at the filter's beginning could repeat.
+// The engine's interpreter counts steps in the same way on every system, unlike compiled matching.
+// Steps are counted from each start position. Useful filters need some hundred; a filter that
+// backtracks without end is stopped within a fraction of a millisecond. The empty comment ends the
+// list of options, so that options at the start of a filter cannot lift the limits. Unlike an empty
+// group, a comment cannot be repeated by a quantifier at the start of the filter.
 constexpr auto Limits = "(*NO_JIT)(*LIMIT_MATCH=10000)(*LIMIT_HEAP=4096)(?#)"_L1;
 
 std::optional<QRegularExpression> compile(const QString& text)
@@ -28,7 +28,7 @@ std::optional<QRegularExpression> compile(const QString& text)
     return expression;
 }
 
-/// The engine refuses ill-formed text, which a device can carry in its name.
+/// The engine refuses ill-formed text, which a device name can contain.
 QString wellFormed(const QString& text)
 {
     const QString subject = text.left(DeviceFilter::MaxSubjectLength);

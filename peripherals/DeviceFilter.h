@@ -7,25 +7,24 @@
 
 #include <optional>
 
-/// A rule's filter, ready for use. It fits a device whose instance id or friendly name contains a
-/// match of it as a regular expression or contains its text as it stands, both in any case.
+/// The filter of a rule. It fits a device whose instance id or friendly name contains a match of
+/// the filter as a regular expression, or contains the filter literally, both case-insensitive.
 ///
-/// The expression is foreign input: matching gives up after a fixed number of steps, and a filter
-/// that once ran into that limit is a plain text from then on. One thread at a time.
+/// The expression is foreign input: matching stops after a fixed number of steps, and a filter that
+/// reached this limit once is only compared literally from then on. One thread at a time.
 class DeviceFilter
 {
 public:
     explicit DeviceFilter(const QString& text);
 
     [[nodiscard]] bool fits(const platform::DeviceRecord& device);
-    /// True when the filter is only compared as a text: not a regular expression, too long for one,
+    /// True when the filter is only compared literally: not a regular expression, too long for one,
     /// or one that took too long.
     [[nodiscard]] bool isPlainText() const { return !m_expression; }
 
-    /// Longest filter that is read as a regular expression, in UTF-16 units.
+    /// Longest filter that is used as a regular expression, in UTF-16 units.
     static constexpr qsizetype MaxExpressionLength = 512;
-    /// How much of an id or name is looked at, in UTF-16 units. Windows hands out no more than
-    /// this.
+    /// Length of an id or name that is compared, in UTF-16 units. Windows reports no longer ones.
     static constexpr qsizetype MaxSubjectLength = 512;
 
 private:

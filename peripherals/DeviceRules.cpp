@@ -19,7 +19,7 @@ DeviceRule readRule(const QString& kind, const QString& devtype, const QJsonObje
             node["filter"_L1].toString()};
 }
 
-/// False when there are more rules than are taken.
+/// False when some rules exceed the maximum and are left out.
 bool readKind(const QString& kind, const QJsonArray& entries, QList<DeviceRule>& rules)
 {
     for (const auto& value : entries) {

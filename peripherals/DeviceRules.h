@@ -6,9 +6,9 @@
 #include <QString>
 #include <QStringList>
 
-/// One rule of the rule file. Only `vorndev` and `filter` decide; the rest describes the rule.
+/// One rule of the rule file. Only `vorndev` and `filter` are used; the rest is descriptive.
 struct DeviceRule {
-    QString vorndev; ///< the kind it was read under
+    QString vorndev; ///< the kind whose list contains the rule
     QString devtype;
     int level = 0;
     QString cls;
@@ -18,20 +18,20 @@ struct DeviceRule {
     bool operator==(const DeviceRule&) const = default;
 };
 
-/// Rules by kind, each list in the file's order; a kind without rules is absent.
+/// Rules by kind, each list in the order of the file. Kinds without rules are absent.
 using DeviceRuleMap = QMap<QString, QList<DeviceRule>>;
 
 struct ParsedDeviceRules {
     DeviceRuleMap rules;
-    const char* error = nullptr; ///< why the whole text is refused, else null
-    QStringList cutKinds;        ///< kinds of which only the first MaxRulesOfKind rules were taken
+    const char* error = nullptr; ///< why the whole text is refused; null when it is not
+    QStringList cutKinds;        ///< kinds that had more than MaxRulesOfKind rules
 };
 
-/// The most rules that are taken of one kind.
+/// Further rules of a kind are ignored.
 inline constexpr qsizetype MaxRulesOfKind = 64;
 
-/// Reads the text of a rule file. Whatever has the wrong type counts as absent.
+/// Parses the text of a rule file. Values of a wrong type count as absent.
 ParsedDeviceRules parseDeviceRules(const QByteArray& json);
 
-/// One kind's rules as lines for the log.
+/// Log lines that describe the rules of one kind.
 QStringList describeDeviceRules(const QList<DeviceRule>& rules);
