@@ -2,6 +2,8 @@
 
 #include "logging/Log.h"
 
+#include <utility>
+
 namespace
 {
 
@@ -74,6 +76,9 @@ bool UdpClient::waitForDatagram(QNetworkDatagram& out, std::chrono::milliseconds
         return false;
     out = std::move(m_queue.front());
     m_queue.pop_front();
+    if (m_queue.empty() && m_dropped > 0)
+        Log::error("UdpClient::waitForDatagram")
+            << "datagrams dropped in a flood:" << std::exchange(m_dropped, 0);
     return true;
 }
 
@@ -86,23 +91,29 @@ void UdpClient::stop()
     m_cond.notify_all();
 }
 
+// A sender without pause must not hold up the event loop, so the number of datagrams is limited.
+// The socket signals the remaining ones in the next turn. They are read nowhere else: Qt 6.4 does
+// not signal again after it has found a socket empty that was reported as readable.
 void UdpClient::readPendingDatagrams()
 {
     for (int i = 0; i < DatagramsPerTurn && m_socket->hasPendingDatagrams(); ++i) {
         QNetworkDatagram datagram = m_socket->receiveDatagram();
-        if (!datagram.isValid())
-            continue;
-        {
-            const std::scoped_lock lock(m_mutex);
-            if (m_queue.size() == MaximumQueued)
-                m_queue.pop_front();
-            m_queue.push_back(std::move(datagram));
-        }
-        m_cond.notify_one();
+        if (datagram.isValid())
+            enqueue(std::move(datagram));
     }
-    // A sender without pause must not hold up the event loop.
-    if (m_socket->hasPendingDatagrams())
-        QMetaObject::invokeMethod(this, &UdpClient::readPendingDatagrams, Qt::QueuedConnection);
+}
+
+void UdpClient::enqueue(QNetworkDatagram datagram)
+{
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_queue.size() == MaximumQueued) {
+            m_queue.pop_front();
+            ++m_dropped;
+        }
+        m_queue.push_back(std::move(datagram));
+    }
+    m_cond.notify_one();
 }
 
 QByteArray UdpClient::hexDump(QByteArrayView bytes)

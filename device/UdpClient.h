@@ -36,11 +36,14 @@ public slots:
     void readPendingDatagrams();
 
 private:
+    void enqueue(QNetworkDatagram datagram);
+
     QUdpSocket* m_socket; // this object's thread only
 
     std::mutex m_mutex;
     std::condition_variable m_cond;
     // Guarded by m_mutex.
     std::deque<QNetworkDatagram> m_queue;
+    quint64 m_dropped = 0; // since the queue was empty
     bool m_stop = false;
 };

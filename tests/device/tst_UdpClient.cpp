@@ -17,6 +17,7 @@ class tst_UdpClient : public QObject
 private slots:
     void pointerDatagramIsExact();
     void exchangesDatagrams();
+    void survivesAFlood();
     void takenPortIsReported();
     void stopWakesTheWaitingThread();
 };
@@ -52,6 +53,55 @@ void tst_UdpClient::exchangesDatagrams()
         return datagrams;
     };
     QTRY_COMPARE(taken(), (QByteArrayList{"first", ""}));
+}
+
+void tst_UdpClient::survivesAFlood()
+{
+    QUdpSocket peer;
+    QVERIFY(peer.bind(QHostAddress::LocalHost));
+    UdpClient client;
+    QVERIFY(client.bind(0));
+    client.send("x", 1, peer.localPort(), QHostAddress(QHostAddress::LocalHost));
+    QTRY_VERIFY(peer.hasPendingDatagrams());
+    const QNetworkDatagram address = peer.receiveDatagram();
+    const auto send = [&](const QByteArray& data, int count) {
+        for (; count > 0; --count)
+            peer.writeDatagram(data, address.senderAddress(), quint16(address.senderPort()));
+    };
+    QNetworkDatagram datagram;
+    const auto take = [&] {
+        int count = 0;
+        while (client.waitForDatagram(datagram, 0ms))
+            ++count;
+        return count;
+    };
+    // Each turn of the event loop sends more than is read, so the socket is never empty.
+    int received = 0;
+    for (int turn = 0; turn < 60; ++turn) {
+        send("flood", 100);
+        QCoreApplication::processEvents();
+        const int count = take();
+        QVERIFY2(count <= 64, qPrintable(u"%1 in turn %2"_s.arg(count).arg(turn)));
+        received += count;
+    }
+    QVERIFY(received > 60 * 32);
+
+    LogCapture log;
+    for (int turn = 0; turn < 10; ++turn) {
+        send("flood", 100);
+        QCoreApplication::processEvents();
+    }
+    for (int turn = 0; turn < 10; ++turn) { // until the socket is empty
+        take();
+        QCoreApplication::processEvents();
+    }
+    const auto isLater = [&] {
+        send("later", 1);
+        take();
+        return datagram.data() == "later";
+    };
+    QTRY_VERIFY(isLater());
+    QCOMPARE(log.take().filter(u"datagrams dropped"_s).size(), 1);
 }
 
 void tst_UdpClient::takenPortIsReported()
