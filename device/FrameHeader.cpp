@@ -15,5 +15,6 @@ bool FrameHeader::isValid() const
     if (!isInView(index) || w == 0 || h == 0 || len <= 0)
         return false;
     const std::size_t size = lumaSize() + std::size_t(chromaBytesPerRow()) * chromaRows();
-    return size <= MaximumDataSize && size == static_cast<std::size_t>(len);
+    const auto length = static_cast<std::size_t>(len);
+    return size <= length && length <= MaximumDataSize;
 }

@@ -36,7 +36,8 @@ struct FrameHeader {
     /// Reads all fields except the index from the header bytes of a slot.
     void parse(const std::array<uchar, HeaderSize>& bytes);
 
-    /// Whether this describes an NV12 frame that lies within a slot of the view.
+    /// Whether this describes an NV12 frame that lies within a slot of the view. The data may be
+    /// longer than the picture.
     [[nodiscard]] bool isValid() const;
     [[nodiscard]] std::size_t lumaSize() const { return std::size_t(w) * h; }
     /// Bytes of a chroma row: a pair of bytes for two pixels, also for a single last one.

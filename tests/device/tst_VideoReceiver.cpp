@@ -36,7 +36,7 @@ bool isFrame(const FrameHeader& header)
 {
     const qint64 needed = neededSize(header.w, header.h);
     return header.index == 0 && header.w > 0 && header.h > 0 && needed <= 12'441'600 &&
-           header.len == needed;
+           header.len >= needed && header.len <= 12'441'600;
 }
 
 QString invalidLine(const FrameHeader& header)
