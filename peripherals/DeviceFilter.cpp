@@ -58,8 +58,9 @@ bool DeviceFilter::matches(const QString& subject)
     const auto match = m_expression->match(subject);
     if (match.isValid())
         return match.hasMatch();
-    Log::error("DeviceFilter::matches")
-        << "filter takes too long, compared as plain text:" << m_text;
-    m_expression.reset();
+    if (!m_hasReportedLimit)
+        Log::error("DeviceFilter::matches")
+            << "filter takes too long for a device, which it does not match:" << m_text;
+    m_hasReportedLimit = true;
     return false;
 }

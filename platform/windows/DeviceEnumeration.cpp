@@ -64,8 +64,8 @@ public:
     // Empty when the device has no such property.
     [[nodiscard]] QString property(SP_DEVINFO_DATA& data, const DEVPROPKEY& key) const
     {
-        std::array<wchar_t, 512> buffer{};
-        constexpr DWORD Size = sizeof(buffer) - sizeof(wchar_t); // keeps the terminator
+        constexpr DWORD Size = 1024;
+        std::array<wchar_t, Size / sizeof(wchar_t) + 1> buffer{}; // always terminated
         DEVPROPTYPE type = 0;
         if (!SetupDiGetDevicePropertyW(m_set, &data, &key, &type,
                                        reinterpret_cast<BYTE*>(buffer.data()), Size, nullptr, 0))
