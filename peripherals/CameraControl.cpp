@@ -10,9 +10,32 @@ CameraControl::CameraControl(MessageChannel& channel, QObject* parent)
 {
 }
 
+CameraControl::~CameraControl()
+{
+    releaseMovements();
+}
+
 void CameraControl::scale(int Key, int BtnStatus)
 {
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (BtnStatus == Btn_Down)
+            m_held.insert(Key);
+        else
+            m_held.erase(Key);
+    }
     m_channel.send("CameraControl::scale", DealChannelMsg::buildCameraScale(Key, BtnStatus));
+}
+
+void CameraControl::releaseMovements()
+{
+    std::set<int> held;
+    {
+        const std::scoped_lock lock(m_mutex);
+        held.swap(m_held);
+    }
+    for (const int key : held)
+        scale(key, Btn_Up);
 }
 
 void CameraControl::preset(int PresetNum, int PresetStatus)

@@ -5,6 +5,8 @@
 #include <QObject>
 
 #include <atomic>
+#include <mutex>
+#include <set>
 
 class MessageChannel;
 
@@ -14,6 +16,8 @@ class MessageChannel;
 ///
 /// The user interface calls on the main thread, the display's reports arrive on the channel
 /// library's thread. Signals are emitted on the thread of the change.
+///
+/// A movement that is held when the object is destroyed is released, or the camera would go on.
 class CameraControl : public QObject, public CameraReports
 {
     Q_OBJECT
@@ -44,6 +48,7 @@ public:
 
     /// The channel has to outlive this object.
     explicit CameraControl(MessageChannel& channel, QObject* parent = nullptr);
+    ~CameraControl() override;
 
     bool autoFraming() const { return m_autoFraming; }
     bool smartFraming() const { return m_smartFraming; }
@@ -52,6 +57,8 @@ public:
     /// @param Key        a ManualDirection
     /// @param BtnStatus  a ButtonStatus
     Q_INVOKABLE void scale(int Key, int BtnStatus);
+    /// Sends Btn_Up for every movement that is held. Any thread.
+    void releaseMovements();
     /// @param PresetNum     a PresetNumber
     /// @param PresetStatus  a PresetAction
     Q_INVOKABLE void preset(int PresetNum, int PresetStatus);
@@ -84,4 +91,6 @@ private:
     // emitted and messages are sent.
     std::atomic<bool> m_autoFraming{false};
     std::atomic<bool> m_smartFraming{false};
+    std::mutex m_mutex;
+    std::set<int> m_held; // keys without Btn_Up so far; guarded by m_mutex
 };

@@ -53,6 +53,7 @@ private slots:
     void sendsTheUsersChangesOnce();
     void holdsNoLockWhileOthersAreCalled();
     void takesChangesFromTwoThreads();
+    void releasesHeldMovementsAtTheEnd();
 };
 
 void tst_CameraControl::sendsTheUsersChangesOnce()
@@ -126,6 +127,22 @@ void tst_CameraControl::takesChangesFromTwoThreads()
     QCOMPARE(camera.autoFraming(), changes % 2 == 1);
     QVERIFY(changes > 0 && changes <= 2 * Rounds);
     QVERIFY(channel.take().size() <= 3 * Rounds);
+}
+
+void tst_CameraControl::releasesHeldMovementsAtTheEnd()
+{
+    RecordingChannel channel;
+    {
+        CameraControl camera(channel);
+        camera.scale(CameraControl::Manual_Left, CameraControl::Btn_Down);
+        camera.scale(CameraControl::Manual_Up, CameraControl::Btn_Down);
+        camera.scale(CameraControl::Manual_Up, CameraControl::Btn_Up);
+        QCOMPARE(channel.take().size(), 3);
+    }
+    QCOMPARE(
+        channel.take(),
+        QStringList{
+            uR"(18 {"cmd":18,"cmdtype":"CameraControl","control":"scale","scalestatus":1,"scaletype":4,"type":2})"_s});
 }
 
 QTEST_GUILESS_MAIN(tst_CameraControl)
