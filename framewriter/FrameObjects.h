@@ -36,6 +36,8 @@ public:
     virtual bool resize(std::size_t size) = 0;
     /// Takes the memory of the event away.
     virtual bool cutEvent() = 0;
+    /// Sets the count of announced frames to its maximum.
+    virtual bool overfillEvent() = 0;
 
 protected:
     FrameObjects() = default;

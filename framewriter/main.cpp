@@ -12,6 +12,7 @@
 //   resize <bytes>               change the length of the memory under its readers (Linux)
 //   flap <count>                 cut the memory to nothing and restore it, that often (Linux)
 //   cut-event                    take the memory of the event away (Linux)
+//   overfill-event               set the count of announced frames to its maximum (Linux)
 // Says "ready" at the start and answers each line with "ok" or "failed".
 
 #include "framewriter/FrameObjects.h"
@@ -109,6 +110,7 @@ int main(int argc, char* argv[])
                            [&] { return objects->resize(0) && objects->resize(objects->size()); });
          }},
         {"cut-event", [&](long, long) { return objects->cutEvent(); }},
+        {"overfill-event", [&](long, long) { return objects->overfillEvent(); }},
     };
 
     std::cout << "ready" << std::endl;

@@ -47,8 +47,8 @@ public:
     virtual void close() = 0;
 
     /// Waits until the writer announces a frame. Announcements made between two waits count as one.
-    /// A wait that times out or fails closes the channel when the writer has made new objects under
-    /// the old names or has taken the event away; isOpen() then returns false.
+    /// A wait closes the channel when the writer has taken the event away or, as is checked once in
+    /// @p patience, has made new objects under the old names; isOpen() then returns false.
     virtual WaitResult wait(std::chrono::milliseconds patience) = 0;
 
     /// Copies out of the shared memory in one pass. False when the channel is closed, the range is

@@ -1,6 +1,8 @@
 #include "framewriter/FrameObjects.h"
 
 #include <cerrno>
+#include <climits>
+#include <cstring>
 #include <utility>
 
 #include <fcntl.h>
@@ -64,6 +66,13 @@ public:
     {
         const std::string file = "/dev/shm/sem." + m_eventName.substr(1);
         return ::truncate(file.c_str(), 0) == 0;
+    }
+
+    bool overfillEvent() override
+    {
+        constexpr unsigned Maximum = SEM_VALUE_MAX;
+        std::memcpy(m_event, &Maximum, sizeof Maximum); // glibc's semaphores begin with the count
+        return true;
     }
 
 private:

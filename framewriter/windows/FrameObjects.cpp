@@ -47,6 +47,7 @@ public:
 
     bool resize(std::size_t) override { return unsupported(); }
     bool cutEvent() override { return unsupported(); }
+    bool overfillEvent() override { return unsupported(); }
 
 private:
     static bool unsupported()

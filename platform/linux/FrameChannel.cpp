@@ -3,6 +3,7 @@
 #include "platform/StreamCopy.h"
 #include "platform/linux/MemoryGuard.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <mutex>
@@ -12,13 +13,17 @@
 #include <semaphore.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace
 {
 
 using platform::FrameChannel;
+using std::chrono::steady_clock;
+
+/// Most posts that one wait takes: a writer can set the count to 2^31 - 1, and taking that many
+/// takes about 20 s. What is left over ends the next wait.
+constexpr int MaximumPostsTaken = 1'000'000;
 
 /// Distinguishes shared-memory objects that had the same name.
 struct ObjectId {
@@ -27,16 +32,20 @@ struct ObjectId {
     bool operator==(const ObjectId&) const = default;
 };
 
-timespec deadlineAfter(std::chrono::milliseconds patience)
+/// Does not wait for the writer of a FIFO, as opening one without O_NONBLOCK would.
+int openMapping(const std::string& name)
 {
-    timespec time{};
-    ::clock_gettime(CLOCK_MONOTONIC, &time);
-    const auto end =
-        std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec) + patience;
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(end);
-    time.tv_sec = seconds.count();
-    time.tv_nsec = std::chrono::nanoseconds(end - seconds).count();
-    return time;
+    return ::shm_open(name.c_str(), O_RDONLY | O_NONBLOCK, 0);
+}
+
+timespec toTimespec(steady_clock::time_point time) // steady_clock is CLOCK_MONOTONIC
+{
+    const auto sinceStart = time.time_since_epoch();
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(sinceStart);
+    timespec result{};
+    result.tv_sec = seconds.count();
+    result.tv_nsec = std::chrono::nanoseconds(sinceStart - seconds).count();
+    return result;
 }
 
 /// POSIX shared memory and semaphore. Every access is guarded, since the writer can truncate both
@@ -73,15 +82,15 @@ public:
         if (!isOpen())
             return {WaitOutcome::Failed, EBADF};
 
-        const int error = waitForPost(deadlineAfter(patience));
+        const int error = waitForPost(toTimespec(steady_clock::now() + patience));
         if (takeInterrupt(error == 0 ? 1 : 0))
             return {WaitOutcome::Interrupted, 0};
-        if (error == 0) {
+        if (error == 0)
             takePendingPosts();
-            return {WaitOutcome::Signalled, 0};
-        }
-        if (error != ETIMEDOUT || isReplaced())
+        if ((error != 0 && error != ETIMEDOUT) || isReplacedSince(patience))
             closeObjects();
+        if (error == 0)
+            return {WaitOutcome::Signalled, 0};
         if (error == ETIMEDOUT)
             return {WaitOutcome::TimedOut, 0};
         return {WaitOutcome::Failed, static_cast<quint32>(error)};
@@ -107,7 +116,8 @@ public:
 private:
     OpenResult openObjects()
     {
-        const int fd = ::shm_open(m_mappingName.c_str(), O_RDONLY, 0);
+        m_lastLook = steady_clock::now();
+        const int fd = openMapping(m_mappingName);
         if (fd < 0)
             return {OpenStep::Mapping, static_cast<quint32>(errno)};
         const int viewError = mapView(fd);
@@ -130,6 +140,8 @@ private:
         struct stat status = {};
         if (::fstat(fd, &status) != 0)
             return errno;
+        if (!S_ISREG(status.st_mode))
+            return ENODEV; // as mmap() reports for what cannot be mapped
         if (status.st_size < 0 || static_cast<quint64>(status.st_size) < m_viewSize)
             return ENXIO;
         // Populated now, so that the first frame takes no page faults.
@@ -174,6 +186,7 @@ private:
         const bool intact = platform::guarded([this] {
             int pending = 0;
             ::sem_getvalue(m_event, &pending);
+            pending = std::min(pending, MaximumPostsTaken);
             while (pending-- > 0 && !m_interrupted && ::sem_trywait(m_event) == 0) {
             }
         });
@@ -204,9 +217,19 @@ private:
         Q_UNUSED(intact) // without its memory there is nothing to remove
     }
 
+    // Looks only when the last look was longer ago than the interval.
+    bool isReplacedSince(std::chrono::milliseconds interval)
+    {
+        const auto now = steady_clock::now();
+        if (now - m_lastLook < interval)
+            return false;
+        m_lastLook = now;
+        return isReplaced();
+    }
+
     [[nodiscard]] bool isReplaced() const
     {
-        const int fd = ::shm_open(m_mappingName.c_str(), O_RDONLY, 0);
+        const int fd = openMapping(m_mappingName);
         if (fd >= 0) {
             struct stat status = {};
             const bool known = ::fstat(fd, &status) == 0;
@@ -230,6 +253,7 @@ private:
     // Reading thread only.
     void* m_view = nullptr;
     ObjectId m_mappingId;
+    steady_clock::time_point m_lastLook; // at the names, for objects of a new writer
 
     std::mutex m_mutex;
     // Written by the reading thread under m_mutex; other threads read it under m_mutex.
