@@ -2,6 +2,7 @@
 #include "app/LoadCustomFont.h"
 #include "app/LogInit.h"
 #include "app/Program.h"
+#include "app/Revision.h"
 #include "app/SingleInstance.h"
 #include "logging/Log.h"
 #include "platform/BrokenPipes.h"
@@ -53,6 +54,7 @@ void logProgram(const QString& appPath, const QString& fileName)
     Log::info("main") << "logpath:" << platform::programDataFolder();
     Log::info("main") << "file version:" << readFileVersion(fileName);
     Log::info("main") << "product version:" << readProductVersion(fileName);
+    Log::info("main") << "commit:" << sourceRevision();
 }
 
 // A Windows program has no console on which Qt would say why a page does not load.

@@ -176,6 +176,7 @@ void tst_StartAndQuit::logsItsLifeInOrder()
         "[main]logpath:" + home.path().toUtf8() + "/state/VORNApp",
         "[main]file version:",
         "[main]product version:",
+        "[main]commit:",
         "[LoadCustomFont]fontpath::/fonts/LatoRegular.ttf, fontname:LatoRegular",
         "[LoadCustomFont]Font family:Lato",
         "[LoadCustomFont]Loaded font family:Lato as LatoRegular",
