@@ -81,7 +81,7 @@ DeviceControl::~DeviceControl()
     Log::info("DeviceControl::~DeviceControl") << "~DeviceControl";
     if (s_instance == this)
         s_instance = nullptr;
-    m_services.programs.killProcess(u"BridgeAgent.exe"_s);
+    m_services.programs.killProcess(u"BridgeAgent.exe"_s, {});
     m_applyTimer.stop();
     endThreads();
 }
@@ -92,7 +92,6 @@ void DeviceControl::endThreads()
     m_udpClient.stop();
     m_statusWorker->requestStop();
     m_videoWorker->requestStop();
-    m_videoReceiver->interrupt();
     m_taskThread.requestInterruption();
     m_taskThread.quit();
     m_taskThread.wait();
@@ -115,11 +114,11 @@ void DeviceControl::readConfig()
 void DeviceControl::startWorkers()
 {
     m_statusWorker = std::make_unique<Worker>(
-        "status", [this](const StopRequest& stop) { DetectProgramStatusProc(stop); });
+        "status", [this](const std::stop_token& stop) { DetectProgramStatusProc(stop); });
     m_videoWorker = std::make_unique<Worker>(
-        "video", [this](const StopRequest& stop) { RecvSharedMemoryProc(stop); });
+        "video", [this](const std::stop_token& stop) { RecvSharedMemoryProc(stop); });
     m_udpWorker = std::make_unique<Worker>(
-        "udp receive", [this](const StopRequest& stop) { RecvUdpDatagram(stop); });
+        "udp receive", [this](const std::stop_token& stop) { RecvUdpDatagram(stop); });
 }
 
 int DeviceControl::DealChannelMsg(int id, const std::string& msg)
@@ -138,16 +137,16 @@ int DeviceControl::handleChannelMessage(int id, const std::string& msg)
     return 0;
 }
 
-void DeviceControl::RecvSharedMemoryProc(const StopRequest& stop)
+void DeviceControl::RecvSharedMemoryProc(const std::stop_token& stop)
 {
     m_videoReceiver->run(stop);
 }
 
-void DeviceControl::RecvUdpDatagram(const StopRequest& stop)
+void DeviceControl::RecvUdpDatagram(const std::stop_token& stop)
 {
     constexpr auto Function = "DeviceControl::RecvUdpDatagram";
     Log::info(Function) << "thread start";
-    while (!stop.isMade()) {
+    while (!stop.stop_requested()) {
         QNetworkDatagram datagram;
         if (!m_udpClient.waitForDatagram(datagram, ReceiveWait))
             continue;

@@ -8,7 +8,7 @@
 #include "device/UdpClient.h"
 #include "launch/UpgradeControl.h"
 #include "persistence/TaskQueue.h"
-#include "platform/Worker.h"
+#include "threads/Worker.h"
 
 #include <QJsonObject>
 #include <QObject>
@@ -249,9 +249,9 @@ private:
     void restoreAccount();
     void startWorkers();
 
-    void DetectProgramStatusProc(const StopRequest& stop);
-    void RecvSharedMemoryProc(const StopRequest& stop);
-    void RecvUdpDatagram(const StopRequest& stop);
+    void DetectProgramStatusProc(const std::stop_token& stop);
+    void RecvSharedMemoryProc(const std::stop_token& stop);
+    void RecvUdpDatagram(const std::stop_token& stop);
 
     void loadVersion();
     void loadNewVersion();

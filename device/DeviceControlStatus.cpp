@@ -12,18 +12,18 @@ constexpr int QueriesPerLogLine = 20;
 
 } // namespace
 
-void DeviceControl::DetectProgramStatusProc(const StopRequest& stop)
+void DeviceControl::DetectProgramStatusProc(const std::stop_token& stop)
 {
     constexpr auto Function = "DeviceControl::DetectProgramStatusProc";
     Log::info(Function) << "thread start";
-    while (!stop.isMade()) {
-        m_upgrade.watchdogPass();
+    while (!stop.stop_requested()) {
+        m_upgrade.watchdogPass(stop);
         loadVersion();
         loadNewVersion();
         reportVersions(Function);
         m_services.localDevices->checkDevices(*this);
         queryFirmwareVersion();
-        stop.waitFor(m_timing.statusPass);
+        waitForStop(stop, m_timing.statusPass);
     }
     Log::info(Function) << "thread end";
 }

@@ -61,37 +61,30 @@ void VideoReceiver::setPlaying(bool playing)
     m_changed.notify_all();
 }
 
-void VideoReceiver::interrupt()
-{
-    m_channel->interrupt();
-    // With the lock, so that the worker is either before its look at the request or in its wait.
-    const std::scoped_lock lock(m_mutex);
-    m_changed.notify_all();
-}
-
 bool VideoReceiver::isPlaying()
 {
     const std::scoped_lock lock(m_mutex);
     return m_playing;
 }
 
-void VideoReceiver::waitUntilPlaying(const StopRequest& stop)
+void VideoReceiver::waitUntilPlaying(const std::stop_token& stop)
 {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [&] { return m_playing || stop.isMade(); });
+    m_changed.wait(lock, stop, [this] { return m_playing; });
 }
 
-void VideoReceiver::run(const StopRequest& stop)
+void VideoReceiver::run(const std::stop_token& stop)
 {
+    const std::stop_callback interruption(stop, [this] { m_channel->interrupt(); });
     Log::info(Function) << "thread start";
-    while (!stop.isMade()) {
+    while (!stop.stop_requested()) {
         if (!isPlaying()) {
             m_frames.freeUnused();
             waitUntilPlaying(stop);
         } else if (m_channel->isOpen() || connectChannel()) {
             waitForFrame(stop);
         } else {
-            stop.waitFor(m_timing.pause);
+            waitForStop(stop, m_timing.pause);
         }
     }
     m_channel->close();
@@ -119,7 +112,7 @@ bool VideoReceiver::connectChannel()
     return true;
 }
 
-void VideoReceiver::waitForFrame(const StopRequest& stop)
+void VideoReceiver::waitForFrame(const std::stop_token& stop)
 {
     using Outcome = platform::FrameChannel::WaitOutcome;
     const auto result = m_channel->wait(m_timing.frameWait);
@@ -132,7 +125,7 @@ void VideoReceiver::waitForFrame(const StopRequest& stop)
         break;
     case Outcome::Failed:
         Log::error(Function) << "wait [" << EventName << "] failed:" << result.error;
-        stop.waitFor(m_timing.pause); // or a wait that fails at once would fill the log
+        waitForStop(stop, m_timing.pause); // or a wait that fails at once would fill the log
         break;
     case Outcome::Interrupted:
         break;

@@ -2,7 +2,7 @@
 
 #include "device/FrameFactory.h"
 #include "platform/FrameChannel.h"
-#include "platform/Worker.h"
+#include "threads/Worker.h"
 
 #include <QVideoFrame>
 
@@ -37,19 +37,18 @@ public:
                   std::unique_ptr<platform::FrameChannel> channel, Timing timing);
     ~VideoReceiver();
 
-    /// The worker's body: connects, waits for frames and delivers them until asked to stop.
-    void run(const StopRequest& stop);
+    /// The worker's body: connects, waits for frames and delivers them until the stop is
+    /// requested, which ends each wait at once.
+    void run(const std::stop_token& stop);
     /// Whether frames are wanted. While they are not, nothing is opened or read; a wait under way
     /// still ends with its frame or its line. Any thread.
     void setPlaying(bool playing);
-    /// Ends a wait at once. Any thread; the worker's end has to be requested before.
-    void interrupt();
 
 private:
     bool isPlaying();
-    void waitUntilPlaying(const StopRequest& stop);
+    void waitUntilPlaying(const std::stop_token& stop);
     bool connectChannel();
-    void waitForFrame(const StopRequest& stop);
+    void waitForFrame(const std::stop_token& stop);
     void processFrame();
     bool read(std::size_t offset, void* target, std::size_t length);
     bool readHeader(FrameHeader& header);
@@ -60,7 +59,7 @@ private:
     const std::unique_ptr<platform::FrameChannel> m_channel;
     const Timing m_timing;
     std::mutex m_mutex;
-    std::condition_variable m_changed;
+    std::condition_variable_any m_changed;
     bool m_playing = false; // under the mutex
     // Video worker only.
     FrameFactory m_frames;

@@ -96,11 +96,11 @@ bool ProcessManager::startProcess(const QString& name, const QStringList& argume
     return started;
 }
 
-bool ProcessManager::killProcess(const QString& name)
+bool ProcessManager::killProcess(const QString& name, const std::stop_token& stop)
 {
     constexpr auto kFunction = "ProcessManager::killProcess";
-    const auto outcome =
-        platform::killByImageName(name, isMainThread() ? kMainThreadPatience : kCommandPatience);
+    const auto outcome = platform::killByImageName(
+        name, isMainThread() ? kMainThreadPatience : kCommandPatience, stop);
     if (!outcome.finished) {
         Log::error(kFunction) << "kill " << name << " Failed to execute taskkill command!";
         return false;
@@ -113,9 +113,9 @@ bool ProcessManager::killProcess(const QString& name)
     return true;
 }
 
-void ProcessManager::keepProcessAlive(const QString& name)
+void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token& stop)
 {
-    const auto outcome = platform::isImageRunning(name, kCommandPatience);
+    const auto outcome = platform::isImageRunning(name, kCommandPatience, stop);
     if (!outcome.finished) {
         // The text is fixed, whatever program was asked for.
         Log::error("ProcessManager::keepProcessAlive")

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <stop_token>
+
 /// Every dealing with other programs on this PC: starting them, ending them by image name, keeping
 /// them alive, and finding where Zoom and Teams are installed. Stateless; any
 /// thread. The operations block their caller, of which the main thread can afford killProcess()
@@ -19,9 +21,9 @@ public:
     /// arguments.
     static bool startProcess(const QString& name, const QStringList& arguments);
     /// Ends every process of this image name; at most 30 s, on the main thread 1.5 s.
-    static bool killProcess(const QString& name);
+    static bool killProcess(const QString& name, const std::stop_token& stop = {});
     /// Starts the program of this name beside the application unless it is running; at most 30 s.
-    static void keepProcessAlive(const QString& name);
+    static void keepProcessAlive(const QString& name, const std::stop_token& stop = {});
 
     /// Path of the existing executable that a registry value names, stripped of the decorations
     /// such values carry: quotes and arguments of a command line, the index of an icon.

@@ -6,7 +6,7 @@
 class SystemProgramControl final : public ProgramControl
 {
 public:
-    bool killProcess(const QString& name) override;
-    void keepProcessAlive(const QString& name) override;
+    bool killProcess(const QString& name, const std::stop_token& stop) override;
+    void keepProcessAlive(const QString& name, const std::stop_token& stop) override;
     bool startProcess(const QString& name, const QStringList& arguments) override;
 };

@@ -38,9 +38,8 @@ void UpgradeControl::end()
 {
     {
         const std::scoped_lock lock(m_stepsMutex);
-        m_stopping = true;
+        m_ended = true;
     }
-    m_stepPosted.notify_all();
     if (m_worker)
         m_worker->end();
 }
@@ -57,13 +56,13 @@ void UpgradeControl::timeOut()
     post(Step::TimeOut);
 }
 
-void UpgradeControl::watchdogPass()
+void UpgradeControl::watchdogPass(const std::stop_token& stop)
 {
     const std::unique_lock lock(m_updateMutex, std::try_to_lock);
     if (!lock || !m_keepUpdaterAlive)
         return;
     if (m_keepAliveTick++ % PassesPerCheck == 0)
-        m_programs.keepProcessAlive(updaterName());
+        m_programs.keepProcessAlive(updaterName(), stop);
 }
 
 void UpgradeControl::post(Step step)
@@ -72,19 +71,19 @@ void UpgradeControl::post(Step step)
         const std::scoped_lock lock(m_stepsMutex);
         m_steps.push_back(step);
         // Most runs of the program never upgrade, so the thread starts with the first step.
-        if (!m_worker && !m_stopping)
-            m_worker =
-                std::make_unique<Worker>("upgrade", [this](const StopRequest& stop) { run(stop); });
+        if (!m_worker && !m_ended)
+            m_worker = std::make_unique<Worker>("upgrade",
+                                                [this](const std::stop_token& stop) { run(stop); });
     }
     m_stepPosted.notify_one();
 }
 
-void UpgradeControl::run(const StopRequest& stop)
+void UpgradeControl::run(const std::stop_token& stop)
 {
     std::unique_lock lock(m_stepsMutex);
     while (true) {
-        m_stepPosted.wait(lock, [this] { return m_stopping || !m_steps.empty(); });
-        if (m_stopping)
+        m_stepPosted.wait(lock, stop, [this] { return !m_steps.empty(); });
+        if (stop.stop_requested())
             return;
         const Step step = m_steps.front();
         m_steps.pop_front();
@@ -92,29 +91,29 @@ void UpgradeControl::run(const StopRequest& stop)
         if (step == Step::Upgrade)
             upgrade(stop);
         else
-            giveUp();
+            giveUp(stop);
         lock.lock();
     }
 }
 
-void UpgradeControl::upgrade(const StopRequest& stop)
+void UpgradeControl::upgrade(const std::stop_token& stop)
 {
     const std::scoped_lock lock(m_updateMutex);
     m_updateStarted = true;
     m_keepUpdaterAlive = false;
     Log::info(StartFunction) << "kill:" << updaterName();
-    m_programs.killProcess(updaterName());
-    if (stop.waitFor(m_pauseAfterKill))
+    m_programs.killProcess(updaterName(), stop);
+    if (waitForStop(stop, m_pauseAfterKill))
         return;
     Log::info(StartFunction) << "start:" << updaterName();
     m_programs.startProcess(updaterName(), {u"update"_s, m_executablePath});
 }
 
-void UpgradeControl::giveUp()
+void UpgradeControl::giveUp(const std::stop_token& stop)
 {
     const std::scoped_lock lock(m_updateMutex);
     m_updateStarted = false;
     Log::info(TimeOutFunction) << "kill:" << updaterName();
-    m_programs.killProcess(updaterName());
+    m_programs.killProcess(updaterName(), stop);
     m_keepUpdaterAlive = true;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Worker.h"
+#include "threads/Worker.h"
 
 #include <QString>
 
@@ -42,7 +42,7 @@ public:
     void timeOut();
     /// One pass of the once-a-second loop: looks after the updater on the first pass and every
     /// fifth one after it, unless an upgrade step is running.
-    void watchdogPass();
+    void watchdogPass(const std::stop_token& stop = {});
     /// True from the start of an upgrade until its time-out. Any thread.
     [[nodiscard]] bool isUpdating() const { return m_updateStarted; }
 
@@ -50,9 +50,9 @@ private:
     enum class Step { Upgrade, TimeOut };
 
     void post(Step step);
-    void run(const StopRequest& stop);
-    void upgrade(const StopRequest& stop);
-    void giveUp();
+    void run(const std::stop_token& stop);
+    void upgrade(const std::stop_token& stop);
+    void giveUp(const std::stop_token& stop);
 
     ProgramControl& m_programs;
     const QString m_executablePath;
@@ -63,9 +63,9 @@ private:
     std::mutex m_updateMutex;
 
     std::mutex m_stepsMutex;
-    std::condition_variable m_stepPosted;
+    std::condition_variable_any m_stepPosted;
     std::deque<Step> m_steps;
-    bool m_stopping = false;
+    bool m_ended = false;
     // Last, so that it has ended before anything it uses goes.
     std::unique_ptr<Worker> m_worker;
 };

@@ -1,7 +1,6 @@
 #include "persistence/DBManager.h"
 
 #include "logging/Log.h"
-#include "platform/Worker.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -248,7 +247,7 @@ bool DBManager::saveUserData(const QString& key, const QVariant& value, quint64 
             }
             const Attempt attempt = attemptStore(key, value);
             if (attempt.outcome != Attempt::Outcome::Locked || patience.hasExpired() ||
-                StopRequest::isMadeToThisThread())
+                QThread::currentThread()->isInterruptionRequested())
                 return report(attempt);
         }
         QThread::msleep(kPauseMs); // or the main thread would not get its turn

@@ -3,10 +3,11 @@
 #include <QString>
 
 #include <chrono>
+#include <stop_token>
 
 /// The processes of this computer, found by image name ("Zoom.exe"). Any thread; the calls block
-/// for at most the given patience, and on Windows, where they wait for the system's own tools, end
-/// unfinished when the thread is asked to stop.
+/// for at most the given patience. On Windows they wait for the system's own tools, and end
+/// unfinished when the stop is requested or the calling QThread is interrupted.
 namespace platform
 {
 
@@ -17,14 +18,15 @@ struct KillOutcome {
 };
 
 /// Ends every process of this name, on Linux but our own, without asking it.
-[[nodiscard]] KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience);
+[[nodiscard]] KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience,
+                                          const std::stop_token& stop = {});
 
 struct RunningOutcome {
     bool finished = false; ///< false: nothing is known
     bool running = false;
 };
 
-[[nodiscard]] RunningOutcome isImageRunning(const QString& name,
-                                            std::chrono::milliseconds patience);
+[[nodiscard]] RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds patience,
+                                            const std::stop_token& stop = {});
 
 } // namespace platform

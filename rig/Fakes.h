@@ -83,8 +83,14 @@ private:
 class FakePrograms : public ProgramControl
 {
 public:
-    bool killProcess(const QString& name) override { return note(u"kill "_s + name); }
-    void keepProcessAlive(const QString& name) override { note(u"keep "_s + name); }
+    bool killProcess(const QString& name, const std::stop_token&) override
+    {
+        return note(u"kill "_s + name);
+    }
+    void keepProcessAlive(const QString& name, const std::stop_token&) override
+    {
+        note(u"keep "_s + name);
+    }
     bool startProcess(const QString& name, const QStringList& arguments) override
     {
         return note(u"start "_s + name + u' ' + arguments.join(u' '));

@@ -6,7 +6,7 @@ set -u
 cd "$(dirname "$0")/.." || exit 1
 
 compiler=x86_64-w64-mingw32-g++-posix
-rooms=(account app device framewriter launch logging peripherals persistence platform portalhub qml simulator)
+rooms=(account app device framewriter launch logging peripherals persistence platform portalhub qml simulator threads)
 
 fail() {
     echo "check-windows: $1" >&2

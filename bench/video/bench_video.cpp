@@ -122,14 +122,10 @@ public:
         m_source.setVideoSink(&m_sink);
         m_receiver->setPlaying(true);
         m_worker = std::make_unique<Worker>(
-            "video", [this](const StopRequest& stop) { m_receiver->run(stop); });
+            "video", [this](const std::stop_token& stop) { m_receiver->run(stop); });
     }
 
-    ~Path()
-    {
-        m_worker->requestStop();
-        m_receiver->interrupt();
-    }
+    ~Path() { m_worker->end(); }
     Q_DISABLE_COPY_MOVE(Path)
 
     /// Has frames written and runs the event loop until no more come. A few are passed over when

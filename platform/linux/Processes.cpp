@@ -200,7 +200,8 @@ void waitForEnd(const Victim& victim, Clock::time_point deadline)
 namespace platform
 {
 
-KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience)
+KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience,
+                            const std::stop_token&)
 {
     const ImageName image(name);
     std::vector<Victim> victims;
@@ -222,7 +223,8 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
     return {true, errors.isEmpty() ? 0 : 1, errors.join(u'\n')};
 }
 
-RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds)
+RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds,
+                              const std::stop_token&)
 {
     // The one that was found the last time is most often still there, and cheap to look at.
     static std::atomic<pid_t> s_lastFound{0};

@@ -1,10 +1,10 @@
 #include "platform/windows/ChildCommand.h"
 
 #include "platform/Registry.h"
-#include "platform/Worker.h"
 
 #include <QDeadlineTimer>
 #include <QProcess>
+#include <QThread>
 #include <QVariant>
 
 #include <qt_windows.h>
@@ -38,14 +38,15 @@ namespace platform
 {
 
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
-                std::chrono::milliseconds patience)
+                std::chrono::milliseconds patience, const std::stop_token& stop)
 {
     const QDeadlineTimer deadline(patience);
     process.start(program, arguments);
     while (!process.waitForFinished(kSliceMs)) {
         if (process.state() == QProcess::NotRunning)
             break;
-        if (deadline.hasExpired() || StopRequest::isMadeToThisThread()) {
+        if (deadline.hasExpired() || stop.stop_requested() ||
+            QThread::currentThread()->isInterruptionRequested()) {
             process.kill();
             return false;
         }

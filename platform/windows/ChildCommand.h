@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <stop_token>
 
 class QProcess;
 
@@ -11,9 +12,10 @@ namespace platform
 {
 
 /// Runs one of the system's command-line tools to its end. False when it could not start, crashed,
-/// did not end in time, or the calling thread was asked to stop meanwhile; it is killed then.
+/// did not end in time, or the stop was requested or the calling QThread interrupted meanwhile; it
+/// is killed then.
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
-                std::chrono::milliseconds patience);
+                std::chrono::milliseconds patience, const std::stop_token& stop = {});
 
 /// What such a tool printed. They write in the code page of the system, which is not this
 /// program's.

@@ -21,17 +21,17 @@ namespace
 /// Lets a receiver take one frame from the shared memory.
 void receive(NV12VideoSource& source, const QSize& size, const QByteArray& data)
 {
-    StopRequest stop;
+    std::stop_source stop;
     auto channel = std::make_unique<FakeFrameChannel>([&](FakeFrameChannel& made) {
         made.putHeader({0, 1, quint16(size.width()), quint16(size.height()), qint32(data.size())});
         std::memcpy(made.data(), data.constData(), std::size_t(data.size()));
         return FrameChannel::WaitResult{FrameChannel::WaitOutcome::Signalled, 0};
     });
     VideoReceiver receiver([&](const QVideoFrame& frame) { source.pushFrame(frame); },
-                           [&] { stop.make(); }, std::move(channel),
+                           [&] { stop.request_stop(); }, std::move(channel),
                            VideoReceiver::Timing{1ms, 1ms});
     receiver.setPlaying(true);
-    receiver.run(stop);
+    receiver.run(stop.get_token());
 }
 
 } // namespace

@@ -65,12 +65,12 @@ struct Rig {
         receiver->setPlaying(true);
     }
 
-    /// Until the writer makes the stop request.
-    void run() { receiver->run(stop); }
+    /// Until the writer requests the stop.
+    void run() { receiver->run(stop.get_token()); }
 
     FakeFrameChannel* channel = nullptr;
     std::optional<VideoReceiver> receiver;
-    StopRequest stop;
+    std::stop_source stop;
     QVideoFrame last;
     int frames = 0;
     int delivered = 0;
@@ -138,7 +138,7 @@ void tst_VideoReceiver::survivesRandomHeaders()
     };
     Rig rig([&](FakeFrameChannel& channel) {
         if (made == Count) {
-            rig.stop.make();
+            rig.stop.request_stop();
             return FrameChannel::WaitResult{Outcome::Interrupted, 0};
         }
         ++made;
@@ -164,7 +164,7 @@ void tst_VideoReceiver::readsTheHeaderOnce()
     int rounds = 0;
     Rig rig([&](FakeFrameChannel& channel) {
         if (rounds++ == 10) {
-            rig.stop.make();
+            rig.stop.request_stop();
             return FrameChannel::WaitResult{Outcome::Interrupted, 0};
         }
         channel.putHeader(header(64, 48));
@@ -195,7 +195,7 @@ void tst_VideoReceiver::showsPaddedLinesStraight()
     QFETCH(QSize, size);
     Rig rig([&](FakeFrameChannel& channel) {
         if (rig.frames > 0) {
-            rig.stop.make();
+            rig.stop.request_stop();
             return FrameChannel::WaitResult{Outcome::Interrupted, 0};
         }
         const FrameHeader next = header(quint16(size.width()), quint16(size.height()));
@@ -213,7 +213,7 @@ void tst_VideoReceiver::namesTheColourSpace()
 {
     Rig rig([&](FakeFrameChannel& channel) {
         if (rig.frames > 0)
-            rig.stop.make();
+            rig.stop.request_stop();
         channel.putHeader(header(1920, 1080));
         return FrameChannel::WaitResult{Outcome::Signalled, 0};
     });
@@ -226,7 +226,7 @@ void tst_VideoReceiver::logsEveryThousandthFrame()
 {
     Rig rig([&](FakeFrameChannel& channel) {
         if (rig.frames == 2001) {
-            rig.stop.make();
+            rig.stop.request_stop();
             return FrameChannel::WaitResult{Outcome::Interrupted, 0};
         }
         channel.putHeader(header(2, 2, {}, 0, quint32(rig.frames + 7)));
@@ -248,7 +248,7 @@ void tst_VideoReceiver::opensNothingWhileNotPlaying()
     std::atomic_bool isPlaying = false;
     bool wasOpenedEarly = false;
     Rig rig([&](FakeFrameChannel&) {
-        rig.stop.make();
+        rig.stop.request_stop();
         return FrameChannel::WaitResult{Outcome::Interrupted, 0};
     });
     rig.channel->onOpen = [&] {
@@ -269,7 +269,7 @@ void tst_VideoReceiver::tellsWhatCannotBeOpened()
     std::deque<FrameChannel::OpenResult> results{
         {Step::Mapping, 2}, {Step::View, 5}, {Step::Event, 6}, {Step::Done, 0}};
     Rig rig([&](FakeFrameChannel&) {
-        rig.stop.make();
+        rig.stop.request_stop();
         return FrameChannel::WaitResult{Outcome::Interrupted, 0};
     });
     rig.channel->onOpen = [&] {
@@ -293,7 +293,7 @@ void tst_VideoReceiver::tellsOfSilenceAndFailure()
         const auto result = results.front();
         results.pop_front();
         if (results.empty())
-            rig.stop.make();
+            rig.stop.request_stop();
         return result;
     });
     LogCapture log;
@@ -311,7 +311,7 @@ void tst_VideoReceiver::opensAgainWhenTheMemoryIsCutShort()
         channel.putHeader(header(16, 16));
         channel.isCutShort = ++rounds == 1;
         if (rig.frames > 0)
-            rig.stop.make();
+            rig.stop.request_stop();
         return FrameChannel::WaitResult{Outcome::Signalled, 0};
     });
     int openings = 0;
@@ -338,14 +338,10 @@ public:
                      VideoReceiver::Timing{10ms, 100ms})
     {
         m_receiver.setPlaying(true);
-        m_worker.emplace("video", [this](const StopRequest& stop) { m_receiver.run(stop); });
+        m_worker.emplace("video", [this](const std::stop_token& stop) { m_receiver.run(stop); });
     }
 
-    ~RunningReceiver()
-    {
-        m_worker->requestStop();
-        m_receiver.interrupt();
-    }
+    ~RunningReceiver() { m_worker->end(); }
     Q_DISABLE_COPY_MOVE(RunningReceiver)
 
     QVideoFrame last()

@@ -1,6 +1,6 @@
 #include "device/ChannelGate.h"
 #include "device/NV12VideoSource.h"
-#include "platform/Worker.h"
+#include "threads/Worker.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -61,7 +61,8 @@ void tst_Workers::workerStopsAtOnce()
 {
     bool wasAskedToStop = false;
     {
-        Worker worker("test", [&](const StopRequest& stop) { wasAskedToStop = stop.waitFor(1h); });
+        Worker worker("test",
+                      [&](const std::stop_token& stop) { wasAskedToStop = waitForStop(stop, 1h); });
     }
     QVERIFY(wasAskedToStop);
 }

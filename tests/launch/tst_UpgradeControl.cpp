@@ -19,8 +19,14 @@ namespace
 class RecordedPrograms : public ProgramControl
 {
 public:
-    bool killProcess(const QString& name) override { return note("kill", name); }
-    void keepProcessAlive(const QString& name) override { note("keep", name); }
+    bool killProcess(const QString& name, const std::stop_token&) override
+    {
+        return note("kill", name);
+    }
+    void keepProcessAlive(const QString& name, const std::stop_token&) override
+    {
+        note("keep", name);
+    }
     bool startProcess(const QString& name, const QStringList& arguments) override
     {
         const bool isUpgrade = arguments == QStringList{u"update"_s, u"/opt/VORNApp"_s};

@@ -74,7 +74,7 @@ void tst_SimulatedPrograms::init()
     qputenv("XDG_CONFIG_HOME", m_home->path().toUtf8());
     qputenv("XDG_DATA_HOME", m_home->path().toUtf8());
     QVERIFY(QDir(m_home->path()).mkpath(u"VORNApp"_s));
-    m_programs.killProcess(u"PatchPilot.exe"_s); // left by an earlier run
+    m_programs.killProcess(u"PatchPilot.exe"_s, {}); // left by an earlier run
     m_upgrade =
         std::make_unique<UpgradeControl>(m_programs, QCoreApplication::applicationFilePath(), 10ms);
 }
@@ -84,7 +84,7 @@ void tst_SimulatedPrograms::cleanup()
     m_upgrade.reset();
     if (QFile::exists(m_home->path()))
         configure("behaviour=well\n"); // stops the guard that restarts the updater
-    m_programs.killProcess(u"PatchPilot.exe"_s);
+    m_programs.killProcess(u"PatchPilot.exe"_s, {});
     m_home.reset();
 }
 
@@ -126,7 +126,7 @@ void tst_SimulatedPrograms::failedUpgradeCanBeRepeated()
     watch();
     QTRY_VERIFY_WITH_TIMEOUT(hasLogged(u"found 2.0"_s), Patience);
     if (behaviour == "unkillable") {
-        m_programs.killProcess(u"PatchPilot.exe"_s);
+        m_programs.killProcess(u"PatchPilot.exe"_s, {});
         QTRY_COMPARE_WITH_TIMEOUT(log().count(u"background"_s), 2, Patience);
     }
 

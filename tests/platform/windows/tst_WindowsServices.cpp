@@ -4,7 +4,6 @@
 #include "platform/Shortcuts.h"
 #include "platform/ThreadName.h"
 #include "platform/VersionResource.h"
-#include "platform/Worker.h"
 #include "platform/windows/ChildCommand.h"
 #include "rig/HelperProcess.h"
 
@@ -166,16 +165,15 @@ void tst_WindowsServices::stopsWaitingForAToolWhenAskedTo()
     std::atomic_bool finished = true;
     QElapsedTimer sinceRequest;
     {
-        Worker worker("tool", [&](const StopRequest&) {
+        std::jthread worker([&](const std::stop_token& stop) {
             QProcess tool;
             finished = platform::runCommand(tool, HelperProcess::path(u"platform_helper"_s),
-                                            {u"wait"_s}, 60s);
+                                            {u"wait"_s}, 60s, stop);
         });
         sinceRequest.start();
     } // asks and joins
     QVERIFY(!finished);
     QVERIFY(sinceRequest.elapsed() < 10'000);
-    QVERIFY(!StopRequest::isMadeToThisThread());
 }
 
 void tst_WindowsServices::givesUpOnASlowTool()
