@@ -1,4 +1,5 @@
 #include "app/ExitGuard.h"
+#include "app/FirstFrame.h"
 #include "app/LoadCustomFont.h"
 #include "app/LogInit.h"
 #include "app/Program.h"
@@ -14,12 +15,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
-#include <QQmlComponent>
-#include <QQuickWindow>
-#include <QTimer>
 #include <QtQml>
 
-#include <chrono>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -32,7 +29,6 @@ namespace
 
 constexpr int KeptLogFiles = 5;
 constexpr int LoadFailure = -1;
-constexpr auto FirstFramePatience = std::chrono::seconds(2);
 
 void reportCrashLine(const char* text)
 {
@@ -62,16 +58,6 @@ void logQmlWarnings(const QList<QQmlError>& warnings)
 {
     for (const QQmlError& warning : warnings)
         Log::warning("main") << warning.toString();
-}
-
-/// A window that nobody sees yet, on another workspace say, draws nothing.
-void showTrayIconAfterFirstFrame(const QQmlApplicationEngine& engine, WindowManager& windows)
-{
-    const auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
-    QObject::connect(
-        window, &QQuickWindow::frameSwapped, &windows, &WindowManager::showTrayIcon,
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QTimer::singleShot(FirstFramePatience, &windows, &WindowManager::showTrayIcon);
 }
 
 } // namespace
@@ -107,13 +93,9 @@ int main(int argc, char* argv[])
     qml_register_types_VORNApp();
     auto engine = std::make_unique<QQmlApplicationEngine>();
     QObject::connect(engine.get(), &QQmlEngine::warnings, &app, logQmlWarnings);
-    const QUrl mainWindow(u"qrc:/Main.qml"_s);
-    // The engine's own thread reads the pages while this one prepares what they need.
-    auto pages =
-        std::make_unique<QQmlComponent>(engine.get(), mainWindow, QQmlComponent::Asynchronous);
+    FirstFrame firstFrame(*engine, QUrl(u"qrc:/Main.qml"_s));
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
-    // That thread asks this one, by an event, to set up each module that it has loaded, and waits.
-    QCoreApplication::sendPostedEvents();
+    firstFrame.serveLoader();
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, [&] {
@@ -123,15 +105,12 @@ int main(int argc, char* argv[])
         instance.release();
     });
 
-    engine->load(mainWindow);
-    pages.reset();
-    if (engine->rootObjects().isEmpty()) {
+    if (!firstFrame.load(program.windowManager())) {
         Log::error("main") << "QQmlApplicationEngine load error";
         QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);
         engine.reset(); // before the objects that its context names
         return LoadFailure;
     }
-    showTrayIconAfterFirstFrame(*engine, program.windowManager());
     program.openChannel();
     const ExitGuard exitGuard([&program] {
         Log::error("main") << "ended from outside, without quitting";
