@@ -9,8 +9,8 @@
 class AccountIdentity;
 class MessageChannel;
 
-/// Holds the account client, the user's settings and the camera control, which the rest of the
-/// program reaches as interfaces. Made and destroyed on the main thread.
+/// Holds the account client, the user's settings and the camera control. Made and destroyed on the
+/// main thread.
 class Interface : public QObject
 {
     Q_OBJECT
@@ -20,10 +20,6 @@ public:
     /// @param databasePath  file of the user settings
     Interface(const QString& serverUrl, const AccountIdentity& identity,
               const QString& databasePath, MessageChannel& channel);
-    ~Interface() override;
-
-    /// The program's own one, for code that cannot be given it.
-    static Interface& instance();
 
     NetworkManager& network() { return m_network; }
     DBManager& database() { return m_database; }

@@ -1,8 +1,8 @@
 #include "app/Program.h"
 
+#include "app/StandardTasks.h"
 #include "peripherals/DeviceCheck.h"
 #include "persistence/InstalledVersions.h"
-#include "persistence/StandardTasks.h"
 #include "platform/Folders.h"
 
 #include <QDir>
@@ -26,6 +26,10 @@ Program::Program(const QString& executablePath)
     m_meetings.emplace([this] { return m_fileInfo->googleMeetingUrl(); });
     m_windowManager.emplace();
     m_deviceControl.emplace(deviceServices(executablePath));
+    m_interface.emplace(m_fileInfo->serverUrl(), m_profile, settingsFile(u"userdata.db"_s),
+                        m_channel);
+    m_deviceControl->start(standardTasks(*m_fileInfo, m_interface->database(), *m_meetings),
+                           m_interface->database(), m_interface->camera());
     qmlRegisterUncreatableType<CameraControl>("VORNApp", 1, 0, "CameraControl", QString());
 }
 
@@ -34,26 +38,14 @@ Program::~Program()
     closeChannel();
 }
 
-/// Made when the device control first asks for it, which is while it restores the account.
-Interface& Program::objects()
-{
-    if (!m_interface)
-        m_interface.emplace(m_fileInfo->serverUrl(), m_account, settingsFile(u"userdata.db"_s),
-                            m_channel);
-    return *m_interface;
-}
-
 DeviceControl::Services Program::deviceServices(const QString& executablePath)
 {
-    const auto userSettings = [this]() -> UserSettings& { return objects().database(); };
     return {.config = *m_fileInfo,
-            .tasks = standardTasks(*m_fileInfo, userSettings, *m_meetings),
+            .profile = m_profile,
             .channel = m_channel,
             .windows = *m_windowManager,
             .programs = m_programs,
             .versionValue = installedVersionValue,
-            .userSettings = userSettings,
-            .camera = [this]() -> CameraReports& { return objects().camera(); },
             .localDevices = std::make_unique<DeviceCheck>(),
             .rulesPath = settingsFile(u"config.json"_s),
             .executablePath = executablePath};
@@ -61,8 +53,8 @@ DeviceControl::Services Program::deviceServices(const QString& executablePath)
 
 void Program::publish(QQmlContext* context)
 {
-    context->setContextProperty(u"network"_s, &objects().network());
-    context->setContextProperty(u"ptz"_s, &objects().camera());
+    context->setContextProperty(u"network"_s, &m_interface->network());
+    context->setContextProperty(u"ptz"_s, &m_interface->camera());
     context->setContextProperty(u"windowManager"_s, &*m_windowManager);
     context->setContextProperty(u"deviceControl"_s, &*m_deviceControl);
 }

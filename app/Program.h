@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/Interface.h"
-#include "app/SignedInAccount.h"
 #include "app/WindowManager.h"
 #include "device/DeviceControl.h"
 #include "device/PortalHubChannel.h"
@@ -13,8 +12,8 @@
 
 #include <optional>
 
-/// The program's long-lived objects: makes them in order, gives them to QML, and closes them in
-/// reverse order. Lives between the application object and the end of the event loop.
+/// The program's long-lived objects: makes them, publishes them to QML, and closes them in reverse
+/// order of their declaration. Lives between the application object and the end of the event loop.
 class Program
 {
 public:
@@ -25,25 +24,25 @@ public:
     Program& operator=(const Program&) = delete;
 
     void publish(QQmlContext* context);
-    /// Starts delivery of the display's messages.
+    /// Starts the delivery of the display's messages.
     void openChannel();
     /// No message of the display is handled after this.
     void closeChannel();
-    /// Nothing of the program's runs beside the calling thread after this, which may be any. For an
-    /// end of the process without an end of this object.
+    /// Ends every thread of the program but the calling one, which may be any. For a process that
+    /// ends without the destruction of this object.
     void endThreads();
     WindowManager& windowManager() { return *m_windowManager; }
 
 private:
-    Interface& objects();
     DeviceControl::Services deviceServices(const QString& executablePath);
 
     PortalHubChannel m_channel;
     SystemProgramControl m_programs;
-    SignedInAccount m_account;
+    UserProfile m_profile;
     std::optional<FileInfo> m_fileInfo;
     std::optional<SystemMeetingLauncher> m_meetings;
     std::optional<WindowManager> m_windowManager;
     std::optional<Interface> m_interface;
+    // Made before the interface, but ends first, since its threads write to the user's settings.
     std::optional<DeviceControl> m_deviceControl;
 };

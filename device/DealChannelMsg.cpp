@@ -35,21 +35,20 @@ ChannelMessage buildCommandWith(ChannelCommand cmd, const QJsonObject& payload)
 }
 
 struct Sources {
-    int byod = 0;
-    int zoom = 0;
+    SourceState byod = SourceState::Unavailable;
+    SourceState zoom = SourceState::Unavailable;
 };
 
 /// A selected source excludes the other one. Without a selection the values count only while the
 /// display shows its source picker.
 Sources readSources(const QJsonObject& message)
 {
-    constexpr int Selected = 2;
-    const int byod = message["byod_status"_L1].toInt();
-    const int zoom = message["zoom_status"_L1].toInt();
-    if (byod == Selected)
-        return {Selected, 0};
-    if (zoom == Selected)
-        return {0, Selected};
+    const auto byod = static_cast<SourceState>(message["byod_status"_L1].toInt());
+    const auto zoom = static_cast<SourceState>(message["zoom_status"_L1].toInt());
+    if (byod == SourceState::Selected)
+        return {.byod = SourceState::Selected};
+    if (zoom == SourceState::Selected)
+        return {.zoom = SourceState::Selected};
     if (message["is_byodui_show"_L1].toInt() == 1)
         return {byod, zoom};
     return {};
@@ -96,10 +95,10 @@ std::optional<std::string> DealChannelMsg::PraseJson(const std::string& msg) con
 
 void DealChannelMsg::dispatch(const QJsonObject& message) const
 {
-    constexpr int FromDisplay = 1;
+    constexpr auto FromDisplay = Direction::FromDisplay;
     switch (static_cast<ChannelCommand>(message["cmd"_L1].toInt())) {
     case ChannelCommand::ConnectMode:
-        m_display.setConnectMode(message["isReady"_L1].toInt());
+        m_display.setConnectMode(static_cast<ConnectMode>(message["isReady"_L1].toInt()));
         break;
     case ChannelCommand::Volume:
         m_display.setVolumeReady(1);
@@ -117,7 +116,7 @@ void DealChannelMsg::dispatch(const QJsonObject& message) const
         m_display.setRemoteVer(message["ota_ver"_L1].toString());
         break;
     case ChannelCommand::AutoFraming:
-        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, Direction::FromDisplay);
+        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, FromDisplay);
         break;
     case ChannelCommand::SmartFraming:
         m_camera.setSmartFraming(message["smartframestatus"_L1].toInt() != 0,
@@ -147,14 +146,16 @@ ChannelMessage DealChannelMsg::buildVolume(int volume)
     return buildCommandWith(ChannelCommand::Volume, {{u"volume"_s, volume}});
 }
 
-ChannelMessage DealChannelMsg::buildByodStatus(int byodStatus)
+ChannelMessage DealChannelMsg::buildByodStatus(SourceState state)
 {
-    return buildCommandWith(ChannelCommand::SelectByod, {{u"byod_status"_s, byodStatus}});
+    return buildCommandWith(ChannelCommand::SelectByod,
+                            {{u"byod_status"_s, static_cast<int>(state)}});
 }
 
-ChannelMessage DealChannelMsg::buildZoomStatus(int zoomStatus)
+ChannelMessage DealChannelMsg::buildZoomStatus(SourceState state)
 {
-    return buildCommandWith(ChannelCommand::SelectZoom, {{u"zoom_status"_s, zoomStatus}});
+    return buildCommandWith(ChannelCommand::SelectZoom,
+                            {{u"zoom_status"_s, static_cast<int>(state)}});
 }
 
 ChannelMessage DealChannelMsg::buildAutoFraming(bool on)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/ChannelMessage.h"
+#include "device/DisplayValues.h"
 
 #include <optional>
 #include <string>
@@ -28,8 +29,8 @@ public:
     static ChannelMessage buildCommand(ChannelCommand cmd);
     static ChannelMessage buildQuery(ChannelCommand cmd);
     static ChannelMessage buildVolume(int volume);
-    static ChannelMessage buildByodStatus(int byodStatus);
-    static ChannelMessage buildZoomStatus(int zoomStatus);
+    static ChannelMessage buildByodStatus(SourceState state);
+    static ChannelMessage buildZoomStatus(SourceState state);
     static ChannelMessage buildAutoFraming(bool on);
     static ChannelMessage buildSmartFraming(bool on);
     static ChannelMessage buildCameraScale(int scaleType, int scaleStatus);

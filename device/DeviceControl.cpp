@@ -1,28 +1,17 @@
 #include "device/DeviceControl.h"
 
-#include "device/VideoReceiver.h"
+#include "device/MessageChannel.h"
 #include "launch/ProgramControl.h"
-#include "logging/Log.h"
 #include "persistence/FileInfo.h"
-#include "platform/ThreadName.h"
-
-#include <QHostAddress>
-#include <QNetworkDatagram>
-
-using namespace Qt::StringLiterals;
+#include "persistence/Keys.h"
 
 namespace
 {
 
-constexpr auto ReceiveWait = std::chrono::hours(1); // a datagram or the end comes sooner
+/// Ends with this program.
+constexpr QLatin1StringView CompanionProgram{"BridgeAgent.exe"};
 
-DeviceControl* s_instance = nullptr;
-
-/// After the highest number comes the lowest.
-int nextFrameIndex(int index)
-{
-    return static_cast<int>(static_cast<unsigned>(index) + 1U);
-}
+DeviceControl* s_instance = nullptr; // main thread; read by others while the channel is open
 
 } // namespace
 
@@ -32,46 +21,33 @@ DeviceControl& DeviceControl::instance()
     return *s_instance;
 }
 
-DeviceControl::DeviceControl(Services services)
-    : DeviceControl(std::move(services), Timing{})
-{
-}
-
 DeviceControl::DeviceControl(Services services, Timing timing)
-    : m_services(std::move(services))
-    , m_timing(timing)
-    , m_k4vLowestVer(u"3.9.6"_s)
-    , m_upgrade(m_services.programs, m_services.executablePath, timing.pauseAfterUpdaterKill)
-    , m_taskQueue(m_services.tasks)
-    , m_userImage(u"qrc:/images/user_84x84.png"_s)
-    , m_videoReceiver(std::make_unique<VideoReceiver>(
-          [this](const QVideoFrame& frame) { m_videoSource.pushFrame(frame); },
-          [this] { setFrameIndex(nextFrameIndex(frameIndex())); }))
+    : m_channel(services.channel)
+    , m_programs(services.programs)
+    , m_configPath(services.config.configPath())
+    , m_supportLaunchZoom({"DeviceControl::setSupportLaunchZoom",
+                           "m_supportLaunchZoom:", ", newSupportLaunchZoom:"},
+                          true)
+    , m_supportLaunchTeams({"DeviceControl::setSupportLaunchTeams",
+                            "m_supportLaunchTeams:", ", newSupportLaunchTeams:"},
+                           true)
+    , m_supportLaunchGoogle({"DeviceControl::setSupportLaunchGoogle",
+                             "m_supportLaunchGoogle:", ", newSupportLaunchGoogle:"},
+                            true)
+    , m_profile(services.profile)
+    , m_display(services.channel, services.windows)
+    , m_remoteDevice(services.config, m_display)
+    , m_status({.programs = services.programs,
+                .versionValue = std::move(services.versionValue),
+                .localDevices = std::move(services.localDevices),
+                .executablePath = services.executablePath,
+                .channel = services.channel,
+                .display = m_display},
+               timing)
 {
-    m_applyTimer.setSingleShot(true);
-    connect(
-        &m_applyTimer, &QTimer::timeout, &m_applyTimer, [this] { applyUseRemoteDevice(false); },
-        Qt::DirectConnection);
-
-    m_taskThread.setObjectName(u"tasks"_s);
-    connect(
-        &m_taskThread, &QThread::started, &m_taskThread,
-        [] { platform::nameCurrentThread("tasks"); }, Qt::DirectConnection);
-    m_taskQueue.moveToThread(&m_taskThread);
-    connect(this, &DeviceControl::addTask, &m_taskQueue, &TaskQueue::addTask);
-    // Names the order that the wait for the thread implies to a race detector that does not see
-    // into Qt.
-    connect(
-        &m_taskThread, &QThread::finished, &m_taskThread,
-        [this] { m_taskThreadEnded.store(true, std::memory_order_release); }, Qt::DirectConnection);
-    m_taskThread.start(QThread::InheritPriority);
-
-    readConfig();
-    m_services.localDevices->ReadJsonConfig(m_services.rulesPath);
-    restoreAccount();
-    m_udpClient.bind(ReceivePort);
-    startWorkers();
-
+    forwardSignals();
+    adoptConfig(services.config);
+    m_status.readDeviceRules(services.rulesPath);
     if (!s_instance)
         s_instance = this;
 }
@@ -81,44 +57,83 @@ DeviceControl::~DeviceControl()
     Log::info("DeviceControl::~DeviceControl") << "~DeviceControl";
     if (s_instance == this)
         s_instance = nullptr;
-    m_services.programs.killProcess(u"BridgeAgent.exe"_s, {});
-    m_applyTimer.stop();
+    m_programs.killProcess(CompanionProgram, {});
+    m_remoteDevice.stopTimer();
     endThreads();
 }
 
-void DeviceControl::endThreads()
+void DeviceControl::adoptConfig(const FileInfo& config)
 {
-    m_udpWorker->requestStop();
-    m_udpClient.stop();
-    m_statusWorker->requestStop();
-    m_videoWorker->requestStop();
-    m_taskThread.requestInterruption();
-    m_taskThread.quit();
-    m_taskThread.wait();
-    (void)m_taskThreadEnded.load(std::memory_order_acquire);
-    for (const auto& worker : {&m_udpWorker, &m_statusWorker, &m_videoWorker})
-        (*worker)->end();
-    m_upgrade.end();
-}
-
-void DeviceControl::readConfig()
-{
-    const FileInfo& config = m_services.config;
     setK4vLowestVer(config.k4vLowestVer());
-    setUseRemoteDevice(config.useRemoteDevice(), 0);
+    setUseRemoteDevice(config.useRemoteDevice());
     setSupportLaunchZoom(config.supportLaunchZoom());
     setSupportLaunchTeams(config.supportLaunchTeams());
     setSupportLaunchGoogle(config.supportLaunchGoogle());
 }
 
-void DeviceControl::startWorkers()
+void DeviceControl::start(TaskQueue::Actions tasks, UserSettings& userSettings,
+                          CameraReports& camera)
 {
-    m_statusWorker = std::make_unique<Worker>(
-        "status", [this](const std::stop_token& stop) { DetectProgramStatusProc(stop); });
-    m_videoWorker = std::make_unique<Worker>(
-        "video", [this](const std::stop_token& stop) { RecvSharedMemoryProc(stop); });
-    m_udpWorker = std::make_unique<Worker>(
-        "udp receive", [this](const std::stop_token& stop) { RecvUdpDatagram(stop); });
+    m_tasks.start(std::move(tasks));
+    m_profile.restore(userSettings);
+    m_receiver.emplace(m_channel, m_display, camera);
+    m_pointer.bind();
+    m_status.start();
+    m_screen.start();
+    m_pointer.start();
+}
+
+/// All are asked first, so that they end side by side.
+void DeviceControl::endThreads()
+{
+    m_pointer.requestStop();
+    m_status.requestStop();
+    m_screen.requestStop();
+    m_tasks.requestStop();
+    m_tasks.end();
+    m_pointer.end();
+    m_status.end();
+    m_screen.end();
+}
+
+template <typename Part, typename... Args>
+void DeviceControl::forward(const Part& part, void (Part::*from)(Args...),
+                            void (DeviceControl::*to)(Args...))
+{
+    connect(&part, from, this, to, Qt::DirectConnection); // stays on the thread of the change
+}
+
+void DeviceControl::forwardSignals()
+{
+    forward(m_display, &DisplayState::connectModeChanged, &DeviceControl::connectModeChanged);
+    forward(m_display, &DisplayState::volumeReady, &DeviceControl::volumeReady);
+    forward(m_display, &DisplayState::volumeChanged, &DeviceControl::volumeChanged);
+    forward(m_display, &DisplayState::byodSwitchChanged, &DeviceControl::byodSwitchChanged);
+    forward(m_display, &DisplayState::zoomSwitchChanged, &DeviceControl::zoomSwitchChanged);
+    forward(m_display, &DisplayState::remoteVerChanged, &DeviceControl::remoteVerChanged);
+    forward(m_display, &DisplayState::k4vLowestVerChanged, &DeviceControl::k4vLowestVerChanged);
+    forward(m_display, &DisplayState::vornMicStatusChanged, &DeviceControl::vornMicStatusChanged);
+    forward(m_display, &DisplayState::vornCamStatusChanged, &DeviceControl::vornCamStatusChanged);
+    forward(m_display, &DisplayState::vornSpkStatusChanged, &DeviceControl::vornSpkStatusChanged);
+    forward(m_remoteDevice, &RemoteDeviceSwitch::useRemoteDeviceChecked,
+            &DeviceControl::useRemoteDeviceChecked);
+    forward(m_remoteDevice, &RemoteDeviceSwitch::addTask, &DeviceControl::addTask);
+    forward(m_status, &StatusLoop::versionChanged, &DeviceControl::versionChanged);
+    forward(m_status, &StatusLoop::newVersionChanged, &DeviceControl::newVersionChanged);
+    forward(m_status, &StatusLoop::hasNewVersion, &DeviceControl::hasNewVersion);
+    forward(m_status, &StatusLoop::updateCompleted, &DeviceControl::updateCompleted);
+    forward(m_screen, &ScreenMirror::frameIndexChanged, &DeviceControl::frameIndexChanged);
+    forward(m_profile, &UserProfile::loginChanged, &DeviceControl::loginChanged);
+    forward(m_profile, &UserProfile::firstNameChanged, &DeviceControl::firstNameChanged);
+    forward(m_profile, &UserProfile::lastNameChanged, &DeviceControl::lastNameChanged);
+    forward(m_profile, &UserProfile::emailChanged, &DeviceControl::emailChanged);
+    forward(m_profile, &UserProfile::companyChanged, &DeviceControl::companyChanged);
+    forward(m_profile, &UserProfile::titleChanged, &DeviceControl::titleChanged);
+    forward(m_profile, &UserProfile::tokenChanged, &DeviceControl::tokenChanged);
+    forward(m_profile, &UserProfile::userImageChanged, &DeviceControl::userImageChanged);
+    forward(m_profile, &UserProfile::userIdChanged, &DeviceControl::userIdChanged);
+    forward(m_profile, &UserProfile::addTask, &DeviceControl::addTask);
+    connect(this, &DeviceControl::addTask, &m_tasks.queue(), &TaskQueue::addTask);
 }
 
 int DeviceControl::DealChannelMsg(int id, const std::string& msg)
@@ -128,31 +143,90 @@ int DeviceControl::DealChannelMsg(int id, const std::string& msg)
 
 int DeviceControl::handleChannelMessage(int id, const std::string& msg)
 {
-    constexpr auto Function = "DeviceControl::DealChannelMsg";
-    Log::info(Function) << "recv :" << msg;
-    if (const auto reply = ::DealChannelMsg(*this, m_services.camera()).PraseJson(msg)) {
-        Log::info(Function) << "reply:" << *reply;
-        m_services.channel.push({static_cast<ChannelCommand>(id), *reply});
-    }
+    Q_ASSERT(m_receiver);
+    m_receiver->handle(id, msg);
     return 0;
 }
 
-void DeviceControl::RecvSharedMemoryProc(const std::stop_token& stop)
+void DeviceControl::setVolume(int newVolume, int direction)
 {
-    m_videoReceiver->run(stop);
+    m_display.setVolume(newVolume, Direction(direction));
 }
 
-void DeviceControl::RecvUdpDatagram(const std::stop_token& stop)
+void DeviceControl::setByodSwitch(int newByodSwitch, int direction)
 {
-    constexpr auto Function = "DeviceControl::RecvUdpDatagram";
-    Log::info(Function) << "thread start";
-    while (!stop.stop_requested()) {
-        QNetworkDatagram datagram;
-        if (!m_udpClient.waitForDatagram(datagram, ReceiveWait))
-            continue;
-        Log::info(Function) << "recv from " << datagram.senderAddress().toString() << ":"
-                            << datagram.senderPort() << " [" << UdpClient::hexDump(datagram.data())
-                            << "]";
-    }
-    Log::info(Function) << "thread end";
+    m_display.setByodSwitch(SourceState(newByodSwitch), Direction(direction));
+}
+
+void DeviceControl::setZoomSwitch(int newZoomSwitch, int direction)
+{
+    m_display.setZoomSwitch(SourceState(newZoomSwitch), Direction(direction));
+}
+
+void DeviceControl::setUseRemoteDevice(bool checked, int direction)
+{
+    m_remoteDevice.setUseRemoteDevice(checked, Direction(direction));
+}
+
+void DeviceControl::setSupportLaunchZoom(bool shown)
+{
+    if (!m_supportLaunchZoom.set(shown))
+        return;
+    emit supportLaunchZoomChanged();
+    saveConfigValue(keys::config::LaunchZoom, shown);
+}
+
+void DeviceControl::setSupportLaunchTeams(bool shown)
+{
+    if (!m_supportLaunchTeams.set(shown))
+        return;
+    emit supportLaunchTeamsChanged();
+    saveConfigValue(keys::config::LaunchTeams, shown);
+}
+
+void DeviceControl::setSupportLaunchGoogle(bool shown)
+{
+    if (!m_supportLaunchGoogle.set(shown))
+        return;
+    emit supportLaunchGoogleChanged();
+    saveConfigValue(keys::config::LaunchGoogle, shown);
+}
+
+void DeviceControl::saveConfigValue(QLatin1StringView key, bool value)
+{
+    emit addTask(keys::task::SaveConfig, {m_configPath, key, value});
+}
+
+void DeviceControl::launchZoom()
+{
+    Log::info("DeviceControl::launchZoom") << "launchZoom";
+    emit addTask(keys::task::LaunchZoom, {});
+}
+
+void DeviceControl::launchTeams()
+{
+    Log::info("DeviceControl::launchTeams") << "launchTeams";
+    emit addTask(keys::task::LaunchTeams, {});
+}
+
+void DeviceControl::launchGoogleMeeting()
+{
+    Log::info("DeviceControl::launchGoogleMeeting") << "launchGoogleMeeting";
+    emit addTask(keys::task::LaunchGoogleMeeting, {});
+}
+
+void DeviceControl::setVideoSink(const QVariant& sinkVariant)
+{
+    m_screen.setVideoSink(sinkVariant.value<QVideoSink*>());
+}
+
+void DeviceControl::monitorPlay(bool play)
+{
+    if (m_screen.monitorPlay(play) && play)
+        m_pointer.bind();
+}
+
+void DeviceControl::getKeyboardEvent(int type, int key)
+{
+    Log::info("DeviceControl::getKeyboardEvent") << "type:" << type << ", key:" << key;
 }

@@ -1,43 +1,25 @@
 #pragma once
 
-#include "device/DealChannelMsg.h"
-#include "device/DisplayReports.h"
-#include "device/LocalDevices.h"
-#include "device/MessageChannel.h"
-#include "device/NV12VideoSource.h"
-#include "device/UdpClient.h"
-#include "launch/UpgradeControl.h"
-#include "persistence/TaskQueue.h"
-#include "threads/Worker.h"
+#include "device/ChannelReceiver.h"
+#include "device/DisplayState.h"
+#include "device/PointerLink.h"
+#include "device/RemoteDeviceSwitch.h"
+#include "device/ScreenMirror.h"
+#include "device/StatusLoop.h"
+#include "device/TaskThread.h"
+#include "device/UserProfile.h"
 
-#include <QJsonObject>
-#include <QObject>
-#include <QThread>
-#include <QTimer>
 #include <QVariant>
 
-#include <atomic>
-#include <chrono>
-#include <functional>
-#include <memory>
-#include <mutex>
+#include <optional>
 
-class FileInfo;
-class UserSettings;
-class VideoReceiver;
-class WindowRequests;
-
-/// The one object through which the user interface sees and drives the display.
+/// The object through which the user interface sees and drives the display: the properties, signals
+/// and operations of its parts under one name.
 ///
-/// It holds device, version and account state as properties, owns the task queue and its thread,
-/// the video source, the UDP client and the local device check, and runs three workers: program
-/// status, video and UDP. Made and destroyed on the main thread, which also calls the invokable
-/// operations; the setters but setUseRemoteDevice() may be called from any thread. Values are kept
-/// under a lock, while signals are emitted and messages sent outside it, so that neither a binding
-/// that reads nor a channel library that calls back can block. The one exception is the task that
-/// writes disable_local_dev, which is posted under a lock of its own to keep its order. Signals of
-/// other threads reach the main thread queued.
-class DeviceControl : public QObject, public DisplayReports, public LocalDeviceStatus
+/// Made, started and destroyed on the main thread, which also calls the operations. Setters of the
+/// display's state, the versions and the frame index may be called from any thread; their signals
+/// are emitted on it and reach QML queued.
+class DeviceControl : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(
@@ -75,126 +57,114 @@ class DeviceControl : public QObject, public DisplayReports, public LocalDeviceS
     Q_PROPERTY(int frameIndex READ frameIndex WRITE setFrameIndex NOTIFY frameIndexChanged FINAL)
 
 public:
-    /// What the object works with. References have to outlive it. The functions give objects that
-    /// do not exist yet while it is constructed; they are called on the threads named.
+    /// What the object works with. References have to outlive it.
     struct Services {
         const FileInfo& config;
-        TaskQueue::Actions tasks;
+        UserProfile& profile;
         MessageChannel& channel;
         WindowRequests& windows;
         ProgramControl& programs;
-        /// The registry value "version" or "newver", empty when absent. Status worker and main
-        /// thread.
-        std::function<QString(const QString& name)> versionValue;
-        /// Main thread; first called during construction.
-        std::function<UserSettings&()> userSettings;
-        /// Channel thread; first called with the first message.
-        std::function<CameraReports&()> camera;
+        std::function<QString(const QString& name)> versionValue; ///< as for StatusLoop
         std::unique_ptr<LocalDevices> localDevices;
         QString rulesPath;
-        /// File path of this program, handed to the updater.
-        QString executablePath;
+        QString executablePath; ///< of this program, passed to the updater
     };
-    struct Timing {
-        std::chrono::milliseconds statusPass = std::chrono::seconds(1);
-        std::chrono::milliseconds pauseAfterUpdaterKill = std::chrono::seconds(3);
-    };
+    using Timing = StatusLoop::Timing;
 
-    explicit DeviceControl(Services services);
-    DeviceControl(Services services, Timing timing);
+    /// Adopts the configuration and reads the rules of the device check; starts no thread.
+    explicit DeviceControl(Services services, Timing timing = {});
     ~DeviceControl() override;
 
-    /// Ends all threads of this object, which does nothing by itself after that. Any thread but
-    /// those.
+    /// Restores the signed-in user and starts the threads. Once. References have to outlive this
+    /// object.
+    void start(TaskQueue::Actions tasks, UserSettings& userSettings, CameraReports& camera);
+    /// Ends all threads of this object, which is passive from then on. Any thread but those.
     void endThreads();
 
-    /// The program's object, from the end of its construction to its destruction. Only the
-    /// composition of the program uses this.
+    /// The program's object. Serves the channel library's callback only.
     static DeviceControl& instance();
-    /// Handles one message of the channel and sends the reply it asks for. Always 0.
+    /// Handles one message of the channel and sends the reply it asks for. Always 0. Any thread,
+    /// after start().
     static int DealChannelMsg(int id, const std::string& msg);
     int handleChannelMessage(int id, const std::string& msg);
 
-    Q_INVOKABLE int connectMode() const;
-    Q_INVOKABLE int volume() const;
-    /// @param direction  here and below 0: changed in this program, 1: reported by the display
-    Q_INVOKABLE void setVolume(int newVolume, int direction = 0) override;
-    Q_INVOKABLE int byodSwitch() const;
-    Q_INVOKABLE void setByodSwitch(int newByodSwitch, int direction = 0) override;
-    Q_INVOKABLE int zoomSwitch() const;
-    Q_INVOKABLE void setZoomSwitch(int newZoomSwitch, int direction = 0) override;
-    Q_INVOKABLE QString version() const;
-    Q_INVOKABLE QString newVersion() const;
-    Q_INVOKABLE QString k4vLowestVer() const;
-    Q_INVOKABLE bool useRemoteDevice() const;
+    // For all setters with a direction: 0 = changed by this program, 1 = reported by the display.
+    Q_INVOKABLE int connectMode() const { return int(m_display.connectMode()); }
+    Q_INVOKABLE int volume() const { return m_display.volume(); }
+    Q_INVOKABLE void setVolume(int newVolume, int direction = 0);
+    Q_INVOKABLE int byodSwitch() const { return int(m_display.byodSwitch()); }
+    Q_INVOKABLE void setByodSwitch(int newByodSwitch, int direction = 0);
+    Q_INVOKABLE int zoomSwitch() const { return int(m_display.zoomSwitch()); }
+    Q_INVOKABLE void setZoomSwitch(int newZoomSwitch, int direction = 0);
+    Q_INVOKABLE QString version() const { return m_status.version(); }
+    Q_INVOKABLE QString newVersion() const { return m_status.newVersion(); }
+    Q_INVOKABLE QString k4vLowestVer() const { return m_display.k4vLowestVer(); }
+    Q_INVOKABLE bool useRemoteDevice() const { return m_remoteDevice.useRemoteDevice(); }
     /// Main thread.
     Q_INVOKABLE void setUseRemoteDevice(bool checked, int direction = 0);
     /// Whether the registry names a version other than the installed one.
-    Q_INVOKABLE bool checkUpdate(int direction = 0);
-    Q_INVOKABLE void startUpdate();
-    Q_INVOKABLE void updateTimeout();
-    Q_INVOKABLE int vornMicStatus() const;
-    Q_INVOKABLE int vornCamStatus() const;
-    Q_INVOKABLE int vornSpkStatus() const;
+    Q_INVOKABLE bool checkUpdate(int = 0) { return m_status.checkUpdate(); }
+    Q_INVOKABLE void startUpdate() { m_status.startUpdate(); }
+    Q_INVOKABLE void updateTimeout() { m_status.updateTimeout(); }
+    Q_INVOKABLE int vornMicStatus() const { return m_display.vornMicStatus(); }
+    Q_INVOKABLE int vornCamStatus() const { return m_display.vornCamStatus(); }
+    Q_INVOKABLE int vornSpkStatus() const { return m_display.vornSpkStatus(); }
     Q_INVOKABLE void launchZoom();
     Q_INVOKABLE void launchTeams();
     Q_INVOKABLE void launchGoogleMeeting();
-    Q_INVOKABLE void startBYOD();
-    Q_INVOKABLE void loginSuccess(const QJsonObject& root);
-    Q_INVOKABLE void profileUpdateSuccess(const QJsonObject& root);
-    Q_INVOKABLE void profileRequestSuccess(const QJsonObject& root);
-    Q_INVOKABLE void setLogin(bool newLogin);
+    Q_INVOKABLE void startBYOD() { m_display.startByod(); }
+    Q_INVOKABLE void loginSuccess(const QJsonObject& root) { m_profile.loginSuccess(root); }
+    Q_INVOKABLE void profileUpdateSuccess(const QJsonObject& r) { m_profile.updateSuccess(r); }
+    Q_INVOKABLE void profileRequestSuccess(const QJsonObject& r) { m_profile.requestSuccess(r); }
+    Q_INVOKABLE void setLogin(bool newLogin) { m_profile.setLogin(newLogin); }
     Q_INVOKABLE void setVideoSink(const QVariant& sinkVariant);
-    /// Whether the monitor window wants frames.
+    /// Whether the monitor window wants frames. Main thread.
     Q_INVOKABLE void monitorPlay(bool play);
     /// @param type  0 press, 1 release, 2 move
     /// @param x     fraction 0 to 1 of the picture's width, y likewise of its height
-    Q_INVOKABLE void getMouseEvent(int type, float x, float y);
+    Q_INVOKABLE void getMouseEvent(int type, float x, float y) { m_pointer.send(type, x, y); }
     Q_INVOKABLE void getKeyboardEvent(int type, int key);
-    Q_INVOKABLE int frameIndex() const;
-    Q_INVOKABLE void startSetupBarOOBE();
+    Q_INVOKABLE int frameIndex() const { return m_screen.frameIndex(); }
+    Q_INVOKABLE void startSetupBarOOBE() { m_display.startSetup(); }
 
-    Q_INVOKABLE QString remoteVer() const;
-    Q_INVOKABLE bool supportLaunchZoom() const;
-    Q_INVOKABLE bool supportLaunchTeams() const;
-    Q_INVOKABLE bool supportLaunchGoogle() const;
-    Q_INVOKABLE bool login() const;
-    Q_INVOKABLE QString firstName() const;
-    Q_INVOKABLE QString lastName() const;
-    Q_INVOKABLE QString email() const;
-    Q_INVOKABLE QString company() const;
-    Q_INVOKABLE QString title() const;
-    Q_INVOKABLE QString token() const;
-    Q_INVOKABLE QString userImage() const;
-    Q_INVOKABLE QString userId() const;
-    /// The avatar as Base64 text without prefix, empty when there is none.
-    QString rawPicture() const;
+    Q_INVOKABLE QString remoteVer() const { return m_display.remoteVer(); }
+    Q_INVOKABLE bool supportLaunchZoom() const { return m_supportLaunchZoom.get(); }
+    Q_INVOKABLE bool supportLaunchTeams() const { return m_supportLaunchTeams.get(); }
+    Q_INVOKABLE bool supportLaunchGoogle() const { return m_supportLaunchGoogle.get(); }
+    Q_INVOKABLE bool login() const { return m_profile.login(); }
+    Q_INVOKABLE QString firstName() const { return m_profile.firstName(); }
+    Q_INVOKABLE QString lastName() const { return m_profile.lastName(); }
+    Q_INVOKABLE QString email() const { return m_profile.email(); }
+    Q_INVOKABLE QString company() const { return m_profile.company(); }
+    Q_INVOKABLE QString title() const { return m_profile.title(); }
+    Q_INVOKABLE QString token() const { return m_profile.token(); }
+    Q_INVOKABLE QString userImage() const { return m_profile.userImage(); }
+    Q_INVOKABLE QString userId() const { return m_profile.userId(); }
 
-    void setConnectMode(int mode) override;
-    void setVersion(const QString& newVersion);
-    void setNewVersion(const QString& newVersion);
-    void setK4vLowestVer(const QString& newK4vLowestVer);
-    void setRemoteVer(const QString& newRemoteVer) override;
-    void setVornMicStatus(int newVornMicStatus) override;
-    void setVornCamStatus(int newVornCamStatus) override;
-    void setVornSpkStatus(int newVornSpkStatus) override;
-    void setSupportLaunchZoom(bool newSupportLaunchZoom);
-    void setSupportLaunchTeams(bool newSupportLaunchTeams);
-    void setSupportLaunchGoogle(bool newSupportLaunchGoogle);
-    void setFirstName(const QString& newFirstName);
-    void setLastName(const QString& newLastName);
-    void setEmail(const QString& newEmail);
-    void setCompany(const QString& newCompany);
-    void setTitle(const QString& newTitle);
-    void setToken(const QString& newToken);
-    void setUserId(const QString& newUserId);
-    void setFrameIndex(int newFrameIndex);
-    void setVolumeReady(int ready) override;
-    void setShareStatusReady(int ready) override;
-    void setRemoteVerReady(int ready) override;
-    /// Writes "disable_local_dev" and starts the interval within which it is not written again.
-    /// @param force  write also when the value equals the one written last
-    void applyUseRemoteDevice(bool force);
+    void setConnectMode(int mode) { m_display.setConnectMode(ConnectMode(mode)); }
+    void setVersion(const QString& version) { m_status.setVersion(version); }
+    void setNewVersion(const QString& version) { m_status.setNewVersion(version); }
+    void setK4vLowestVer(const QString& version) { m_display.setK4vLowestVer(version); }
+    void setRemoteVer(const QString& version) { m_display.setRemoteVer(version); }
+    void setVornMicStatus(int status) { m_display.setVornMicStatus(status); }
+    void setVornCamStatus(int status) { m_display.setVornCamStatus(status); }
+    void setVornSpkStatus(int status) { m_display.setVornSpkStatus(status); }
+    void setSupportLaunchZoom(bool shown);
+    void setSupportLaunchTeams(bool shown);
+    void setSupportLaunchGoogle(bool shown);
+    void setFirstName(const QString& name) { m_profile.setFirstName(name); }
+    void setLastName(const QString& name) { m_profile.setLastName(name); }
+    void setEmail(const QString& email) { m_profile.setEmail(email); }
+    void setCompany(const QString& company) { m_profile.setCompany(company); }
+    void setTitle(const QString& title) { m_profile.setTitle(title); }
+    void setToken(const QString& token) { m_profile.setToken(token); }
+    void setUserId(const QString& userId) { m_profile.setUserId(userId); }
+    void setFrameIndex(int newFrameIndex) { m_screen.setFrameIndex(newFrameIndex); }
+    void setVolumeReady(int ready) { m_display.setVolumeReady(ready); }
+    void setShareStatusReady(int ready) { m_display.setShareStatusReady(ready); }
+    void setRemoteVerReady(int ready) { m_display.setRemoteVerReady(ready); }
+    /// As for RemoteDeviceSwitch. Main thread.
+    void applyUseRemoteDevice(bool force) { m_remoteDevice.applyUseRemoteDevice(force); }
 
 signals:
     void connectModeChanged();
@@ -229,99 +199,29 @@ signals:
     void frameIndexChanged();
 
 private:
-    static constexpr quint16 ReceivePort = 49175;
+    template <typename Part, typename... Args>
+    void forward(const Part& part, void (Part::*from)(Args...), void (DeviceControl::*to)(Args...));
+    void forwardSignals();
+    void adoptConfig(const FileInfo& config);
+    void saveConfigValue(QLatin1StringView key, bool value);
 
-    /// What a setter's log line says besides the values.
-    struct ChangeLabels {
-        const char* function;
-        const char* oldValue;
-        const char* newValue;
-    };
+    MessageChannel& m_channel;
+    ProgramControl& m_programs;
+    const QString m_configPath;
 
-    template <typename Value>
-    Value stored(const Value& member) const;
-    template <typename Value>
-    bool change(Value& member, const Value& newValue, const ChangeLabels& labels);
-    template <typename Value>
-    bool change(Value& member, const Value& newValue, int direction, const ChangeLabels& labels);
+    // Main thread only.
+    LoggedValue<bool> m_supportLaunchZoom;
+    LoggedValue<bool> m_supportLaunchTeams;
+    LoggedValue<bool> m_supportLaunchGoogle;
 
-    void readConfig();
-    void restoreAccount();
-    void startWorkers();
-
-    void DetectProgramStatusProc(const std::stop_token& stop);
-    void RecvSharedMemoryProc(const std::stop_token& stop);
-    void RecvUdpDatagram(const std::stop_token& stop);
-
-    void loadVersion();
-    void loadNewVersion();
-    /// True when there is a newer version.
-    bool reportVersions(const char* function);
-    void queryFirmwareVersion();
-
-    void requestWindow(int mode);
-    void forgetDisplay();
-    void saveDisableLocalDevices();
-    void saveConfigValue(const QString& key, bool value);
-    void saveUserValue(const QString& key, const QString& value);
-    void adoptPicture(const QString& picture);
-    void setUserImage(const QString& newUserImage);
-    void adoptProfile(const QJsonObject& profile);
-    void clearAccount();
-
-    Services m_services;
-    const Timing m_timing;
-
-    mutable std::mutex m_stateMutex;
-    // Keeps the registry writes in the order of the states they are made of. Recursive, since a
-    // slot that is connected directly to addTask may set something.
-    std::recursive_mutex m_saveOrderMutex;
-
-    int m_connectMode = 0;
-    int m_volume = 75;
-    int m_byodSwitch = 0;
-    int m_zoomSwitch = 0;
-    QString m_version;
-    QString m_new_version;
-    QString m_remoteVer;
-    QString m_k4vLowestVer;
-    bool m_useRemoteDevice = true;
-    bool m_useRemoteDeviceLast = true;
-    QTimer m_applyTimer;
-    int m_volume_ready = 0;
-    int m_share_status_ready = 0;
-    int m_remotever_ready = 0;
-    UpgradeControl m_upgrade;
-    TaskQueue m_taskQueue;
-    QThread m_taskThread;
-    std::atomic<bool> m_taskThreadEnded = false;
-    int m_vornMicStatus = 0;
-    int m_vornCamStatus = 0;
-    int m_vornSpkStatus = 0;
-    bool m_supportLaunchZoom = true;
-    bool m_supportLaunchTeams = true;
-    bool m_supportLaunchGoogle = true;
-    bool m_login = false;
-    QString m_firstName;
-    QString m_lastName;
-    QString m_email;
-    QString m_company;
-    QString m_title;
-    QString m_token;
-    QString m_userImage;
-    QString m_userId;
-    QString m_rawPicture;
-    bool m_monitor_play = false;
-    NV12VideoSource m_videoSource;
-    std::unique_ptr<VideoReceiver> m_videoReceiver;
-    int m_frameIndex = 0;
-    UdpClient m_udpClient;
-
-    // Status worker only.
-    int m_versionQueryTick = 0;
-
-    // Last, so that the workers have ended before anything they use goes.
-    std::unique_ptr<Worker> m_statusWorker;
-    std::unique_ptr<Worker> m_videoWorker;
-    std::unique_ptr<Worker> m_udpWorker;
+    // The parts say for themselves which threads they serve. In the order in which they use each
+    // other; the log of start and end follows it.
+    UserProfile& m_profile;
+    DisplayState m_display;
+    RemoteDeviceSwitch m_remoteDevice;
+    StatusLoop m_status;
+    TaskThread m_tasks;
+    ScreenMirror m_screen;
+    PointerLink m_pointer;
+    std::optional<ChannelReceiver> m_receiver; // from start() on
 };

@@ -22,9 +22,12 @@ public:
     /// Task name and what it does, compared in this order.
     using Actions = std::vector<std::pair<QString, Action>>;
 
-    explicit TaskQueue(Actions actions, QObject* parent = nullptr);
+    explicit TaskQueue(Actions actions = {}, QObject* parent = nullptr);
     /// Discards the tasks still waiting.
     ~TaskQueue() override;
+
+    /// Before the first task is added.
+    void setActions(Actions actions) { m_actions = std::move(actions); }
 
 public slots:
     void addTask(QString task, QVariantList args);
@@ -38,7 +41,7 @@ private:
 
     void perform(const Task& task) const;
 
-    const Actions m_actions;
+    Actions m_actions;
     QList<Task> m_tasks;
     bool m_isProcessing = false;
 };

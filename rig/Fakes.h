@@ -207,11 +207,13 @@ struct DeviceWorld {
 
     DeviceControl& start()
     {
+        device.reset();
+        profile.emplace();
         auto fakeDevices = std::make_unique<FakeDevices>();
         devices = fakeDevices.get();
         device.emplace(
             DeviceControl::Services{.config = *config,
-                                    .tasks = {},
+                                    .profile = *profile,
                                     .channel = channel,
                                     .windows = windows,
                                     .programs = programs,
@@ -220,13 +222,12 @@ struct DeviceWorld {
                                             const std::scoped_lock lock(versionsMutex);
                                             return versions.value(name);
                                         },
-                                    .userSettings = [this]() -> UserSettings& { return settings; },
-                                    .camera = [this]() -> CameraReports& { return *cameraReports; },
                                     .localDevices = std::move(fakeDevices),
                                     .rulesPath = folder.filePath(QStringLiteral("config.json")),
                                     .executablePath = QStringLiteral("/opt/VORNApp")},
             DeviceControl::Timing{.statusPass = std::chrono::milliseconds(1),
                                   .pauseAfterUpdaterKill = std::chrono::milliseconds(20)});
+        device->start({}, settings, *cameraReports);
         return *device;
     }
 
@@ -242,11 +243,12 @@ struct DeviceWorld {
     FakePrograms programs;
     MemorySettings settings;
     FakeCamera camera;
-    /// Who hears the display's camera reports.
+    /// Receives the display's camera reports.
     CameraReports* cameraReports = &camera;
     FakeDevices* devices = nullptr;
     std::mutex versionsMutex;
     QMap<QString, QString> versions;
     std::optional<FileInfo> config;
+    std::optional<UserProfile> profile;
     std::optional<DeviceControl> device;
 };

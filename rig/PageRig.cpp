@@ -23,7 +23,7 @@ PageRig::PageRig()
             });
     if (!m_service.listen())
         qFatal("The account service could not listen");
-    m_network.emplace(m_service.baseUrl(), m_identity);
+    m_network.emplace(m_service.baseUrl(), *m_world.profile);
 }
 
 void PageRig::publish(QQmlContext* context)

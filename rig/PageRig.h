@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/SignedInAccount.h"
 #include "peripherals/CameraControl.h"
 #include "rig/Fakes.h"
 #include "simulator/account/AccountService.h"
@@ -80,7 +79,6 @@ private:
     DeviceWorld m_world;
     CameraControl m_camera;
     ScreenRig m_screen;
-    SignedInAccount m_identity;
     AccountService m_service;
     std::optional<NetworkManager> m_network;
     PageWindows m_windows;

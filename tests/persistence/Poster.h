@@ -1,10 +1,21 @@
 #pragma once
 
+#include "persistence/Keys.h"
 #include "persistence/TaskQueue.h"
+#include "persistence/UserSettings.h"
 
 #include <QThread>
 
 #include <memory>
+
+/// The task that writes to a store. The store is asked for when the task runs.
+inline TaskQueue::Actions storeTask(std::function<UserSettings&()> store)
+{
+    return {{keys::task::SaveUserData, [store = std::move(store)](const QVariantList& args) {
+                 store().saveUserData(args.value(0).toString(), args.value(1),
+                                      args.value(2).toULongLong());
+             }}};
+}
 
 /// Posts to a queue on a thread of its own, as the device state does.
 class Poster : public QObject

@@ -5,9 +5,6 @@
 // Write number n stores n under the key <prefix>n; the log goes to standard error.
 
 #include "persistence/DBManager.h"
-#include "persistence/FileInfo.h"
-#include "persistence/StandardTasks.h"
-#include "tests/persistence/FakeLauncher.h"
 #include "tests/persistence/Poster.h"
 
 #include <glog/logging.h>
@@ -25,12 +22,9 @@ int main(int argc, char* argv[])
     if (args.size() != 3)
         return 2;
 
-    FakeLauncher launcher;
-    FileInfo fileInfo(args[1] + u".ini"_s);
     DBManager store(args[1]);
-    Poster poster(standardTasks(
-        fileInfo, [&store]() -> UserSettings& { return store; }, launcher));
+    Poster poster(storeTask([&store]() -> UserSettings& { return store; }));
     for (int n = 0; n < 5000; ++n)
-        emit poster.addTask(u"saveDB"_s, {args[2] + QString::number(n), n});
+        emit poster.addTask(u"saveDB"_s, {args[2] + QString::number(n), n, store.currentSignIn()});
     return QCoreApplication::exec();
 }

@@ -1,7 +1,4 @@
 #include "persistence/DBManager.h"
-#include "persistence/FileInfo.h"
-#include "persistence/StandardTasks.h"
-#include "tests/persistence/FakeLauncher.h"
 #include "tests/persistence/Poster.h"
 
 #include <QRandomGenerator>
@@ -99,15 +96,12 @@ void TestDBManagerThreads::connectionEndsWithItsThread()
 void TestDBManagerThreads::threadOutlivesStore()
 {
     std::unique_ptr<DBManager> db;
-    FakeLauncher launcher;
-    FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
     {
-        Poster poster(standardTasks(
-            fileInfo, [&]() -> UserSettings& { return *db; }, launcher));
+        Poster poster(storeTask([&]() -> UserSettings& { return *db; }));
         QSignalSpy drained(&poster, &Poster::drained);
         for (const QString& path : {m_path, m_path + u"2"_s}) {
             db = std::make_unique<DBManager>(path);
-            emit poster.addTask(u"saveDB"_s, {u"path"_s, path});
+            emit poster.addTask(u"saveDB"_s, {u"path"_s, path, db->currentSignIn()});
             emit poster.addTask(u"drained"_s, {});
             QVERIFY(drained.wait(30'000));
             QCOMPARE(db->getUserData(u"path"_s, {}).toString(), path);
@@ -121,10 +115,7 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
 {
     constexpr int kRounds = 100;
     DBManager db(m_path);
-    FakeLauncher launcher;
-    FileInfo fileInfo(m_dir->filePath(u"config.ini"_s));
-    Poster poster(standardTasks(
-        fileInfo, [&db]() -> UserSettings& { return db; }, launcher));
+    Poster poster(storeTask([&db]() -> UserSettings& { return db; }));
     QSignalSpy drained(&poster, &Poster::drained);
     for (int round = 0; round < kRounds; ++round) {
         const quint64 signIn = db.currentSignIn();

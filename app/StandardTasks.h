@@ -2,8 +2,6 @@
 
 #include "persistence/TaskQueue.h"
 
-#include <functional>
-
 class FileInfo;
 class MeetingLauncher;
 class UserSettings;
@@ -18,7 +16,6 @@ class UserSettings;
 /// | launchZoom, launchTeams,           | none                                                 |
 /// | launchGoogleMeeting                |                                                      |
 ///
-/// @param userSettings  asked on the task thread, when a saveDB task runs: the store is made later
-///                      than the queue. Everything given here has to outlive the queue's thread.
-TaskQueue::Actions standardTasks(FileInfo& fileInfo, std::function<UserSettings&()> userSettings,
+/// Everything given here has to outlive the queue's thread.
+TaskQueue::Actions standardTasks(FileInfo& fileInfo, UserSettings& userSettings,
                                  MeetingLauncher& launcher);

@@ -1,4 +1,4 @@
-#include "persistence/StandardTasks.h"
+#include "app/StandardTasks.h"
 
 #include "launch/MeetingLauncher.h"
 #include "persistence/FileInfo.h"
@@ -16,7 +16,7 @@ void saveToStore(UserSettings& store, const QVariantList& args)
 
 } // namespace
 
-TaskQueue::Actions standardTasks(FileInfo& fileInfo, std::function<UserSettings&()> userSettings,
+TaskQueue::Actions standardTasks(FileInfo& fileInfo, UserSettings& userSettings,
                                  MeetingLauncher& launcher)
 {
     return {
@@ -30,9 +30,7 @@ TaskQueue::Actions standardTasks(FileInfo& fileInfo, std::function<UserSettings&
              fileInfo.saveConfig(args.value(0).toString(), args.value(1).toString(), args.value(2));
          }},
         {keys::task::SaveUserData,
-         [userSettings = std::move(userSettings)](const QVariantList& args) {
-             saveToStore(userSettings(), args);
-         }},
+         [&userSettings](const QVariantList& args) { saveToStore(userSettings, args); }},
         {keys::task::LaunchZoom, [&launcher](const QVariantList&) { launcher.startZoom(); }},
         {keys::task::LaunchTeams, [&launcher](const QVariantList&) { launcher.startTeams(); }},
         {keys::task::LaunchGoogleMeeting,

@@ -1,0 +1,41 @@
+#include "device/TaskThread.h"
+
+#include "platform/ThreadName.h"
+
+TaskThread::TaskThread()
+{
+    m_thread.setObjectName(QStringLiteral("tasks"));
+    m_queue.moveToThread(&m_thread);
+    QObject::connect(
+        &m_thread, &QThread::started, &m_thread, [] { platform::nameCurrentThread("tasks"); },
+        Qt::DirectConnection);
+    QObject::connect(
+        &m_thread, &QThread::finished, &m_thread,
+        [this] { m_hasEnded.store(true, std::memory_order_release); }, Qt::DirectConnection);
+}
+
+TaskThread::~TaskThread()
+{
+    end();
+}
+
+void TaskThread::start(TaskQueue::Actions actions)
+{
+    m_queue.setActions(std::move(actions));
+    m_thread.start(QThread::InheritPriority);
+}
+
+void TaskThread::requestStop()
+{
+    m_thread.requestInterruption();
+    m_thread.quit();
+}
+
+void TaskThread::end()
+{
+    requestStop();
+    m_thread.wait();
+    // Makes the happens-before of QThread::wait() visible to ThreadSanitizer, which does not
+    // instrument Qt.
+    (void)m_hasEnded.load(std::memory_order_acquire);
+}

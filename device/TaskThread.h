@@ -1,0 +1,30 @@
+#pragma once
+
+#include "persistence/TaskQueue.h"
+
+#include <QThread>
+
+#include <atomic>
+
+/// The task queue on a thread of its own. Main thread; tasks are posted by a queued connection to
+/// queue().
+class TaskThread
+{
+public:
+    TaskThread();
+    ~TaskThread();
+    Q_DISABLE_COPY_MOVE(TaskThread)
+
+    TaskQueue& queue() { return m_queue; }
+    /// Starts the thread. Tasks that were posted before run then.
+    void start(TaskQueue::Actions actions);
+    /// Asks the thread to end, without waiting for it. Any thread.
+    void requestStop();
+    /// Asks the thread to end and waits for the task that it runs. Any thread but the queue's.
+    void end();
+
+private:
+    TaskQueue m_queue; // the queue's thread, once it runs
+    QThread m_thread;
+    std::atomic<bool> m_hasEnded = false;
+};
