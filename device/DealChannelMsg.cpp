@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -34,24 +35,56 @@ ChannelMessage buildCommandWith(ChannelCommand cmd, const QJsonObject& payload)
     return buildMessage(cmd, ChannelMessageType::Command, payload);
 }
 
+/// The integer under the key: 0 when it is absent, none when another value is there.
+std::optional<int> readInteger(const QJsonObject& message, QLatin1StringView key)
+{
+    const QJsonValue value = message[key];
+    if (value.isUndefined())
+        return 0;
+    const int number = value.toInt(0);
+    if (number != value.toInt(1)) // each is the value for what is no integer
+        return std::nullopt;
+    return number;
+}
+
+std::optional<bool> readFlag(const QJsonObject& message, QLatin1StringView key)
+{
+    const auto number = readInteger(message, key);
+    return number ? std::optional(*number != 0) : std::nullopt;
+}
+
+/// The volume within its range: any other number counts as the nearest one in it.
+std::optional<int> readVolume(const QJsonObject& message)
+{
+    const QJsonValue value = message["volume"_L1];
+    if (!value.isUndefined() && !value.isDouble())
+        return std::nullopt;
+    return static_cast<int>(std::lround(std::clamp(value.toDouble(), 0.0, 100.0)));
+}
+
 struct Sources {
     SourceState byod = SourceState::Unavailable;
     SourceState zoom = SourceState::Unavailable;
 };
 
 /// A selected source excludes the other one. Without a selection the values count only while the
-/// display shows its source picker.
-Sources readSources(const QJsonObject& message)
+/// display shows its source picker. None when a value is no integer.
+std::optional<Sources> readSources(const QJsonObject& message)
 {
-    const auto byod = static_cast<SourceState>(message["byod_status"_L1].toInt());
-    const auto zoom = static_cast<SourceState>(message["zoom_status"_L1].toInt());
-    if (byod == SourceState::Selected)
-        return {.byod = SourceState::Selected};
-    if (zoom == SourceState::Selected)
-        return {.zoom = SourceState::Selected};
-    if (message["is_byodui_show"_L1].toInt() == 1)
-        return {byod, zoom};
-    return {};
+    const auto byod = readInteger(message, "byod_status"_L1);
+    const auto zoom = readInteger(message, "zoom_status"_L1);
+    const auto isPickerShown = readInteger(message, "is_byodui_show"_L1);
+    if (!byod || !zoom || !isPickerShown)
+        return std::nullopt;
+    const auto byodState = static_cast<SourceState>(*byod);
+    const auto zoomState = static_cast<SourceState>(*zoom);
+    if (byodState == SourceState::Selected)
+        return Sources{.byod = SourceState::Selected};
+    if (zoomState == SourceState::Selected)
+        return Sources{.zoom = SourceState::Selected};
+    if (*isPickerShown == 1)
+        return Sources{byodState, zoomState};
+    return Sources{};
 }
 
 } // namespace
@@ -93,40 +126,58 @@ std::optional<std::string> DealChannelMsg::PraseJson(const std::string& msg) con
     return compact(answer);
 }
 
+/// Values of the wrong type leave the state as it is; a message with such an id does nothing.
 void DealChannelMsg::dispatch(const QJsonObject& message) const
 {
-    constexpr auto FromDisplay = Direction::FromDisplay;
-    switch (static_cast<ChannelCommand>(message["cmd"_L1].toInt())) {
+    const auto cmd = readInteger(message, "cmd"_L1);
+    if (!cmd)
+        return;
+    switch (static_cast<ChannelCommand>(*cmd)) {
     case ChannelCommand::ConnectMode:
-        m_display.setConnectMode(static_cast<ConnectMode>(message["isReady"_L1].toInt()));
+        if (const auto mode = readInteger(message, "isReady"_L1))
+            m_display.setConnectMode(static_cast<ConnectMode>(*mode));
         break;
     case ChannelCommand::Volume:
         m_display.setVolumeReady(1);
-        m_display.setVolume(std::clamp(message["volume"_L1].toInt(), 0, 100), FromDisplay);
+        if (const auto volume = readVolume(message))
+            m_display.setVolume(*volume, Direction::FromDisplay);
         break;
-    case ChannelCommand::SourceState: {
+    case ChannelCommand::SourceState:
         m_display.setShareStatusReady(1);
-        const Sources source = readSources(message);
-        m_display.setByodSwitch(source.byod, FromDisplay);
-        m_display.setZoomSwitch(source.zoom, FromDisplay);
+        if (const auto sources = readSources(message)) {
+            m_display.setByodSwitch(sources->byod, Direction::FromDisplay);
+            m_display.setZoomSwitch(sources->zoom, Direction::FromDisplay);
+        }
         break;
-    }
     case ChannelCommand::FirmwareVersion:
         m_display.setRemoteVerReady(1);
-        m_display.setRemoteVer(message["ota_ver"_L1].toString());
-        break;
-    case ChannelCommand::AutoFraming:
-        m_camera.setAutoFraming(message["autoframestatus"_L1].toInt() != 0, FromDisplay);
-        break;
-    case ChannelCommand::SmartFraming:
-        m_camera.setSmartFraming(message["smartframestatus"_L1].toInt() != 0,
-                                 Direction::FromDisplay);
-        break;
-    case ChannelCommand::CameraSwitch:
-        m_camera.setCameraSwitch(message["camerastatus"_L1].toInt());
+        if (const QJsonValue version = message["ota_ver"_L1];
+            version.isString() || version.isUndefined())
+            m_display.setRemoteVer(version.toString());
         break;
     default:
-        // Ids that need no action here are answered all the same.
+        dispatchToCamera(static_cast<ChannelCommand>(*cmd), message);
+        break;
+    }
+}
+
+void DealChannelMsg::dispatchToCamera(ChannelCommand cmd, const QJsonObject& message) const
+{
+    switch (cmd) {
+    case ChannelCommand::AutoFraming:
+        if (const auto on = readFlag(message, "autoframestatus"_L1))
+            m_camera.setAutoFraming(*on, Direction::FromDisplay);
+        break;
+    case ChannelCommand::SmartFraming:
+        if (const auto on = readFlag(message, "smartframestatus"_L1))
+            m_camera.setSmartFraming(*on, Direction::FromDisplay);
+        break;
+    case ChannelCommand::CameraSwitch:
+        if (const auto status = readInteger(message, "camerastatus"_L1))
+            m_camera.setCameraSwitch(*status);
+        break;
+    default:
+        // Other ids change nothing, but a reply to them is sent as to the others.
         break;
     }
 }

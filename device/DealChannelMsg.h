@@ -38,6 +38,7 @@ public:
 
 private:
     void dispatch(const QJsonObject& message) const;
+    void dispatchToCamera(ChannelCommand cmd, const QJsonObject& message) const;
 
     DisplayReports& m_display;
     CameraReports& m_camera;

@@ -100,6 +100,19 @@ void tst_DealChannelMsg::reportsAndReplies_data()
     row("auto framing", R"({"cmd":13,"type":1,"autoframestatus":7})", "auto 1");
     row("smart framing", R"({"cmd":15,"type":1,"smartframestatus":1})", "smart 1");
     row("camera", R"({"cmd":21,"type":1,"camerastatus":3})", "camera 3");
+    // A value of the wrong type changes nothing; the reply is sent all the same.
+    row("text as cmd", R"({"cmd":"1","type":2})", "", R"({"cmd":"1","type":3})");
+    row("fraction as cmd", R"({"cmd":0.5,"type":1,"isReady":1})", "");
+    row("mode beyond int", R"({"cmd":0,"type":1,"isReady":3000000000})", "");
+    row("text as mode", R"({"cmd":0,"type":1,"isReady":"1"})", "");
+    row("text as volume", R"({"cmd":1,"type":1,"volume":"9"})", "volumeReady 1");
+    row("null as source", R"({"cmd":6,"type":1,"byod_status":2,"zoom_status":null})",
+        "shareReady 1");
+    row("number as version", R"({"cmd":11,"type":1,"ota_ver":4})", "versionReady 1");
+    row("flag as framing", R"({"cmd":13,"type":1,"autoframestatus":true})", "");
+    // A number that is no volume counts as the nearest volume.
+    row("volume beyond int", R"({"cmd":1,"type":1,"volume":1e300})", "volumeReady 1,volume 100");
+    row("fraction of a volume", R"({"cmd":1,"type":1,"volume":40.6})", "volumeReady 1,volume 41");
     row("acknowledgement", R"({"cmd":1,"type":3,"volume":40})", "");
     row("unknown type", R"({"cmd":99,"type":-4})", "");
     row("message of this program", R"({"cmd":9,"type":1,"byod_status":2})", "");
