@@ -1,7 +1,10 @@
 #pragma once
 
 #include "device/DisplayValues.h"
+#include "logging/Escaped.h"
 #include "logging/Log.h"
+
+#include <QString>
 
 #include <mutex>
 #include <optional>
@@ -58,13 +61,15 @@ private:
         line << m_labels.oldValue << loggable(m_value) << m_labels.newValue << loggable(newValue);
     }
 
-    /// Enumerations are logged as their numbers.
-    static decltype(auto) loggable(const Value& value)
+    /// Enumerations are logged as their numbers. Text may come from the display or the service.
+    static auto loggable(const Value& value)
     {
         if constexpr (std::is_enum_v<Value>)
             return static_cast<std::underlying_type_t<Value>>(value);
+        else if constexpr (std::is_same_v<Value, QString>)
+            return Log::escaped(value.toStdString());
         else
-            return (value);
+            return value;
     }
 
     const Labels m_labels;
