@@ -88,6 +88,8 @@ int main(int argc, char* argv[])
     const platform::TerminationSignals signalsToQuit([] { QCoreApplication::exit(); });
     // Hiding to the tray closes the last window without ending the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    // Wayland takes the icon of a window from the desktop entry.
+    QGuiApplication::setDesktopFileName(u"com.vorn.VORNApp"_s);
     logProgram(appPath, fileName);
 
     qml_register_types_VORNApp();

@@ -1,33 +1,43 @@
 #!/usr/bin/env bash
-# ./packaging/test-deb.sh   builds the Debian package, installs it into a clean Debian 12 root, starts it
-# there as an ordinary user on a virtual screen, and removes it again.
+# ./packaging/test-deb.sh [release] [package]   builds, checks, installs, runs and purges the Debian package.
 #
-# The root is made anew in /var/tmp each time; VORN_PACKAGE_ROOT names another folder. Needs root.
+# The package is installed into a clean root of that Debian release, by default bookworm, and started there
+# as an ordinary user on a virtual screen. A package given is tested instead of a new one. The root is made
+# again in each run, in /var/tmp or in VORN_PACKAGE_ROOT. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
+case "${1:-}" in
+-h | --help)
+  sed -n '2,6s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
 [ "$(id -u)" -eq 0 ] || fail "a clean root needs root" "run it again as root or with sudo"
-need_packages "${build_packages[@]}" "${screen_packages[@]}" debootstrap dpkg-dev file appstream desktop-file-utils
+release=${1:-bookworm}
 clean_root=${VORN_PACKAGE_ROOT:-/var/tmp/vorn-package-root}
 cd "$root"
+need_packages "${build_packages[@]}" "${screen_packages[@]}" debootstrap appstream desktop-file-utils lintian
 
-mkdir -p build
-configure_and_build build/package -DCMAKE_BUILD_TYPE=Release -DCMAKE_SKIP_INSTALL_ALL_DEPENDENCY=ON -- VORNApp
-step "Making the package"
-rm -f build/package/*.deb
-(cd build/package && cpack -G DEB >cpack.log 2>&1) || {
-  tail -20 build/package/cpack.log >&2
-  fail "cpack" "see build/package/cpack.log"
-}
-package=$(echo build/package/*.deb)
-desktop-file-validate packaging/linux/VORNApp.desktop || fail "the desktop entry" "see the lines above"
-appstreamcli validate --no-net build/package/packaging/VORNApp.metainfo.xml ||
+if [ -n "${2:-}" ]; then
+  package=$2
+else
+  ./packaging/build-deb.sh build/package
+  package=$(echo build/package/vornapp_*.deb)
+fi
+
+step "Checking the package"
+desktop-file-validate packaging/linux/com.vorn.VORNApp.desktop || fail "the desktop entry" "see the lines above"
+appstreamcli validate --no-net packaging/linux/com.vorn.VORNApp.metainfo.xml ||
   fail "the AppStream metadata" "see the lines above"
+lintian --allow-root --fail-on error,warning "$package" || fail "lintian" "see the lines above"
 
+logs=$root/build/package-test
+mkdir -p "$logs"
 umount_root() {
+  local folder
   for folder in tmp/.X11-unix proc dev; do
-    mountpoint -q "$clean_root/$folder" && umount "$clean_root/$folder"
+    if mountpoint -q "$clean_root/$folder"; then umount "$clean_root/$folder"; fi
   done
-  return 0
 }
 clean_up() {
   [ -n "${program:-}" ] && kill -KILL "$program" 2>/dev/null
@@ -37,25 +47,24 @@ clean_up() {
 }
 trap clean_up EXIT
 
-step "Making a clean root"
+step "Making a clean root of $release"
 umount_root
 rm -rf --one-file-system "$clean_root"
-source_uri=$(awk '/^URIs:/ {print $2; exit}' /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
-[ -n "$source_uri" ] ||
-  source_uri=$(awk '$1 == "deb" {for (i = 2; i <= NF; i++) if ($i ~ /^http/) {print $i; exit}}' /etc/apt/sources.list)
-debootstrap --variant=minbase bookworm "$clean_root" "$source_uri" >build/package/root.log 2>&1 ||
-  fail "debootstrap" "see build/package/root.log"
+debootstrap --variant=minbase "$release" "$clean_root" "$(package_source)" >"$logs/root.log" 2>&1 ||
+  fail "debootstrap" "see $logs/root.log"
 cp /etc/resolv.conf /etc/hosts "$clean_root/etc/"
 mount -t proc proc "$clean_root/proc"
 mount --bind /dev "$clean_root/dev"
-# What the package brought and has to take away.
-listing() { (cd "$clean_root" && find opt usr/bin usr/lib/VORNApp usr/share/applications usr/share/icons usr/share/metainfo -name '*VORN*' 2>/dev/null | sort) || true; }
+in_clean_root() {
+  chroot "$clean_root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"
+}
+# The files of the package that are in the root.
+listing() { (cd "$clean_root" && find usr -iname '*vorn*' 2>/dev/null | sort) || true; }
 
 step "Installing $(basename "$package")"
 cp "$package" "$clean_root/root/vornapp.deb"
-in_clean_root() { chroot "$clean_root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
-in_clean_root apt-get install -y -qq --no-install-recommends /root/vornapp.deb libgl1-mesa-dri >>build/package/root.log 2>&1 || {
-  tail -20 build/package/root.log >&2
+in_clean_root apt-get install -y -qq --no-install-recommends /root/vornapp.deb libgl1-mesa-dri >>"$logs/root.log" 2>&1 || {
+  tail -20 "$logs/root.log" >&2
   fail "installing the package" "see the lines above"
 }
 listing
@@ -65,26 +74,29 @@ start_screen 1280x900x24
 in_clean_root useradd -m user
 mkdir -p "$clean_root/tmp/.X11-unix"
 mount --bind /tmp/.X11-unix "$clean_root/tmp/.X11-unix"
-log=$root/build/package/program.log
+log=$logs/program.log
 chroot --userspec=user "$clean_root" env -i HOME=/home/user PATH=/usr/bin:/bin LANG=C.UTF-8 \
   DISPLAY="$DISPLAY" LIBGL_ALWAYS_SOFTWARE=1 sh -c 'cd && exec VORNApp' >"$log" 2>&1 &
 program=$!
-eventually xdotool search --onlyvisible --name '^VORNApp$' || { tail -20 "$log" >&2; fail "no window came up" "see $log"; }
-eventually grep -q 'RecvUdpDatagram\]thread start' "$log" || fail "the program did not come up" "see $log"
-eventually is_painted root || fail "the window stays empty" "see $log"
-import -window root build/package/installed.png
+eventually xdotool search --onlyvisible --name '^VORNApp$' || {
+  tail -20 "$log" >&2
+  fail "no window is visible" "see $log"
+}
+eventually grep -q 'RecvUdpDatagram\]thread start' "$log" || fail "the program did not start" "see $log"
+eventually is_painted root || fail "the window is empty" "see $log"
+import -window root "$logs/installed.png"
 home=$clean_root/home/user
-for file in .local/share/VORNApp/config.ini .local/share/VORNApp/config.json; do
-  [ -f "$home/$file" ] || fail "$file is missing in the user's home" "see $log"
+for file in config.ini config.json; do
+  [ -f "$home/.local/share/VORNApp/$file" ] || fail "$file is missing in the user's home" "see $log"
 done
-grep -q '\[main\]file version:1\.' "$log" || fail "the version is not logged" "see $log"
+grep -q '\[main\]file version:1\.' "$log" || fail "the version is not in the log" "see $log"
 kill -TERM "$program"
-{ timeout 30 tail --pid="$program" -f /dev/null && wait "$program"; } || fail "it did not quit cleanly" "see $log"
+{ timeout 30 tail --pid="$program" -f /dev/null && wait "$program"; } || fail "it did not quit with exit code 0" "see $log"
 program=
 
-step "Removing it"
-in_clean_root apt-get purge -y -qq vornapp >>build/package/root.log 2>&1 || fail "removing the package" "see build/package/root.log"
+step "Purging it"
+in_clean_root apt-get purge -y -qq vornapp >>"$logs/root.log" 2>&1 || fail "purging the package" "see $logs/root.log"
 left=$(listing)
 [ -z "$left" ] || fail "these files were left behind: $left" "see packaging/linux/Install.cmake"
-[ -f "$home/.local/share/VORNApp/config.ini" ] || fail "the user's files went with the package" "see its scripts"
-step "The package installs, runs and goes"
+[ -f "$home/.local/share/VORNApp/config.ini" ] || fail "purging removed the user's files" "see the package's scripts"
+step "The package can be installed, run and purged on $release"

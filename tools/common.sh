@@ -62,6 +62,16 @@ need_packages() {
   rm -f "$log"
 }
 
+# Prints the address of the package source of this machine.
+package_source() {
+  local address
+  address=$(awk '/^URIs:/ {print $2; exit}' /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
+  [ -n "$address" ] || address=$(awk '$1 == "deb" {for (i = 2; i <= NF; i++) if ($i ~ /^http/) {print $i; exit}}' \
+    /etc/apt/sources.list 2>/dev/null || true)
+  [ -n "$address" ] || fail "the package source of this machine is not known" "see /etc/apt"
+  printf '%s\n' "$address"
+}
+
 # configure_and_build <folder> <cmake argument>... [-- <ninja target>...]
 configure_and_build() {
   local folder=$1 arguments=() targets=()

@@ -1,12 +1,15 @@
-# One folder that holds everything: the program, its library and sample configuration, and Qt.
+# One folder holds the program, its libraries, the sample configuration and the licences.
 install(TARGETS VORNApp RUNTIME DESTINATION .)
+install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" DESTINATION licenses RENAME LICENSE.txt)
+install(DIRECTORY "${CMAKE_SOURCE_DIR}/packaging/notices/" DESTINATION licenses)
+install(FILES "${VORN_SBOM}" DESTINATION licenses)
 if(TARGET PortalHub)
   install(TARGETS PortalHub RUNTIME DESTINATION .)
 endif()
 install(FILES "${CMAKE_SOURCE_DIR}/config/config.ini" "${CMAKE_SOURCE_DIR}/config/config.json" DESTINATION .)
 
 if(CMAKE_CROSSCOMPILING)
-  # Qt's own deploy tool runs on Windows only.
+  # Qt's deploy tool runs on Windows only.
   get_target_property(qt_core Qt6::Core IMPORTED_LOCATION_RELEASE)
   if(NOT qt_core)
     get_target_property(qt_core Qt6::Core IMPORTED_LOCATION_MINSIZEREL)
@@ -22,14 +25,14 @@ if(CMAKE_CROSSCOMPILING)
   install(SCRIPT "${CMAKE_CURRENT_BINARY_DIR}/CrossDeploy.cmake")
 else()
   qt_generate_deploy_qml_app_script(TARGET VORNApp OUTPUT_SCRIPT deploy_script)
-  # Read when installing, like the script itself.
+  # The deploy script reads this variable during the installation.
   install(CODE "set(QT_DEPLOY_BIN_DIR .)")
   install(SCRIPT "${deploy_script}")
-  # Qt's step takes Qt only.
+  # The deploy script copies libraries of Qt only.
   install(FILES $<TARGET_RUNTIME_DLLS:VORNApp> DESTINATION .)
 endif()
 
-# The installer, from the installed tree: ninja installer
+# `ninja installer` makes the installer from the installed files.
 find_program(VORN_MAKENSIS makensis PATHS "$ENV{ProgramFiles\(x86\)}/NSIS")
 if(VORN_MAKENSIS)
   add_custom_target(installer

@@ -1,7 +1,7 @@
 cmake_minimum_required(VERSION 3.25)
 # cmake -DBUILD= -DSTAGE= -DMAKENSIS= -DVERSION= -DCONFIG= -DOUTPUT= -P MakeInstaller.cmake
-# Installs the program into a folder and packs that into an installer. The uninstaller removes the very
-# files that were installed, one by one, and nothing else.
+# Installs the program into a folder and packs the folder into an installer. The uninstaller removes the
+# files of this list one by one, and no others.
 file(REMOVE_RECURSE "${STAGE}")
 set(config "")
 if(CONFIG)
@@ -11,9 +11,9 @@ execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${STAG
   OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
 file(GLOB_RECURSE entries LIST_DIRECTORIES true RELATIVE "${STAGE}" "${STAGE}/*")
-list(SORT entries ORDER DESCENDING) # what lies in a folder before the folder
+list(SORT entries ORDER DESCENDING) # the files of a folder before the folder
 set(removal "")
-set(kept config.ini) # the user's switches; see VORNApp.nsi
+set(kept config.ini) # the user's settings; see VORNApp.nsi
 foreach(entry IN LISTS entries)
   string(REPLACE "/" "\\" path "${entry}")
   if(IS_DIRECTORY "${STAGE}/${entry}")
@@ -25,12 +25,12 @@ endforeach()
 set(list "${BUILD}/removal.nsh")
 file(WRITE "${list}" "${removal}")
 
-# A 64-bit installer where NSIS can make one; Windows' own NSIS makes only the other.
+# NSIS on Windows makes 32-bit installers only.
 set(target "")
 if(CMAKE_HOST_UNIX)
   set(target "-XTarget amd64-unicode")
 endif()
-# Windows' own NSIS takes the folder of a file only from before a backslash.
+# NSIS on Windows accepts only backslashes in paths.
 cmake_path(SET icon NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico")
 cmake_path(NATIVE_PATH icon icon)
 cmake_path(APPEND languages "${CMAKE_CURRENT_LIST_DIR}" Languages.nsh)

@@ -1,4 +1,4 @@
-; Installer of VORNApp for one user: needs no administrator and starts nothing by itself.
+; Installer of VORNApp for one user. It needs no administrator rights and does not start the program.
 ; Silent: setup.exe /S [/D=<folder>], Uninstall.exe /S [/PURGE]
 Unicode true
 !include MUI2.nsh
@@ -18,7 +18,7 @@ VIProductVersion "${VERSION}"
 VIAddVersionKey "ProductName" "VORNApp"
 VIAddVersionKey "FileDescription" "VORNApp installer"
 VIAddVersionKey "FileVersion" "${VERSION}"
-VIAddVersionKey "LegalCopyright" "VORN"
+VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -29,7 +29,7 @@ VIAddVersionKey "LegalCopyright" "VORN"
 !insertmacro MUI_UNPAGE_INSTFILES
 !include /CHARSET=UTF8 "${LANGUAGES}"
 
-; A running program keeps its files open: it has to be quit from the tray first.
+; The files of a running program cannot be replaced.
 !macro REFUSE_WHILE_RUNNING
   ${If} ${FileExists} "$INSTDIR\VORNApp.exe"
     ClearErrors
@@ -45,14 +45,14 @@ VIAddVersionKey "LegalCopyright" "VORN"
 
 Section "VORNApp"
   !insertmacro REFUSE_WHILE_RUNNING
-  ; What an earlier version installed goes first, or files that are no more would stay for ever.
+  ; Remove an earlier version first, because it may have files that this version lacks.
   ${If} ${FileExists} "$INSTDIR\Uninstall.exe"
     ExecWait '"$INSTDIR\Uninstall.exe" /S _?=$INSTDIR'
   ${EndIf}
   SetOutPath "$INSTDIR"
   SetOverwrite on
   File /r /x config.ini "${STAGE}\*.*"
-  ; The user's switches outlive an update.
+  ; An update keeps the user's settings.
   SetOverwrite off
   File "${STAGE}\config.ini"
   SetOverwrite on
@@ -77,7 +77,7 @@ Section "un.VORNApp"
   !insertmacro REFUSE_WHILE_RUNNING
   !include "${REMOVAL}"
   Delete "$SMPROGRAMS\VORNApp.lnk"
-  ; Compiled pages and shaders, which come again by themselves.
+  ; Compiled pages and shaders. The program makes them again when they are missing.
   RMDir /r "$LOCALAPPDATA\VORNApp\cache"
   RMDir "$LOCALAPPDATA\VORNApp"
   Delete "$INSTDIR\Uninstall.exe"

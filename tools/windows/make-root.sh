@@ -11,14 +11,10 @@ windows_root=${1:-$windows_root}
 
 [ "$(id -u)" -eq 0 ] || fail "making a root needs root" "run it again as root or with sudo"
 need_packages debootstrap
-source_uri=$(awk '/^URIs:/ {print $2; exit}' /etc/apt/sources.list.d/*.sources 2>/dev/null || true)
-[ -n "$source_uri" ] ||
-  source_uri=$(awk '$1 == "deb" {for (i = 2; i <= NF; i++) if ($i ~ /^http/) {print $i; exit}}' /etc/apt/sources.list)
-[ -n "$source_uri" ] || fail "this machine's package source is not known" "see /etc/apt"
 
 if [ ! -x "$windows_root/usr/bin/apt-get" ]; then
   step "Making a Debian 13 root in $windows_root"
-  debootstrap --variant=minbase trixie "$windows_root" "$source_uri" >"/tmp/debootstrap.$$.log" 2>&1 || {
+  debootstrap --variant=minbase trixie "$windows_root" "$(package_source)" >"/tmp/debootstrap.$$.log" 2>&1 || {
     tail -20 "/tmp/debootstrap.$$.log" >&2
     fail "debootstrap" "see the lines above"
   }

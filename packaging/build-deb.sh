@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# ./packaging/build-deb.sh [build folder] [cmake argument]...   builds the Debian package and that of its symbols.
+#
+# The packages are left in the build folder, by default build/package. Equal sources give equal packages:
+# the time stamps in it are that of the last commit, or SOURCE_DATE_EPOCH. For a real display pass
+# -DVORN_PORTALHUB_LIBRARY=<library of the display's maker>.
+set -euo pipefail
+source "$(dirname "$0")/../tools/common.sh"
+case "${1:-}" in
+-h | --help)
+  sed -n '2,6s/^# \{0,1\}//p' "$0"
+  exit 0
+  ;;
+esac
+folder=${1:-build/package}
+shift || true
+need_packages "${build_packages[@]}" dpkg-dev file gzip
+cd "$root"
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}
+export SOURCE_DATE_EPOCH
+
+mkdir -p build
+configure_and_build "$folder" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_INSTALL_PREFIX=/usr \
+  -DCMAKE_SKIP_INSTALL_ALL_DEPENDENCY=ON "$@" -- VORNApp
+step "Making the package"
+rm -f "$folder"/*.deb "$folder"/*.ddeb
+# Folders get the permissions that a package needs.
+umask 022
+(cd "$folder" && cpack -G DEB >cpack.log 2>&1) || {
+  tail -20 "$folder/cpack.log" >&2
+  fail "cpack" "see $folder/cpack.log"
+}
+ls -l "$folder"/*.deb "$folder"/*.ddeb
