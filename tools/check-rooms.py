@@ -57,7 +57,7 @@ class Tree:
     def __init__(self) -> None:
         self.targets: dict[str, Target] = {}
         self.listed: set[pathlib.Path] = set()
-        self.owner: dict[pathlib.Path, str] = {}
+        self.owners: dict[pathlib.Path, set[str]] = {}
         for path in tracked("CMakeLists.txt", "**/CMakeLists.txt", "**/*.cmake"):
             self.read(path)
 
@@ -78,7 +78,7 @@ class Tree:
         for source in sources:
             if re.search(r"\.(cpp|h)$", source) and "$" not in source:
                 target.sources.append(folder / source)
-                self.owner[folder / source] = name
+                self.owners.setdefault(folder / source, set()).add(name)
         return target
 
     def vorn_add_room(self, folder: pathlib.Path, name: str, words: list[str]) -> None:
@@ -116,17 +116,17 @@ class Tree:
                     waiting.extend(target.public)
         return reached
 
-    def owner_of(self, include: str, room: Target) -> str | None:
-        """The target or library that a header belongs to; None for the system's headers."""
+    def owners_of(self, include: str, room: Target) -> set[str]:
+        """The targets or the library that a header belongs to; none for the system's headers."""
         module = qt_module(include)
         if module:
-            return module
+            return {module}
         if include.startswith("glog/"):
-            return "glog::glog"
+            return {"glog::glog"}
         for folder in (pathlib.Path(), room.folder, *(target.folder for target in self.targets.values())):
-            if folder / include in self.owner:
-                return self.owner[folder / include]
-        return None
+            if folder / include in self.owners:
+                return self.owners[folder / include]
+        return set()
 
 
 def tracked(*patterns: str) -> list[pathlib.Path]:
@@ -154,11 +154,13 @@ def check_room(tree: Tree, room: Target) -> list[str]:
     for source in room.sources:
         text = (ROOT / source).read_text(encoding="utf-8")
         for include in INCLUDE.findall(text):
-            owner = tree.owner_of(include, room)
-            if owner in (None, room.name, "Qt6::Core"):
+            owners = tree.owners_of(include, room)
+            if not owners or room.name in owners or "Qt6::Core" in owners:
                 continue
-            used[owner] = used.get(owner, False) or source.suffix == ".h"
-            if owner not in named:
+            for owner in owners & named:
+                used[owner] = used.get(owner, False) or source.suffix == ".h"
+            if not owners & named:
+                owner = " or ".join(sorted(owners))
                 problems.append(f"{source}: includes {include} of {owner}, which {room.name} does not name")
     for name in sorted(room.public | room.private):
         if name in (SETTINGS, "Qt6::Core"):
