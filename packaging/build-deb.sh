@@ -19,7 +19,6 @@ cd "$root"
 SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}
 export SOURCE_DATE_EPOCH
 
-mkdir -p build
 configure_and_build "$folder" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_INSTALL_PREFIX=/usr \
   -DCMAKE_SKIP_INSTALL_ALL_DEPENDENCY=ON "$@" -- VORNApp
 step "Making the package"

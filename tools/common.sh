@@ -73,19 +73,22 @@ package_source() {
 }
 
 # configure_and_build <folder> <cmake argument>... [-- <ninja target>...]
+# The folder is relative to the checkout unless it is absolute.
 configure_and_build() {
   local folder=$1 arguments=() targets=()
   shift
   while [ $# -gt 0 ] && [ "$1" != -- ]; do arguments+=("$1"); shift; done
   [ $# -gt 0 ] && shift && targets=("$@")
+  [[ $folder == /* ]] || mkdir -p "$root/build"
   step "Configuring $folder"
-  cmake -S "$root" -B "$root/$folder" -G Ninja "${arguments[@]}" >"$root/$folder.configure.log" 2>&1 || {
-    tail -30 "$root/$folder.configure.log" >&2
+  cd "$root" || return
+  cmake -S . -B "$folder" -G Ninja "${arguments[@]}" >"$folder.configure.log" 2>&1 || {
+    tail -30 "$folder.configure.log" >&2
     fail "configuring" "see $folder.configure.log; if the folder is out of date, remove $folder"
   }
-  rm -f "$root/$folder.configure.log"
+  rm -f "$folder.configure.log"
   step "Building $folder"
-  ninja -C "$root/$folder" "${targets[@]}" || fail "building $folder" "see the first message of the compiler above"
+  ninja -C "$folder" "${targets[@]}" || fail "building $folder" "see the first message of the compiler above"
 }
 
 # eventually <command>...   repeats the command until it succeeds; fails after 60 s.
