@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A line of text that checks what is typed: against `allowedChars` and, where a page gives one, its
-// `onContentCheck`, whenever the focus leaves it and before it is submitted.
+// A text field with validation: against `allowedChars` and, if set, `onContentCheck`, when the focus leaves the
+// field and before it is submitted.
 T.TextField {
     id: field
 
@@ -34,16 +34,13 @@ T.TextField {
     readonly property bool valid: acceptableInput && text !== "" && contentValid
     property bool initialized: false
     property Item nextFocusItem: null
-    // Functions, so that a page assigns them once it is complete: () => void and () => bool.
+    // Functions, () => void and () => bool. Set them in Component.onCompleted: qmllint takes a binding for a
+    // signal handler.
     property var onEnterAction: null
     property var onContentCheck: null
     property string accessibleName: placeholderText
 
     property int mark: QuickTextField.Resting
-
-    // The text, and what it was before it changed last.
-    property string textNow: ""
-    property string textBefore: ""
 
     function reset(): void {
         clear();
@@ -60,7 +57,7 @@ T.TextField {
         mark = QuickTextField.Editing;
     }
 
-    // Marks the content as wrong, also for a reason that only the page knows.
+    // Shows the error. Pages call it for reasons that the field cannot check.
     function fail(): void {
         showError = true;
         mark = QuickTextField.Failed;
@@ -111,36 +108,6 @@ T.TextField {
             nextFocusItem.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    // A pattern would refuse the whole clipboard for one blank around an address.
-    function pasteWithoutBlanks(): void {
-        clipboard.clear();
-        clipboard.paste();
-        remove(selectionStart, selectionEnd);
-        insert(cursorPosition, clipboard.text.replace(/\s+/g, ""));
-        clipboard.clear();
-    }
-
-    // Blanks that come past the keys: an input method, the mouse's selection. Those of a text that a
-    // page has set stay.
-    function dropBlanks(): void {
-        // Versions of Qt differ in which they tell first, the edit or the change.
-        const before = textNow === text ? textBefore : textNow;
-        const shorter = Math.min(before.length, text.length);
-        let head = 0;
-        while (head < shorter && before[head] === text[head])
-            ++head;
-        let tail = 0;
-        while (tail < shorter - head && before[before.length - 1 - tail] === text[text.length - 1 - tail])
-            ++tail;
-        const added = text.slice(head, text.length - tail);
-        const kept = added.replace(/\s+/g, "");
-        if (kept === added)
-            return;
-        remove(head, head + added.length);
-        insert(head, kept);
-        cursorPosition = head + kept.length;
-    }
-
     width: 375
     height: 38
     maximumLength: 64
@@ -155,7 +122,7 @@ T.TextField {
     selectionColor: Theme.green
     selectedTextColor: Theme.white
     echoMode: enablePasswordMode && !showPassword ? TextInput.Password : TextInput.Normal
-    // Selecting a revealed password with the mouse would copy it on systems with a selection clipboard.
+    // Selecting a revealed password with the mouse would copy it to the selection clipboard of X11.
     selectByMouse: !enablePasswordMode || !showPassword
     validator: RegularExpressionValidator {
         regularExpression: new RegExp(field.allowedChars)
@@ -178,7 +145,7 @@ T.TextField {
 
     Accessible.name: accessibleName
     Accessible.description: {
-        // Qt 6.4 keeps the name of a password field to itself.
+        // Qt 6.4 does not expose the accessible name of a password field.
         const name = echoMode === TextInput.Password ? accessibleName : "";
         const error = showError ? errorMessage : "";
         return [name, error].filter(part => part !== "").join(": ");
@@ -189,21 +156,20 @@ T.TextField {
         mark = QuickTextField.Resting;
     }
     onTextChanged: {
-        textBefore = textNow;
-        textNow = text;
+        blankFilter.noteChange();
         edit();
     }
     onTextEdited: {
         if (forbidSpace)
-            dropBlanks();
+            blankFilter.removeTypedBlanks();
     }
     onActiveFocusChanged: {
         if (activeFocus)
             edit();
-        else if (initialized && Window.active) // a look at another window is not the end of the entry
+        else if (initialized && Window.active) // switching to another window does not end the input
             focusChangedCheckInput();
     }
-    // A hidden item keeps the focus and with it the keys.
+    // A hidden item would keep the focus and get key events when shown again.
     onVisibleChanged: {
         if (!visible)
             focus = false;
@@ -219,18 +185,17 @@ T.TextField {
             event.accepted = true;
         } else if (forbidSpace && paste && !readOnly) {
             event.accepted = true;
-            pasteWithoutBlanks();
+            blankFilter.paste();
         }
     }
 
-    TextInput {
-        id: clipboard
+    BlankFilter {
+        id: blankFilter
 
-        visible: false
-        font: field.font // another one would be loaded for nothing
+        input: field
     }
 
-    // Takes the middle button, which would paste, from a password.
+    // Blocks the paste by middle button in a password field.
     MouseArea {
         anchors.fill: parent
         enabled: field.enablePasswordMode
@@ -250,7 +215,7 @@ T.TextField {
         visible: field.enablePasswordMode
         cursorShape: Qt.PointingHandCursor
         onClicked: field.showPassword = !field.showPassword
-        // What the button does not use must not end up in the field it stands in.
+        // Text keys that the button does not use must not reach the field that contains it.
         Keys.onPressed: (event) => {
             event.accepted = event.text !== "" && ![Qt.Key_Tab, Qt.Key_Backtab, Qt.Key_Escape].includes(event.key);
         }
@@ -264,7 +229,7 @@ T.TextField {
         }
     }
 
-    // All that a style would add to the template; without one the window comes up sooner.
+    // Drawn here, because loading a style would delay the first frame.
     LatoRegularLabel {
         objectName: "placeholder"
         x: field.leftPadding
@@ -276,7 +241,7 @@ T.TextField {
         color: field.placeholderTextColor
         elide: Text.ElideRight
         visible: field.length === 0 && field.preeditText === ""
-        Accessible.ignored: true // the field's name tells it
+        Accessible.ignored: true // it is the field's name
     }
 
     LatoRegularLabel {
