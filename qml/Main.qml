@@ -2,15 +2,15 @@ import QtQuick
 import "controls"
 import "pages"
 
-// The program's one top-level window: frameless, with title buttons of its own. Closing hides it.
+// The main window. It is frameless and draws its own title buttons; closing hides it to the tray.
 Window {
     id: mainWindow
 
     // The monitor window while one exists.
     property Window monitorWindow: null
-    // The window is on its way to the screen.
+    // True once the window is complete and about to be mapped.
     property bool placed: false
-    // The first frame has been on the screen.
+    // True once the first frame was shown.
     property bool shown: false
 
     readonly property var device: deviceControl // qmllint disable unqualified
@@ -24,7 +24,7 @@ Window {
         }
         mainWindow.visibility = Window.Windowed;
         mainWindow.visible = true;
-        // Staying on top for one turn of the event loop brings the window before those of other
+        // Staying on top for one turn of the event loop forces the window in front of those of other
         // programs.
         mainWindow.flags |= Qt.WindowStaysOnTopHint;
         mainWindow.raise();
@@ -45,7 +45,7 @@ Window {
     title: "VORNApp"
 
     Component.onCompleted: {
-        placed = true; // first: raising waits for the system, which is busy with the window
+        placed = true; // before raising, which blocks until the system has created the window
         showAndRaise();
     }
     onFrameSwapped: shown = true
@@ -65,8 +65,7 @@ Window {
         }
     }
 
-    // A frame without a shadow and with a small radius: minimising would bring back a title bar
-    // otherwise.
+    // Without a shadow and with a small radius: minimising would bring back the system's title bar otherwise.
     Rectangle {
         anchors.fill: parent
         color: Theme.windowColor
@@ -77,7 +76,7 @@ Window {
             property point windowPoint
 
             anchors.fill: parent
-            // Positions on the screen: those in the window lag behind while it moves, and it would jump.
+            // Screen positions, since window positions lag behind while the window moves and make it jump.
             onPressed: mouse => {
                 pressPoint = mapToGlobal(mouse.x, mouse.y);
                 windowPoint = Qt.point(mainWindow.x, mainWindow.y);
@@ -89,7 +88,7 @@ Window {
             }
         }
 
-        // Made while the system brings up the window.
+        // Created while the system maps the window.
         Loader {
             anchors.fill: parent
             active: mainWindow.placed
@@ -97,8 +96,8 @@ Window {
             sourceComponent: LoginPage {}
         }
 
-        // To a user who has to sign in first it comes after the window is there. By its file's name, since
-        // a component would have all the pages behind it read with this file.
+        // Loaded after the first frame when sign-in comes first. By URL, so that its imports are not compiled
+        // with this file.
         Loader {
             anchors.fill: parent
             active: mainWindow.placed && mainWindow.device.login || mainWindow.shown

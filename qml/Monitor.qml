@@ -2,8 +2,8 @@ import QtQuick
 import QtMultimedia
 import "controls"
 
-// The display's screen, live, during its first set-up, and the pointer on it. Its creator destroys it
-// when it closes.
+// Shows the display's screen live during its first set-up and forwards the pointer. The creator destroys
+// the window when it closes.
 Window {
     id: monitor
 
@@ -16,9 +16,9 @@ Window {
     readonly property var device: deviceControl // qmllint disable unqualified
     readonly property int connectMode: device.connectMode
     readonly property int frameIndex: device.frameIndex
-    // At least one frame has come since the last failure.
+    // At least one frame has arrived since the last failure.
     property bool isPlayed: false
-    // Milliseconds without a frame that count as a failure, and that the complete face stays.
+    // Milliseconds: without a frame until the failure face is shown, and for which the complete face is shown.
     property int frameTimeout: 5000
     property int completeTimeout: 3000
 
@@ -58,9 +58,9 @@ Window {
     }
     onVisibilityChanged: {
         if (monitor.visibility === Window.Hidden || monitor.visibility === Window.Minimized)
-            pointer.letGo();
+            pointer.endHold();
     }
-    onClosing: pointer.letGo()
+    onClosing: pointer.endHold()
 
     Timer {
         id: frameTimer
@@ -90,7 +90,7 @@ Window {
         visible: monitor.currentPage === monitor.page_id_monitor
         Component.onCompleted: monitor.start()
         Component.onDestruction: {
-            pointer.letGo();
+            pointer.endHold();
             monitor.stop();
         }
 
@@ -101,7 +101,7 @@ Window {
             anchors.fill: parent
             focus: monitor.visible
             frame: video.sourceRect
-            onTold: (type, place) => monitor.device.getMouseEvent(type, place.x, place.y)
+            onPointerEvent: (type, position) => monitor.device.getMouseEvent(type, position.x, position.y)
         }
     }
 

@@ -1,13 +1,13 @@
 import QtQuick
 
-// The user's picture, ringed while it is current, and first name.
+// The user's picture and first name. The ring shows that the profile page is open.
 ControlButton {
     id: button
 
     required property bool current
     property alias imageSource: picture.imageSource
     property alias text: label.text
-    // Right edge of the name at the most.
+    // Limit of the button's width; a longer name is elided.
     property real maximumWidth: 208
 
     width: ring.width + (text !== "" ? 16 + label.width : 0)

@@ -1,6 +1,6 @@
 import QtQuick
 
-// A round check box with its label. It never changes `checked` itself: `clicked` asks its owner to.
+// A round check box with a label. Only the owner changes `checked`, in answer to `clicked`.
 Item {
     id: root
 
@@ -46,7 +46,7 @@ Item {
 
         Rectangle {
             anchors.centerIn: parent
-            // Whole pixels would make the growing dot wobble.
+            // Aligning to whole pixels makes the dot wobble while it grows.
             anchors.alignWhenCentered: false
             width: root.checked ? circle.width * 0.5 : 0
             height: width

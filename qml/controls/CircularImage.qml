@@ -1,7 +1,7 @@
 import QtQuick
 import Qt5Compat.GraphicalEffects
 
-// A picture cut to a circle. Without an accessible name it is decoration to a screen reader.
+// An image cropped to a circle. Screen readers ignore it unless it has an accessible name.
 Item {
     id: root
 
@@ -21,7 +21,7 @@ Item {
         anchors.fill: parent
         source: root.imageSource
         fillMode: Image.PreserveAspectCrop
-        // Photographs are many times the size of the circle.
+        // Photographs are many times larger than the circle.
         mipmap: true
         visible: false
     }

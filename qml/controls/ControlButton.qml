@@ -1,6 +1,6 @@
 import QtQuick
 
-// A button without a face of its own: whatever it holds fades as the pointer meets it.
+// A button without a background. Its content changes its opacity on hover and press.
 Rectangle {
     id: button
 
@@ -45,7 +45,7 @@ Rectangle {
                 return;
             button.opacity = button.exitedOpacity;
             area.stopRepeat();
-            // What a held button moves has to stop when the pointer leaves it.
+            // A camera movement has to stop when the pointer leaves the held button.
             if (area.pointerHeld)
                 button.released();
         }
@@ -63,7 +63,7 @@ Rectangle {
         onCanceled: {
             area.rest();
             area.stopRepeat();
-            // No release follows a press that was taken away.
+            // A cancelled press gets no release event.
             button.released();
         }
         onTriggered: button.triggered()

@@ -1,6 +1,6 @@
 import QtQuick
 
-// The one button of a face.
+// The main button of a face of the meetings page.
 QuickButton {
     id: button
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// A line of text across the middle of a face.
+// A horizontally centred line of text on a face.
 LatoRegularLabel {
     anchors.horizontalCenter: parent?.horizontalCenter
     horizontalAlignment: Text.AlignHCenter

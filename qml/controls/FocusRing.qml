@@ -1,7 +1,7 @@
 import QtQuick
 
-// Outline around its parent while `control` holds the keyboard focus. A pointer press never moves
-// the focus to a button, switch or check box, so that the ring is seen only by keyboard users.
+// Outline around its parent while `control` has the keyboard focus. Pointer presses do not focus buttons,
+// switches or check boxes, so only keyboard users see it.
 Rectangle {
     id: ring
 
@@ -11,7 +11,7 @@ Rectangle {
 
     x: -gap - border.width
     y: -gap - border.width
-    // A control sized by a text can be a fraction of a pixel wide.
+    // The size of a control that follows its text can be fractional.
     width: Math.ceil(parent.width) - 2 * x
     height: Math.ceil(parent.height) - 2 * y
     radius: controlRadius + gap + border.width

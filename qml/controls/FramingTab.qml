@@ -32,8 +32,8 @@ Item {
     Accessible.onPressAction: area.press()
     Keys.forwardTo: [area]
 
-    // Drawn twice, round and square, and each cut to its side: translucent colours must not overlap.
-    // The cut lies on a whole pixel of the window also where a pixel is a quarter more.
+    // Drawn as two clipped parts, one with round and one with square corners, because overlapping
+    // translucent colours would show. The clip edge is at a whole pixel at a scale of 1.25 too.
     Repeater {
         model: [Theme.pillRadius, 0]
 

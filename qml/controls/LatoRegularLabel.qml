@@ -1,11 +1,11 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A text in the application's font. The family arrives as the context property LatoRegular, which
-// the linter cannot see; every other file takes the font from here.
+// Text in the application font. The family comes from the context property LatoRegular, which qmllint
+// does not know; all other files get the font from this one.
 T.Label {
     font.family: LatoRegular // qmllint disable unqualified
-    // What comes from outside must not be read as markup.
+    // Text from the service or the display must not be interpreted as markup.
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter

@@ -1,6 +1,6 @@
 import QtQuick
 
-// Launches one meeting app.
+// Button that launches a meeting application.
 QuickButton {
     id: button
 

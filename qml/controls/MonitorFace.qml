@@ -1,6 +1,6 @@
 import QtQuick
 
-// A picture above a text, in the middle of the monitor window.
+// An image above a text, centred in the monitor window.
 Item {
     property alias source: picture.source
     property alias text: label.text

@@ -1,7 +1,7 @@
 import QtQuick
 
-// The left button on a picture that fits into this area. What it does inside the picture is told; a
-// hold that is taken away without a release ends at the last place told.
+// Left-button input on a picture that is fitted into this area. Emits press, move and release inside the
+// picture. If the grab is lost, emits a release at the last position.
 MouseArea {
     id: pointer
 
@@ -9,49 +9,49 @@ MouseArea {
     readonly property int type_release: 1
     readonly property int type_move: 2
 
-    // The picture's own size.
+    // Source rectangle of the picture; its size gives the aspect ratio.
     required property rect frame
     property bool holding: false
-    // The last place told in this hold.
-    property var lastPlace: null
+    // Last position emitted since the press, null when there is none.
+    property var lastPosition: null
 
-    // `place` is given as fractions of the picture's size, from 0 to 1.
-    signal told(type: int, place: point)
+    // `position` is a fraction of the picture's size, from 0 to 1 on both axes.
+    signal pointerEvent(type: int, position: point)
 
-    // The place of (x, y) in the picture; null outside it, whose edges are inside.
+    // Position of (x, y) as fractions of the picture's size; null outside. The edges count as inside.
     function getScalePos(x: real, y: real): var {
         const frame = pointer.frame;
         if (!(frame.width > 0 && frame.height > 0 && pointer.width > 0 && pointer.height > 0))
             return null;
-        // Measured in pixels divided by `unit` all lengths are whole, so that only the last division
-        // rounds, and a pointer on an edge is on it exactly.
+        // All lengths are multiplied by `unit`, which makes them whole numbers. Only the final division
+        // rounds, so a pointer on an edge yields exactly 0 or 1.
         const spansWidth = frame.width * pointer.height > pointer.width * frame.height;
         const unit = spansWidth ? frame.width : frame.height;
         const span = spansWidth ? pointer.width : pointer.height;
-        const place = Qt.point(pointer.fraction(x * unit, pointer.width * unit, span * frame.width),
-                               pointer.fraction(y * unit, pointer.height * unit, span * frame.height));
-        const isInside = place.x >= 0 && place.x <= 1 && place.y >= 0 && place.y <= 1;
-        return isInside ? place : null;
+        const position = Qt.point(pointer.fraction(x * unit, pointer.width * unit, span * frame.width),
+                                  pointer.fraction(y * unit, pointer.height * unit, span * frame.height));
+        const isInside = position.x >= 0 && position.x <= 1 && position.y >= 0 && position.y <= 1;
+        return isInside ? position : null;
     }
 
-    // Where a position lies on a stretch that is centred in a longer one.
-    function fraction(position: real, length: real, stretch: real): real {
-        return (2 * position - (length - stretch)) / (2 * stretch);
+    // Relative position within a span that is centred in a longer length.
+    function fraction(position: real, length: real, span: real): real {
+        return (2 * position - (length - span)) / (2 * span);
     }
 
-    function tell(type: int, mouse: MouseEvent): void {
-        const place = pointer.getScalePos(mouse.x, mouse.y);
-        if (place === null)
+    function report(type: int, mouse: MouseEvent): void {
+        const position = pointer.getScalePos(mouse.x, mouse.y);
+        if (position === null)
             return;
-        pointer.lastPlace = place;
-        pointer.told(type, place);
+        pointer.lastPosition = position;
+        pointer.pointerEvent(type, position);
     }
 
-    function letGo(): void {
-        const place = pointer.holding ? pointer.lastPlace : null;
+    function endHold(): void {
+        const position = pointer.holding ? pointer.lastPosition : null;
         pointer.holding = false;
-        if (place !== null)
-            pointer.told(pointer.type_release, place);
+        if (position !== null)
+            pointer.pointerEvent(pointer.type_release, position);
     }
 
     acceptedButtons: Qt.LeftButton
@@ -59,18 +59,18 @@ MouseArea {
     Accessible.name: qsTr("The display's screen")
     onPressed: mouse => {
         pointer.holding = true;
-        pointer.lastPlace = null;
-        pointer.tell(pointer.type_press, mouse);
+        pointer.lastPosition = null;
+        pointer.report(pointer.type_press, mouse);
     }
     onPositionChanged: mouse => {
         if (pointer.holding)
-            pointer.tell(pointer.type_move, mouse);
+            pointer.report(pointer.type_move, mouse);
     }
     onReleased: mouse => {
         if (!pointer.holding)
             return;
         pointer.holding = false;
-        pointer.tell(pointer.type_release, mouse);
+        pointer.report(pointer.type_release, mouse);
     }
-    onCanceled: pointer.letGo()
+    onCanceled: pointer.endHold()
 }

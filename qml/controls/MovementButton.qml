@@ -1,7 +1,7 @@
 import QtQuick
 import VORNApp as Vorn
 
-// A picture that moves the camera for as long as it is held down.
+// Image button that moves the camera while it is held.
 ControlButton {
     id: button
 

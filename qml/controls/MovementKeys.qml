@@ -1,20 +1,20 @@
 import QtQuick
 import VORNApp as Vorn
 
-// Turns the arrow, plus and minus keys into camera movements that last as long as a key is held. The
-// panel forwards its keys here. One movement goes on at a time: another key takes it over.
+// Translates the arrow, plus and minus keys into camera movements that last while the key is held. The
+// panel forwards its key events to this item. Only one movement is active; another key replaces it.
 Item {
     id: keys
 
-    // Whether the keys' releases come here too.
+    // True while the panel has the focus and therefore gets the key releases.
     required property bool focused
-    // The movement under way, none when below 0.
+    // The active movement, -1 when there is none.
     property int heldMovement: -1
 
     signal started(movement: int)
     signal ended(movement: int)
 
-    // A key and its shifted sign mean the same, since a release may bring either.
+    // A key and its shifted symbol are equal: the release may report either of them.
     function movementOf(key: int): int {
         switch (key) {
         case Qt.Key_Plus:
@@ -44,7 +44,7 @@ Item {
         keys.ended(movement);
     }
 
-    // A movement whose release goes elsewhere would never end.
+    // The key release will not arrive here any more.
     onFocusedChanged: {
         if (!keys.focused)
             keys.end();

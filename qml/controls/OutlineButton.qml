@@ -1,6 +1,6 @@
 import QtQuick
 
-// A button that is only an outline and a text.
+// A button that consists of an outline and a text.
 QuickButton {
     id: button
 

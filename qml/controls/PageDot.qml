@@ -1,6 +1,6 @@
 import QtQuick
 
-// A dot for one of several faces, ringed while that face shows.
+// Page indicator: a dot with a ring while its face is shown.
 Rectangle {
     required property bool current
 

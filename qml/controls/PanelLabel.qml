@@ -1,6 +1,6 @@
 import QtQuick
 
-// A line of text across the middle of a white panel.
+// A horizontally centred line of text on a white panel.
 LatoRegularLabel {
     anchors.horizontalCenter: parent?.horizontalCenter
     horizontalAlignment: Text.AlignHCenter

@@ -1,6 +1,6 @@
 import QtQuick
 
-// The small square switch beside a setting.
+// A small switch with square corners, used beside a setting.
 QuickSwitch {
     width: 35
     height: 18

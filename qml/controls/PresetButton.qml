@@ -1,9 +1,9 @@
 import QtQuick
 
-// A button of the presets: a dim face with a text.
+// Button for a camera preset.
 QuickButton {
     property alias text: label.text
-    // The preset that it stands for.
+    // A value of CameraControl.PresetNumber.
     property int number: 0
 
     width: 86

@@ -1,10 +1,10 @@
 import QtQuick
 
-// The input of a button: turns pointer and keyboard presses on `control` into one set of signals and
-// repeats long presses. The control forwards its keys to this item. Children cover the control.
+// Input handling of a button: turns pointer and key presses on `control` into one set of signals and
+// repeats long presses. The control forwards its key events to this item. Child items lie over the control.
 //
-// It takes no room of its own, so that a button sized by its childrenRect is measured by its content
-// alone; the pointer area inside still covers the whole control.
+// This item has no size, so that it does not count in the childrenRect of a button sized by its content.
+// The MouseArea inside covers the whole control.
 Item {
     id: area
 
@@ -18,10 +18,10 @@ Item {
 
     readonly property bool containsMouse: pointer.containsMouse
     readonly property bool pointerHeld: pointer.pressed
-    // The key that holds the button down, 0 when none does.
+    // The key that holds the button, 0 when none does.
     property int heldKey: 0
     readonly property bool focused: control.activeFocus
-    // What the button says, as the name for a screen reader when the page gives none.
+    // The text inside the button, used as accessible name when the page sets none.
     readonly property string contentText: textIn(control).replace(/\s+/g, " ")
 
     signal entered
@@ -32,7 +32,7 @@ Item {
     signal canceled
     signal triggered
 
-    // A whole press and release, for a screen reader's press action.
+    // A complete press and release, for the press action of a screen reader.
     function press(): void {
         if (!area.enabled)
             return;
@@ -74,8 +74,7 @@ Item {
         return "";
     }
 
-    // A key whose release goes elsewhere would hold the button down for ever. A hidden item keeps the
-    // focus, but gets no more keys.
+    // The key release will not arrive any more. A hidden item keeps the focus, but gets no key events.
     onFocusedChanged: {
         if (!area.focused)
             area.dropKey();

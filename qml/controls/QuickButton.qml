@@ -1,7 +1,7 @@
 import QtQuick
 
-// A filled button. Its colour follows the pointer; a long press repeats `triggered` and then does
-// not click.
+// A filled button whose colour follows hover and press. After a long press, which emits `triggered`, the
+// release does not click.
 Rectangle {
     id: button
 
@@ -25,7 +25,7 @@ Rectangle {
     radius: 10
     color: normalColor
     activeFocusOnTab: true
-    // Pages bind normalColor to a selection, which has to show under a resting pointer too.
+    // Pages bind normalColor to a selection state, which must be visible while the pointer is over the button.
     onNormalColorChanged: color = normalColor
 
     Accessible.role: Accessible.Button

@@ -1,6 +1,6 @@
 import QtQuick
 
-// An animated switch. It never changes `checked` itself: `clicked` asks its owner to.
+// An animated switch. Only the owner changes `checked`, in answer to `clicked`.
 Rectangle {
     id: root
 

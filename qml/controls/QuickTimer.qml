@@ -1,6 +1,6 @@
 import QtQuick
 
-// A timer that can say how long it still has to run.
+// A Timer that reports its remaining time.
 Timer {
     id: timer
 
@@ -11,7 +11,7 @@ Timer {
         restart();
     }
 
-    // Milliseconds to go, 0 when the timer is stopped.
+    // Remaining milliseconds, 0 when the timer is stopped.
     function remainingTime(): int {
         if (!running)
             return 0;

@@ -1,6 +1,6 @@
 import QtQuick
 
-// One tab of the settings page, as wide as its text asks for.
+// A tab of the settings page. Its width follows the text.
 QuickButton {
     id: tab
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// One of the two things that the display can show: 0 unavailable, 1 available, 2 selected.
+// Card for a source of the display. `value` is 0 unavailable, 1 available or 2 selected.
 ControlButton {
     id: card
 

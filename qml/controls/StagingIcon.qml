@@ -1,8 +1,8 @@
 import QtQuick
 import Qt5Compat.GraphicalEffects
 
-// A device's sign on the connecting face, in the colour of its state. Transparent leaves the picture's
-// own colour.
+// Device icon on the connecting face, tinted by the state of the device. A transparent tint keeps the
+// image's own colour.
 Item {
     id: root
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// A line of text that is clicked like a button.
+// A clickable line of text.
 ControlButton {
     id: link
 

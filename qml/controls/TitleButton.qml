@@ -1,7 +1,7 @@
 import QtQuick
 
-// A button at the window's top edge. Its picture holds more cells than the first one, which it shows;
-// a source clip would count the pixels of whichever file the screen's scale chose.
+// A button at the window's top edge. The image holds four cells below each other, of which the first is
+// shown. An item clips it, because sourceClipRect counts the pixels of the file chosen for the screen's scale.
 ControlButton {
     id: button
 
@@ -17,7 +17,7 @@ ControlButton {
         Image {
             id: picture
 
-            asynchronous: true // the window is made meanwhile
+            asynchronous: true // decoded while the window is created
         }
     }
 }

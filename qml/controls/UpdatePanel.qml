@@ -1,6 +1,6 @@
 import QtQuick
 
-// The white panel over which the program's update is offered, followed and mourned.
+// The white panel of the program's update: offer, progress and failure.
 Rectangle {
     id: panel
 

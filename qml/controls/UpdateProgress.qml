@@ -1,7 +1,7 @@
 import QtQuick
 
-// How far the update has come, as a bar and a number. The updater reports no progress: the bar creeps
-// towards its end and waits there, until the update is complete or has taken too long.
+// Progress of the update as a bar and a percentage. The updater reports no progress, so the bar rises with
+// time up to 99 % and stays there until the update is complete or times out.
 Row {
     id: root
 
@@ -14,7 +14,7 @@ Row {
 
     signal timedOut
 
-    // The clock, in milliseconds.
+    // Current time in milliseconds. A test overrides it.
     function now(): real {
         return Date.now();
     }

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-// A volume from 0 to 100 as a bar that is filled up to it. `picked` comes once, when a press ends.
+// Slider for a volume from 0 to 100, drawn as a filled bar. `picked` is emitted once, when the press ends.
 Slider {
     id: slider
 
@@ -14,14 +14,14 @@ Slider {
     to: 100
     stepSize: 1
     snapMode: Slider.SnapAlways
-    // A pointer press leaves the focus where it is.
+    // Pointer presses do not take the keyboard focus.
     focusPolicy: Qt.TabFocus
     handle: null
     onPressedChanged: {
         if (!slider.pressed)
             slider.picked(slider.value);
     }
-    // A held key repeats its release too, which would end the press each time.
+    // Auto-repeat sends releases as well, which would end the press each time.
     Keys.onReleased: event => {
         event.accepted = event.isAutoRepeat;
     }
@@ -31,7 +31,7 @@ Slider {
         color: Theme.trackGrey
         radius: Theme.panelRadius
 
-        // Cut off rather than narrowed, so that it keeps to the track's corners at every width.
+        // Clipped instead of narrowed, so that the fill follows the track's round corners at every width.
         Item {
             objectName: "fill"
             width: slider.visualPosition * parent.width

@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// Creates an account for a work address.
+// Form to create an account with a work e-mail address.
 LoginForm {
     id: form
 
@@ -9,7 +9,7 @@ LoginForm {
     readonly property string lastName: lastNameField.text
     readonly property string email: emailField.text
     readonly property string password: passwordField.text
-    // Domains of mail services that anybody can use; their sub-domains count too.
+    // Domains of free mail services. Their sub-domains are refused as well.
     required property list<string> notCompanyEmail
 
     signal accepted

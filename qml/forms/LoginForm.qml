@@ -1,22 +1,22 @@
 import QtQuick
 import "../controls"
 
-// The frame of a login form: title, sub-line, the service's answer and the button that submits.
+// Base of the login forms: title, sub-line, the service's error text and the submit button.
 Item {
     id: form
 
-    // The fields, which the Tab key reaches before the button.
+    // The fields. They are before the button in the tab order.
     default property alias fieldItems: slot.data
     property alias title: titleLabel.text
     property alias subline: sublineLabel.text
-    // The link after the sub-line; none when empty.
+    // Text of the link after the sub-line; no link when empty.
     property alias linkText: link.text
     property alias submitText: submitLabel.text
     property alias submitY: submitButton.y
     property alias submitButton: submitButton
     property alias serverResponse: responseLabel.text
     property alias serverResponseColor: responseLabel.color
-    // Room for the service's answer beside what else stands above the button.
+    // Maximum width of the service's error text.
     property real responseWidth: width - responseLabel.x
 
     signal linkClicked
@@ -36,7 +36,7 @@ Item {
         id: sublineLabel
 
         y: 143
-        // An address can be longer than the window is wide.
+        // An e-mail address can be wider than the window.
         width: Math.min(implicitWidth, 427)
         wrapMode: Text.Wrap
         color: Theme.textGrey

@@ -3,7 +3,7 @@ import QtQuick.Controls.Basic
 import QtQuick.Templates as T
 import "../controls"
 
-// Chooses the user's picture.
+// Pop-up to choose the user's picture.
 Popup {
     id: popup
 
@@ -27,7 +27,7 @@ Popup {
         color: "#383838"
         radius: 8
     }
-    // As round as the window that it dims.
+    // With the same radius as the window below.
     T.Overlay.modal: Rectangle {
         color: "#7F28282A"
         radius: Theme.windowRadius

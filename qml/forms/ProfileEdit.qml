@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// The user's profile, to change.
+// Form to edit the user's profile.
 Item {
     id: view
 
@@ -18,7 +18,7 @@ Item {
     signal canceled
     signal saveClicked
 
-    // Whether everything may be sent; what may not is marked.
+    // Checks all fields and marks the invalid ones. True when all are valid.
     function check(): bool {
         const fields = [companyField, firstNameField, lastNameField, titleField];
         for (const field of fields)
@@ -26,7 +26,7 @@ Item {
         return fields.every(field => field.valid);
     }
 
-    // Shows no mark on what was filled in by the page.
+    // Clears the marks after the page has filled in the fields.
     function settle(): void {
         for (const field of [companyField, firstNameField, lastNameField, titleField])
             field.settle();

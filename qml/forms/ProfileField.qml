@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// A field of the profile with its caption above.
+// A profile field with its caption above.
 QuickTextField {
     id: field
 

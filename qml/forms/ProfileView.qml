@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import "../controls"
 
-// The user's profile, to read.
+// Shows the user's profile.
 Item {
     id: view
 
@@ -72,7 +72,7 @@ Item {
             LatoRegularLabel {
                 required property string modelData
 
-                // Not that of the text: an empty one would leave its row to the next.
+                // A fixed width: an item without a width is left out of the column.
                 width: view.width - 246 - 20
                 text: modelData
                 elide: Text.ElideRight

@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// Has a link sent with which the password can be set anew.
+// Form to request an e-mail with a password reset link.
 LoginForm {
     id: form
 

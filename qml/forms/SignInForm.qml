@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// Signs a user in.
+// Form to sign in.
 LoginForm {
     id: form
 

@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// Whether the display's devices come on by themselves in a meeting on the PC.
+// Setting: whether the display's devices are activated automatically in a BYOD meeting.
 Item {
     id: page
 

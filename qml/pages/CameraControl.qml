@@ -1,7 +1,8 @@
 import QtQuick
 import "../controls"
 
-// The camera page: asks for the display's camera while that is off, and steers it while it is in use.
+// The camera page. While the display's camera is in use it shows the controls, otherwise a request to turn the
+// camera on.
 Item {
     id: page
 

@@ -2,7 +2,7 @@ import QtQuick
 import Qt5Compat.GraphicalEffects
 import "../controls"
 
-// Warns of a display whose firmware is too old for this program.
+// Warning that the display's firmware is too old for this program.
 Item {
     id: dialog
 

@@ -1,15 +1,15 @@
 import QtQuick
 
-// Shows the display's devices to the user one after another while they come up, and gives up waiting
-// after a while. What is really connected arrives in `micConnected` and its like; what may be shown
-// leaves in `showMicConnected` and its like.
+// The staged connection: marks the display's devices as shown one after another once they are connected, and
+// reports a time-out. Inputs are the real states (`micConnected`, `spkConnected`, `camConnected`), outputs the
+// states shown to the user (`showMicConnected`, `showSpkConnected`, `showCamConnected`).
 Item {
     id: staging
 
     required property bool micConnected
     required property bool spkConnected
     required property bool camConnected
-    // Whether the user is watching the devices come up.
+    // True while the connecting face is shown.
     required property bool active
 
     property bool showMicConnected: false
@@ -29,20 +29,20 @@ Item {
     property int blinkOffInterval: 650
     property int completeInterval: 2000
     property int tickInterval: 500
-    // A tick that comes a little early must not cost a whole one.
+    // Accepts a timer event that is slightly early, so that it does not cost a whole interval.
     property int tickTolerance: 50
 
     readonly property bool blinking: blinkTimer.running
 
-    // All devices have been shown for a moment.
+    // All devices have been shown for `completeInterval`.
     signal finished
 
-    // The clock, in milliseconds.
+    // Current time in milliseconds. A test overrides it.
     function now(): real {
         return Date.now();
     }
 
-    // The display is gone; the next one starts from the beginning.
+    // The display was disconnected; the next connection starts from the beginning.
     function reset(): void {
         staging.status = "";
         staging.showMicConnected = false;

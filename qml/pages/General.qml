@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// The program's version, the search for a newer one and the update.
+// The installed version, the check for a newer one and the update run.
 Item {
     id: page
 
@@ -15,11 +15,11 @@ Item {
     readonly property string currentVersion: device.version
     readonly property string newVersion: device.newVersion
     property bool hasNewVerion: false
-    // How long a completed update is shown before the program ends, in milliseconds.
+    // Milliseconds for which a completed update is shown before the program quits.
     property int quitDelay: 2000
     property alias progress: progress
 
-    // The program is to end, so that the new version can start.
+    // The program has to quit, so that the new version can start.
     signal quitRequested
 
     function startUpdating(): void {
@@ -36,7 +36,7 @@ Item {
     }
 
     onQuitRequested: Qt.quit()
-    // A button that hides or is disabled takes the keys with it.
+    // A button that is hidden or disabled would keep the focus.
     onCurrentPageChanged: {
         if (!page.visible)
             return;
@@ -62,7 +62,7 @@ Item {
         function onHasNewVersion(checked: bool): void {
             page.hasNewVerion = checked;
         }
-        // Comes again every second until the program ends.
+        // Emitted every second until the program quits.
         function onUpdateCompleted(): void {
             newVersionLabel.visible = false;
             progress.complete();
@@ -211,7 +211,7 @@ Item {
         UpdateProgress {
             id: progress
 
-            // On a whole pixel, to keep the bar's edges sharp.
+            // At a whole pixel, to keep the bar's edges sharp.
             x: Math.round((parent.width - width) / 2)
             y: 140
             onTimedOut: {

@@ -1,7 +1,7 @@
 import QtQuick
 import "../controls"
 
-// Which meeting apps the launcher shows; at least one stays.
+// Setting: the meeting applications in the launcher. At least one stays selected.
 Item {
     id: page
 
@@ -9,7 +9,7 @@ Item {
     readonly property int shownApps: (zoomBox.checked ? 1 : 0) + (teamsBox.checked ? 1 : 0)
                                      + (googleBox.checked ? 1 : 0)
 
-    // What a click on a box makes of it.
+    // The state of a box after a click on it.
     function toggled(checked: bool): bool {
         return !checked || page.shownApps === 1;
     }

@@ -2,7 +2,7 @@ import QtQuick
 import "../controls"
 import "../forms"
 
-// What the window shows while nobody is signed in: sign-in, a new account, a forgotten password.
+// The face of the main window while no user is signed in: sign-in, account creation and password reset.
 Item {
     id: page
 
@@ -13,9 +13,9 @@ Item {
     readonly property int page_id_reset_password_complete: 4
     property int currentPage: page_id_sign_in
 
-    // The address that a letter went to.
+    // The address shown on the verify and reset-complete pages.
     property string str_email: ""
-    // The service's answer to a request that failed.
+    // Error text of the last failed request.
     property string serverResponse: ""
     property color serverResponseColor: Theme.errorRed
     readonly property list<string> notCompanyEmail: [
@@ -29,7 +29,7 @@ Item {
     readonly property var device: deviceControl // qmllint disable unqualified
     readonly property var service: network // qmllint disable unqualified
 
-    // Made when they are first wanted: the window comes up sooner with one form than with five.
+    // Created on first use, because a single form makes the first frame earlier.
     readonly property CreateAccountForm createAccountForm: createAccountLoader.item as CreateAccountForm
     readonly property ResetPasswordForm resetPasswordForm: resetPasswordLoader.item as ResetPasswordForm
 
@@ -48,7 +48,7 @@ Item {
         page.resetPasswordForm.submit();
     }
 
-    // A failure belongs to the form that asked, and to nobody who has signed in meanwhile.
+    // Ignores a failure when another form is shown or a user has signed in meanwhile.
     function showFailure(form: int, error: string): void {
         if (page.currentPage === form && !page.device.login)
             page.serverResponse = error;
@@ -61,13 +61,13 @@ Item {
 
     onVisibleChanged: {
         if (visible)
-            signInForm.forceActiveFocus(); // else the keys would still go to the page that went
+            signInForm.forceActiveFocus(); // takes it from the hidden main page
     }
     onCurrentPageChanged: {
         page.serverResponse = "";
         switch (page.currentPage) {
         case page.page_id_sign_in:
-            // Away from the hidden fields.
+            // Takes the focus from the hidden fields.
             signInForm.forceActiveFocus();
             break;
         case page.page_id_create_account:
@@ -120,7 +120,7 @@ Item {
     Image {
         x: 26
         y: 58
-        asynchronous: true // decoded while the window is made
+        asynchronous: true // decoded while the window is created
         source: page.currentPage === page.page_id_create_account ? "qrc:/images/background_2_437x576.png"
                                                                  : "qrc:/images/background_1_437x576.png"
 
@@ -146,7 +146,8 @@ Item {
         onForgotPassword: page.currentPage = page.page_id_reset_password
     }
 
-    // Qt 6.4 refuses to make a bound component later on, and the linter wants these to be bound.
+    // Qt 6.4 does not create a bound component in a Loader that is activated later, although qmllint asks for
+    // bound ones.
     // qmllint disable unqualified
     Loader {
         id: createAccountLoader

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import "../controls"
 
-// What the window shows to a signed-in user: navigation on the left, one of four pages on the right.
+// The face of the main window while a user is signed in: navigation on the left, one of four pages on the right.
 Item {
     id: page
 
@@ -21,13 +21,13 @@ Item {
         navigation.currentIndex = index;
     }
 
-    // Pages without an entry leave none highlighted.
+    // The page has no navigation entry, so none is highlighted.
     function showOtherPage(id: int): void {
         page.currentPage = id;
         navigation.currentIndex = -1;
     }
 
-    // Who signs in begins with the meetings.
+    // Every sign-in starts on the meetings page.
     onVisibleChanged: currentPage = page_id_meetings
     Component.onCompleted: page.service.requestUserProfile()
 
@@ -62,7 +62,7 @@ Item {
         spacing: 12
         interactive: false
         currentIndex: 0
-        // The arrow keys would move the highlight without the page.
+        // The arrow keys would move the highlight without changing the page.
         keyNavigationEnabled: false
         model: [
             { text: qsTr("Meetings"), icon: "qrc:/images/meetings.png", id: page.page_id_meetings },
@@ -112,7 +112,7 @@ Item {
         width: parent.width - x
         height: parent.height
 
-        // Reaches past the left edge, so that only the right corners are round.
+        // Extends beyond the left edge, so that only the right corners are round.
         Item {
             anchors.fill: parent
             clip: true
@@ -149,7 +149,7 @@ Item {
         }
     }
 
-    // After the pages, which would cover it otherwise.
+    // Declared after the pages, which would cover it otherwise.
     LatoRegularLabel {
         x: 871
         y: 621

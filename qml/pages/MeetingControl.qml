@@ -2,12 +2,12 @@ import QtQuick
 import Qt5Compat.GraphicalEffects
 import "../controls"
 
-// An overview of the display: the time, its volume, and what it shows.
+// Overview of the display: clock, volume and source. No navigation entry opens this page.
 Item {
     id: page
 
     readonly property var device: deviceControl // qmllint disable unqualified
-    // Whether the display has told its volume.
+    // True once the display has reported its volume.
     property bool volumeKnown: false
     property date now: new Date()
 
@@ -30,7 +30,7 @@ Item {
         }
     }
 
-    // A notification that not every device object has.
+    // DeviceControl does not declare this signal.
     Connections {
         target: page.device
         ignoreUnknownSignals: true

@@ -1,8 +1,8 @@
 import QtQuick
 import "../controls"
 
-// Follows the cable to the display, from plugging it in to the launch of a meeting, and the display's
-// first set-up.
+// The meetings page: follows the cable connection from plugging in to launching a meeting, and guides through
+// the display's first set-up.
 Item {
     id: page
 
@@ -35,9 +35,8 @@ Item {
     property alias blinkOnInterval: staging.blinkOnInterval
     property alias blinkOffInterval: staging.blinkOffInterval
     property alias blinkState: staging.blinkState
-    property alias staging: staging
 
-    // The window that knows of the monitor window; it may be another one in a tool.
+    // The object that stores the monitor window in `monitorWindow`.
     property var mainWindow: Window.window
 
     function handleConnectModeChanged(mode: int): void {
@@ -51,18 +50,18 @@ Item {
         }
     }
 
-    // The colour of a device's sign: `turn` while it is the one being connected.
-    function tint(shown: bool, turn: bool): color {
+    // Icon colour; blinks while the device is being connected.
+    function tint(shown: bool, connecting: bool): color {
         if (shown)
             return page.connectedColor;
         if (page.connectTimeout)
             return page.timeoutColor;
-        // A hidden icon that blinks would have the window drawn twice a second.
-        const blinks = turn && page.visible && staging.blinking;
+        // Not while the page is hidden: each change draws the window.
+        const blinks = connecting && page.visible && staging.blinking;
         return blinks && page.blinkState ? page.connectedColor : page.defaultColor;
     }
 
-    // The same for those who hear the page.
+    // The same state as text, for screen readers.
     function stateName(shown: bool): string {
         if (shown)
             return qsTr("Connected");
@@ -116,7 +115,7 @@ Item {
     }
 
     FacePanel {
-        // Plug in the cable.
+        // Plug cable.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_typec_plug
@@ -133,7 +132,7 @@ Item {
             }
         }
 
-        // The devices come up.
+        // Connecting.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_connecting
@@ -182,12 +181,12 @@ Item {
             }
         }
 
-        // Ready.
+        // Connected.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_connected
 
-            // A picture of the light, since an effect that blurs would compile its shaders at the start.
+            // The glow is an image, because a blur effect compiles its shaders at the start.
             Image {
                 anchors.centerIn: readyLogo
                 source: "qrc:/images/glow_173x172.png"
@@ -215,7 +214,7 @@ Item {
             }
         }
 
-        // The launcher.
+        // Launch meeting.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_launch_meeting
@@ -253,7 +252,7 @@ Item {
             }
         }
 
-        // A display that has not been set up yet.
+        // Set-up detected.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_oobe_detected
@@ -278,7 +277,7 @@ Item {
             }
         }
 
-        // It is being set up in the monitor window.
+        // Set-up running.
         Item {
             anchors.fill: parent
             visible: page.currentPage === page.page_id_oobe_setuping

@@ -4,7 +4,7 @@ import QtQuick
 import VORNApp as Vorn
 import "../controls"
 
-// Steers the display's camera by hand or leaves it to automatic framing, by the tab chosen.
+// Camera controls in two tabs: manual movement and automatic framing.
 FocusScope {
     id: panel
 
@@ -21,23 +21,23 @@ FocusScope {
     }
 
     onAutoFramingChanged: followFraming()
-    // A framing that the display reported is no change to the camera object, which then sends nothing.
+    // When the display reported the framing, the camera object has the same value and sends nothing.
     onCurrentPageChanged: {
         panel.camera.setAutoFraming(panel.currentPage === panel.page_id_auto_framing);
-        // The focus must not stay on a control that nobody sees.
+        // Takes the focus from a control that was hidden.
         if (manualPage.activeFocus || autoFramingPage.activeFocus)
             tabBar.currentItem.forceActiveFocus();
     }
     onVisibleChanged: {
         const holder = Window.activeFocusItem;
-        // It comes here unless a control that the user sees has it.
+        // Takes the focus unless a visible control has it.
         if (panel.visible && !(holder?.visible && holder.activeFocusOnTab))
             panel.forceActiveFocus();
     }
     Component.onCompleted: followFraming()
     Keys.forwardTo: [movementKeys]
 
-    // A press anywhere on the panel brings the keys here, and goes on to what it meets.
+    // A press anywhere on the panel moves the focus here, without taking the press from the item below it.
     PointHandler {
         onActiveChanged: {
             if (active && !panel.activeFocus)
@@ -51,7 +51,7 @@ FocusScope {
         objectName: "manualPage"
         anchors.fill: parent
         visible: panel.currentPage === panel.page_id_manual
-        // A window that hides takes no pointer away by itself.
+        // Ends a held button when the window is hidden, which does not cancel the press.
         enabled: panel.windowShown
 
         MovementKeys {
@@ -99,7 +99,7 @@ FocusScope {
         }
     }
 
-    // Last, so that the manual page's dismiss area leaves the tabs free.
+    // Declared last, so that the manual page's dismiss area does not cover the tabs.
     ListView {
         id: tabBar
 

@@ -4,7 +4,7 @@ import QtQuick
 import VORNApp as Vorn
 import "../controls"
 
-// Moves and zooms the camera while a button is held, recalls its presets and keeps new ones.
+// Manual camera control: moves and zooms while a button is held, applies and saves presets.
 FocusScope {
     id: page
 
@@ -16,7 +16,7 @@ FocusScope {
     }
 
     function dropSave(): void {
-        // The focus must not stay on a button that nobody sees.
+        // Takes the focus from the button before it is hidden.
         if (saveButton.activeFocus)
             saveButton.preset.forceActiveFocus();
         saveButton.visible = false;
@@ -159,7 +159,7 @@ FocusScope {
     PresetButton {
         id: saveButton
 
-        // The preset that raised it.
+        // The preset button for which the save button is shown.
         property PresetButton preset: null
 
         objectName: "saveButton"

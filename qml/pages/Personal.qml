@@ -3,7 +3,7 @@ import QtQuick.Dialogs
 import "../controls"
 import "../forms"
 
-// The signed-in user's profile and picture, and the way to sign out.
+// The signed-in user's profile: view, edit, picture and sign-out.
 Item {
     id: page
 
@@ -12,9 +12,9 @@ Item {
     property int currentPage: page_id_personal_info
     property string serverResponse: ""
     property color serverResponseColor: Theme.errorRed
-    // The file dialog's last selection, also when it was refused: what a save sends.
+    // The last selection of the file dialog, even if it was refused. Save sends this file.
     property string chosenFile: ""
-    // Bytes; a picture has to be smaller.
+    // A picture must have fewer bytes.
     readonly property int pictureLimit: 2097152
 
     readonly property var device: deviceControl // qmllint disable unqualified
@@ -39,7 +39,7 @@ Item {
     function adoptPicture(file: string): void {
         page.chosenFile = file;
         const size = page.service.imageSize(file);
-        // One of more than 2 GB has a negative size.
+        // The size is negative for files of more than 2 GB.
         if (size < 0 || size >= page.pictureLimit) {
             picturePopup.error = qsTr("The file must be under 2MB.");
             return;
@@ -61,7 +61,7 @@ Item {
         if (page.currentPage === page.page_id_personal_edit)
             edit.focusFirstField();
         else if (page.visible)
-            view.forceActiveFocus(); // away from the hidden fields
+            view.forceActiveFocus(); // takes it from the hidden fields
     }
     onVisibleChanged: {
         if (!visible)
@@ -71,7 +71,7 @@ Item {
     Connections {
         target: page.device
 
-        // The next user must not save the picture that this one chose.
+        // Must not be saved in the next user's profile.
         function onLoginChanged(): void {
             page.chosenFile = "";
         }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import "../controls"
 
-// The program's settings, in three tabs.
+// The settings page with three tabs.
 Item {
     id: page
 
