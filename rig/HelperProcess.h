@@ -13,7 +13,7 @@ inline constexpr bool kIsWindows = true;
 inline constexpr bool kIsWindows = false;
 #endif
 
-/// A program of the tests running as a process of its own: it answers each command with a line.
+/// A test helper program in its own process. It answers each command with a line.
 class HelperProcess : public QProcess
 {
 public:
@@ -25,19 +25,19 @@ public:
 
     ~HelperProcess() override
     {
-        closeWriteChannel(); // which it takes for the end
+        closeWriteChannel(); // the helper ends at the end of its input
         if (state() != NotRunning && !waitForFinished(5'000))
             kill();
     }
 
-    /// Starts the program and waits until it says that it is ready.
+    /// Starts the program and waits for its line "ready".
     bool startAndWait(const QString& program, const QStringList& arguments)
     {
         start(program, arguments);
         return waitForStarted() && nextLine() == "ready";
     }
 
-    /// Sends a command and waits until it is done.
+    /// Sends a command and waits for its line "ok".
     bool command(const QByteArray& line)
     {
         write(line + '\n');
@@ -51,7 +51,7 @@ public:
         return readLine().trimmed();
     }
 
-    /// Ends it as a crash would, and waits for that.
+    /// Kills the process and waits for its end.
     bool crash()
     {
         kill();

@@ -36,15 +36,6 @@ void PageRig::publish(QQmlContext* context)
     context->setContextProperty(u"screen"_s, &m_screen);
 }
 
-QVariantList PageRig::takeMessages()
-{
-    QVariantList messages;
-    for (const ChannelMessage& sent : m_world.channel.take())
-        messages += QVariantMap{{u"id"_s, static_cast<int>(sent.command)},
-                                {u"text"_s, QString::fromStdString(sent.text)}};
-    return messages;
-}
-
 QStringList PageRig::takeMessageTexts()
 {
     QStringList texts;

@@ -12,7 +12,7 @@
 
 class QQmlContext;
 
-/// Stands in for the window manager: remembers what it was asked for.
+/// Window manager that counts the calls.
 class PageWindows : public QObject
 {
     Q_OBJECT
@@ -32,9 +32,9 @@ private:
     QPoint m_cursor;
 };
 
-/// What stands behind the pages in a test, as `rig` in QML: the program's own DeviceControl,
-/// CameraControl and NetworkManager between a fake channel, fake devices and the simulator's
-/// account service. One rig serves one test file.
+/// The objects behind the pages in a test: the program's DeviceControl, CameraControl and
+/// NetworkManager, connected to a fake channel, fake devices and the simulator's account service.
+/// QML sees it as `rig`. Create one for each test file.
 class PageRig : public QObject
 {
     Q_OBJECT
@@ -44,35 +44,32 @@ public:
 
     void publish(QQmlContext* context);
 
-    /// Messages sent to the display since the last call: objects with the channel id as "id" and
-    /// the text as "text".
-    Q_INVOKABLE QVariantList takeMessages();
-    /// The same, as a list of texts.
+    /// Texts of the messages sent to the display since the last call.
     Q_INVOKABLE QStringList takeMessageTexts();
-    /// The display sends this message.
+    /// Delivers a message from the display.
     Q_INVOKABLE void report(int id, const QString& json);
-    /// What the PC's device check finds; the states follow within milliseconds.
+    /// Sets what the device check finds; the states follow within milliseconds.
     Q_INVOKABLE void plug(bool microphone, bool speaker, bool camera);
     /// Tasks posted since the last call, each "name argument argument...".
     Q_INVOKABLE QStringList takeTasks();
-    /// Calls that started, kept or killed programs, in their order.
+    /// Requests to start, keep alive or kill programs, in their order.
     Q_INVOKABLE QStringList programCalls() const { return m_world.programs.calls(); }
-    /// The registry's "version" or "newver".
+    /// Sets the registry value "version" or "newver".
     Q_INVOKABLE void setInstalledVersion(const QString& name, const QString& value);
 
     /// Adds an account to the service; keys as in its profile, with "password".
     Q_INVOKABLE void addAccount(const QVariantMap& account);
     /// The service's own record of an account, without its password.
     Q_INVOKABLE QVariantMap account(const QString& email);
-    /// Ends the account's sessions, as an expiry would.
+    /// Revokes the account's tokens.
     Q_INVOKABLE void endSessions(const QString& email);
-    /// Writes a PNG file padded to that many bytes and returns its URL.
+    /// Writes a PNG file padded to `size` bytes and returns its URL.
     Q_INVOKABLE QString makePicture(const QString& name, int size);
-    /// Cuts a picture that was made down to what it shows.
+    /// Truncates the picture to its PNG data.
     Q_INVOKABLE void truncatePicture(const QString& name);
-    /// The requests that the service has had since the last call, each "METHOD path?query".
+    /// Requests received by the service since the last call, each "METHOD path?query".
     Q_INVOKABLE QStringList takeRequests();
-    /// Takes the service off the network.
+    /// Makes the service unreachable.
     Q_INVOKABLE void stopService() { m_service.close(); }
 
 private:

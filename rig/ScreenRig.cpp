@@ -39,7 +39,7 @@ bool ScreenRig::listen()
 
 QStringList ScreenRig::takeDatagrams()
 {
-    // What was sent before this mark has come when the mark comes.
+    // Datagrams arrive in order: everything sent before the mark is read before it.
     const QByteArray mark = "mark";
     m_socket.writeDatagram(mark, QHostAddress::LocalHost, PointerPort);
     QStringList received;

@@ -7,8 +7,8 @@
 #include <QUdpSocket>
 #include <QVideoSink>
 
-/// Plays the display's screen, as `screen` in QML: puts frames into a sink, or into the shared
-/// memory from a process of its own, and receives the pointer's datagrams.
+/// The display's screen in a test: puts frames into a sink, or into shared memory from another
+/// process, and receives the pointer datagrams. QML sees it as `screen`.
 class ScreenRig : public QObject
 {
     Q_OBJECT
@@ -16,19 +16,19 @@ class ScreenRig : public QObject
 public:
     explicit ScreenRig(DeviceWorld& world);
 
-    /// Takes the port of the pointer's datagrams.
+    /// Binds the port of the pointer datagrams.
     Q_INVOKABLE bool listen();
     /// Datagrams received since the last call, as hexadecimal text.
     Q_INVOKABLE QStringList takeDatagrams();
-    /// The datagram that tells of a pointer at x/ofX, y/ofY of the picture.
+    /// The datagram for a pointer at x/ofX, y/ofY of the picture.
     Q_INVOKABLE QString datagram(int type, double x, double ofX, double y, double ofY) const;
 
-    /// A frame of this size arrives in the sink.
+    /// Puts a frame of this size into the sink.
     Q_INVOKABLE void showFrame(QVideoSink* sink, int width, int height);
-    /// Only the count of frames rises.
+    /// Raises only the frame counter.
     Q_INVOKABLE void countFrame();
 
-    /// Has another process write frames of this size without pause.
+    /// Starts a process that writes frames of this size continuously.
     Q_INVOKABLE bool startWriting(int width, int height);
     Q_INVOKABLE void stopWriting();
 

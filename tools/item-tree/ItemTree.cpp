@@ -38,7 +38,7 @@ void printLook(const QQuickItem* item, QTextStream& out)
     if (property("radius").toDouble() > 0)
         out << " radius " << number(property("radius").toDouble());
     if (auto* border = property("border").value<QObject*>()) {
-        // Asking for a border that nobody set makes a black one.
+        // Reading an unset border creates a black one.
         const QColor edge = border->property("color").value<QColor>();
         if (border->property("width").toDouble() > 0 && edge.alpha() > 0 && edge != Qt::black)
             out << " border " << number(border->property("width").toDouble()) << ' '

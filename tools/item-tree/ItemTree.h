@@ -3,6 +3,6 @@
 class QQuickItem;
 class QTextStream;
 
-/// Prints an item and all below it, one line each: type, position in the window, size, and what
-/// else there is of colour, border, font, text, picture. What cannot be seen is marked.
+/// Prints an item and its descendants, one line each: type, position in the window, size, and
+/// colour, border, font, text and picture where it has them. Hidden items are marked.
 void printItemTree(const QQuickItem* item, QTextStream& out);

@@ -30,7 +30,7 @@ void addOptions(QCommandLineParser& parser)
         u"Loads a page of the user interface into a window of its own, brings it into a state, "
         "prints its items with their positions in the window and saves a picture of it.\n"
         "JavaScript runs in the page's scope: its properties and functions, the program's context "
-        "objects, and `rig`, which plays the display, the devices and the account service."_s);
+        "objects, and `rig`, which stands for the display, the devices and the account service."_s);
     parser.addHelpOption();
     parser.addPositionalArgument(u"page"_s,
                                  u"Name of a file in the folder qml, such as Meetings."_s);
