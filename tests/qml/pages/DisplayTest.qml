@@ -2,12 +2,11 @@
 import QtQuick
 import QtTest
 
-// A test of a page that steers the display, by the messages that it sends.
+// Test of a page that controls the display, through the messages that it sends.
 TestCase {
     id: test
 
-    // The messages since the last call, without the version queries; numbers count the whole program's
-    // messages and are left out.
+    // The messages since the last call, without version queries and with their sequence numbers replaced by "#".
     function sent(): var {
         return rig.takeMessageTexts().filter(text => !text.startsWith('{"cmd":11,'))
             .map(text => text.replace(/"seq":\d+/, '"seq":#'));
@@ -29,7 +28,7 @@ TestCase {
         return `{"cmd":15,"seq":#,"smartframestatus":${on ? 1 : 0},"type":2}`;
     }
 
-    // An answer of the display, which asks for no reply.
+    // Delivers an answer of the display, which needs no reply.
     function answer(command: int, key: string, value: int): void {
         rig.report(command, JSON.stringify({ cmd: command, seq: 1, type: 1, [key]: value }));
     }
@@ -38,7 +37,7 @@ TestCase {
         return item.mapToItem(test, item.width / 2, item.height / 2);
     }
 
-    // Presses the pointer on an item and leaves it there.
+    // Presses the pointer on an item and keeps it pressed.
     function hold(item: Item): void {
         mouseMove(item);
         mousePress(item);

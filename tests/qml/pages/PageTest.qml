@@ -1,13 +1,13 @@
 import QtQuick
 import QtTest
 
-// A test of one page, which is used as a person would: by what can be seen of it.
+// Test of one page through its visible items, as a user operates it.
 TestCase {
     id: test
 
     property Item page: null
 
-    // The first item below `item`, in depth, for which `matches` holds; hidden ones too.
+    // The first item below `item` for which `matches` returns true, depth first. Finds hidden items too.
     function search(item: Item, matches: var): var {
         for (let i = 0; i < item.children.length; ++i) {
             const child = item.children[i];
@@ -36,7 +36,16 @@ TestCase {
         mouseClick(label);
     }
 
-    // Replaces what a field holds, key by key.
+    // Makes the connection stages fast.
+    function shortenStaging(): void {
+        const staging = test.search(test.page, item => item.firstShowDelay !== undefined);
+        staging.tickInterval = 5;
+        staging.tickTolerance = 1;
+        staging.deviceShowInterval = staging.firstShowDelay = staging.firstShowInterval = staging.completeInterval = 20;
+        staging.blinkOnInterval = staging.blinkOffInterval = 5;
+    }
+
+    // Replaces the text of a field, key by key.
     function type(name: string, text: string): void {
         const field = test.visibleChild(name);
         verify(field, name);

@@ -32,7 +32,7 @@ DisplayTest {
         '{"cmd":14,"seq":#,"type":0}', '{"cmd":16,"seq":#,"type":0}', '{"cmd":21,"seq":#,"type":0}'
     ]
 
-    function test_connectionAsksForTheState(): void {
+    function test_connectionRequestsTheState(): void {
         verify(test.face("openCameraFace").visible);
         for (const mode of [1, 2]) {
             test.answer(0, "isReady", mode);
@@ -42,14 +42,14 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
-    function test_opensOnAConnectedDisplay(): void {
+    function test_pageCreatedAfterTheConnection(): void {
         test.answer(0, "isReady", 1);
         test.sent();
         createTemporaryObject(pageComponent, test);
         compare(test.sent(), [...test.queries]);
     }
 
-    function test_cameraInUseShowsThePanel(): void {
+    function test_cameraInUseShowsTheControls(): void {
         test.answer(0, "isReady", 1);
         for (const [status, panelShows] of [[1, true], [0, false], [2, true]]) {
             test.answer(21, "camerastatus", status);
@@ -58,7 +58,7 @@ DisplayTest {
         }
     }
 
-    function test_disconnectEndsWhatIsHeld(): void {
+    function test_disconnectionEndsHeldMovements(): void {
         test.answer(0, "isReady", 1);
         test.answer(21, "camerastatus", 1);
         verify(test.face("ptzFace").activeFocus);

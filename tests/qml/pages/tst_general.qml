@@ -46,7 +46,7 @@ PageTest {
         verify(!shown("You're up to date."));
     }
 
-    function test_laterAndClose(): void {
+    function test_offerIsDeclined(): void {
         offerVersion();
         for (const way of ["laterButton", "closeButton"]) {
             mouseClick(visibleChild("updateButton"));
@@ -82,7 +82,7 @@ PageTest {
         compare(page.progress.greyed, false);
         test.quits = 0;
         rig.setInstalledVersion("version", "1.1.0");
-        // The completion comes again with every pass, yet the program ends once and in time.
+        // The completion is reported in every pass, but the program quits once.
         tryCompare(test, "quits", 1);
         compare(page.progress.value, 100);
         verify(!page.progress.running);

@@ -3,7 +3,7 @@ import QtQuick
 import QtTest
 import "../../../qml/pages"
 
-// From the start to a launched meeting without a pointer.
+// From the sign-in to a launched meeting with the keyboard only.
 PageTest {
     id: test
 
@@ -34,7 +34,7 @@ PageTest {
         return faces.Window.window.activeFocusItem;
     }
 
-    // Presses Tab until something with that accessible name has the focus.
+    // Presses Tab until an item with that accessible name has the focus.
     function tabTo(name: string): void {
         for (let i = 0; i < 40; ++i) {
             keyClick(Qt.Key_Tab);
@@ -47,16 +47,6 @@ PageTest {
     function typeText(text: string): void {
         for (let i = 0; i < text.length; ++i)
             keyClick(text[i]);
-    }
-
-    function shortenStaging(): void {
-        const staging = search(mainPage, item => item.firstShowDelay !== undefined);
-        staging.tickInterval = 5;
-        staging.tickTolerance = 1;
-        staging.deviceShowInterval = 20;
-        staging.firstShowDelay = 20;
-        staging.firstShowInterval = 20;
-        staging.completeInterval = 20;
     }
 
     function test_fromSignInToTheMeeting(): void {

@@ -37,8 +37,8 @@ DisplayTest {
         MeetingControl {}
     }
 
-    // Comes first by its name: the display tells its first volume only once.
-    function test_aVolumeReadiesTheControls(): void {
+    // Runs first because of its name: the first volume is reported only once.
+    function test_aFirstVolumeEnablesTheControls(): void {
         const slider = test.control("volumeSlider") as Slider;
         verify(!slider.enabled);
         verify(slider.layer.enabled);

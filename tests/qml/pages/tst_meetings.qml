@@ -11,7 +11,7 @@ PageTest {
     height: 666
 
     QtObject {
-        id: mainWindow
+        id: windowHolder
 
         property var monitorWindow: null
     }
@@ -20,14 +20,7 @@ PageTest {
         id: page
 
         anchors.fill: parent
-        mainWindow: mainWindow
-        staging.tickInterval: 5
-        staging.tickTolerance: 1
-        deviceShowInterval: 20
-        staging.firstShowDelay: 20
-        staging.completeInterval: 20
-        blinkOnInterval: 4
-        blinkOffInterval: 6
+        mainWindow: windowHolder
     }
 
     LauncherAppList {
@@ -47,11 +40,13 @@ PageTest {
         tryCompare(deviceControl, "connectMode", 0);
     }
 
+    function initTestCase(): void {
+        shortenStaging();
+    }
+
     function init(): void {
         rig.plug(false, false, false);
         disconnectDisplay();
-        rig.takeMessages();
-        rig.takeTasks();
         compare(page.currentPage, page.page_id_typec_plug);
     }
 
@@ -68,12 +63,11 @@ PageTest {
         tryVerify(() => page.connectComplete);
         tryCompare(page, "currentPage", page.page_id_connected);
 
-        rig.takeMessages();
+        rig.takeMessageTexts();
         mouseClick(findChild(page, "goButton"));
         compare(page.currentPage, page.page_id_launch_meeting);
-        const ids = rig.takeMessages().map(message => message.id);
-        verify(ids.includes(9), ids);
-        verify(ids.includes(12), ids);
+        const commands = rig.takeMessageTexts().map(text => JSON.parse(text).cmd);
+        verify(commands.includes(9) && commands.includes(12), commands);
 
         rig.takeTasks();
         for (const button of ["launchZoom", "launchTeams", "launchGoogle"])
@@ -81,8 +75,8 @@ PageTest {
         compare(rig.takeTasks(), ["launchZoom", "launchTeams", "launchGoogleMeeting"]);
     }
 
-    // The program makes its pages when they are needed, which may be after the display came.
-    function test_madeWhileADisplayIsThere(): void {
+    // The program creates its pages on demand, possibly after the display was connected.
+    function test_pageCreatedAfterTheConnection(): void {
         connectDisplay();
         tryCompare(deviceControl, "connectMode", 1);
         const late = createTemporaryObject(latePage, test);
@@ -93,11 +87,11 @@ PageTest {
         id: latePage
 
         Meetings {
-            mainWindow: mainWindow
+            mainWindow: windowHolder
         }
     }
 
-    function test_timeOutTurnsWhatIsMissingRed(): void {
+    function test_timeOutTurnsMissingDevicesRed(): void {
         page.connectionTimeout = 100;
         rig.plug(true, false, false);
         connectDisplay();
@@ -112,7 +106,7 @@ PageTest {
         tryVerify(() => !page.connectTimeout);
     }
 
-    function test_lastAppStays(): void {
+    function test_lastSelectedAppCannotBeUnchecked(): void {
         const boxes = [];
         for (const text of ["Zoom", "Teams", "Google"])
             boxes.push(search(apps, item => item.text === text && item.checked !== undefined));
@@ -127,17 +121,17 @@ PageTest {
         verify(deviceControl.supportLaunchZoom && deviceControl.supportLaunchTeams);
     }
 
-    function test_setUpOpensTheMonitorWindowOnce(): void {
+    function test_setUpOpensOneMonitorWindow(): void {
         rig.report(0, '{"cmd":0,"type":2,"seq":1,"isReady":2}');
         tryCompare(page, "currentPage", page.page_id_oobe_detected);
         mouseClick(findChild(page, "startSetupButton"));
         compare(page.currentPage, page.page_id_oobe_setuping);
-        const monitor = mainWindow.monitorWindow;
+        const monitor = windowHolder.monitorWindow;
         verify(monitor);
         page.showMonitorWindow();
-        compare(mainWindow.monitorWindow, monitor);
+        compare(windowHolder.monitorWindow, monitor);
         monitor.close();
-        compare(mainWindow.monitorWindow, null);
+        compare(windowHolder.monitorWindow, null);
         compare(page.currentPage, page.page_id_oobe_detected);
     }
 }

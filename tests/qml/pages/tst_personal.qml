@@ -31,7 +31,7 @@ PageTest {
         compare(deviceControl.firstName, "Ada");
     }
 
-    // As the login page does it.
+    // Like the login page.
     SignalSpy {
         id: signIn
 
@@ -93,7 +93,7 @@ PageTest {
         verify(!shown("Company is required"));
     }
 
-    function test_pictureTooLargeIsRefusedAndStillSent(): void {
+    function test_refusedPictureIsStillSent(): void {
         const small = rig.makePicture("small 100%.png", 1000);
         const large = rig.makePicture("large.png", 2097152);
         openEdit();
@@ -138,14 +138,14 @@ PageTest {
         compare(page.serverResponse, "");
     }
 
-    function test_anEmptyValueKeepsItsRow(): void {
+    function test_emptyValueKeepsItsRow(): void {
         deviceControl.company = "";
         const caption = test.visibleText("Job Title");
         const value = test.visibleText(deviceControl.title);
         tryVerify(() => value.mapToItem(page, 0, 0).y === caption.mapToItem(page, 0, 0).y);
     }
 
-    function test_aHiddenFieldTakesNoKeys(): void {
+    function test_hiddenFieldGetsNoKeys(): void {
         openEdit();
         const field = visibleChild("titleField");
         field.forceActiveFocus();
@@ -168,7 +168,7 @@ PageTest {
         compare(deviceControl.login, false);
         compare(deviceControl.email, "");
         compare(deviceControl.userImage, test.defaultPicture);
-        // The next user must not save her picture.
+        // Must not be saved in the next user's profile.
         compare(page.chosenFile, "");
     }
 }

@@ -33,7 +33,7 @@ DisplayTest {
         }
     }
 
-    // Somewhere else to put the focus.
+    // Takes the focus from the panel.
     Item {
         id: elsewhere
 
@@ -77,7 +77,7 @@ DisplayTest {
         compare(test.sent(), [test.scale(data.movement, 0), test.scale(data.movement, 1)]);
     }
 
-    function test_leavingAHeldButtonStops(): void {
+    function test_leavingAHeldButtonStopsTheMovement(): void {
         const button = test.control("left");
         test.hold(button);
         compare(test.sent(), [test.scale(4, 0)]);
@@ -98,7 +98,7 @@ DisplayTest {
     }
 
     function test_keyMovesWhileItIsHeld(data: var): void {
-        // A control of the panel lets the keys through to it.
+        // Controls inside the panel pass these keys on to it.
         for (const holder of [test.panel, test.control("preset2"), test.control("framingTab0")]) {
             holder.forceActiveFocus();
             keyPress(data.key);
@@ -111,7 +111,7 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
-    function test_anotherKeyTakesTheMovementOver(): void {
+    function test_anotherKeyReplacesTheMovement(): void {
         test.panel.forceActiveFocus();
         keyPress(Qt.Key_Left);
         keyPress(Qt.Key_Right);
@@ -121,13 +121,13 @@ DisplayTest {
         keyRelease(Qt.Key_Right);
         compare(test.sent(), [test.scale(5, 1)]);
 
-        // Shift let go before the key that it made a plus.
+        // Shift is released before the plus key.
         keyPress(Qt.Key_Plus, Qt.ShiftModifier);
         keyRelease(Qt.Key_Equal);
         compare(test.sent(), [test.scale(0, 0), test.scale(0, 1)]);
     }
 
-    function test_heldKeyEndsWithTheFocusAndThePage(): void {
+    function test_movementEndsWithTheFocusAndThePage(): void {
         test.panel.forceActiveFocus();
         keyPress(Qt.Key_Up);
         elsewhere.forceActiveFocus();
@@ -143,7 +143,7 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
-    function test_hidingTheWindowEndsWhatIsHeld(): void {
+    function test_hidingTheWindowEndsHeldMovements(): void {
         const window = createTemporaryObject(windowComponent, test) as Window;
         window.show();
         window.requestActivate();
@@ -160,7 +160,7 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
-    function test_pressBringsTheKeysToThePanel(): void {
+    function test_pressFocusesThePanel(): void {
         elsewhere.forceActiveFocus();
         mouseClick(test.panel, 20, 440);
         verify(test.panel.activeFocus);
@@ -168,7 +168,7 @@ DisplayTest {
         compare(test.sent(), [test.scale(4, 0), test.scale(4, 1)]);
     }
 
-    function test_clickRecallsAPreset(): void {
+    function test_clickAppliesAPreset(): void {
         for (let i = 0; i < 3; ++i) {
             mouseClick(test.control("preset" + (i + 1)));
             compare(test.sent(), [test.preset(i, 0)]);
@@ -200,7 +200,7 @@ DisplayTest {
         }
     }
 
-    function test_saveIsDismissed(): void {
+    function test_saveButtonIsDismissed(): void {
         for (const place of ["up", "preset1", "zoomPanel"]) {
             const save = test.raiseSaveButton("preset2");
             mouseClick(test.control(place), 5, 5);
@@ -226,7 +226,6 @@ DisplayTest {
         mouseClick(test.control("framingTab1"));
         verify(test.control("autoFramingPage").visible);
         verify(!test.control("manualPage").visible);
-        mouseClick(test.control("framingTab1"));
         compare(test.sent(), [test.autoFraming(true)]);
 
         mouseClick(test.control("smartFramingSwitch"));

@@ -3,7 +3,7 @@ import QtQuick
 import QtTest
 import "../../../qml/pages"
 
-// The times of the staging, with a clock that the test turns.
+// The times of the staging, with a clock that the test sets.
 TestCase {
     id: test
 
@@ -19,7 +19,7 @@ TestCase {
     ConnectionStaging {
         id: staging
 
-        // The test ticks itself.
+        // The test calls the ticks.
         tickInterval: 100000
         blinkOnInterval: 100000
         blinkOffInterval: 100000
@@ -54,27 +54,20 @@ TestCase {
         test.time = 0;
     }
 
-    // The first tick, as the running timers give it.
+    // Starts the timers, whose first tick comes at once.
     function start(): void {
         test.active = true;
         staging.showNext();
         staging.blink();
     }
 
-    function test_defaults(): void {
-        compare(staging.deviceShowInterval, 3000);
-        compare(staging.firstShowInterval, 3000);
-        compare(staging.connectionTimeout, 30000);
-        compare(staging.completeInterval, 2000);
-    }
-
-    function test_allPresent(): void {
+    function test_presentDevicesAreShownInOrder(): void {
         start();
         runFor(15000);
         compare(test.shownAt, { mic: 6000, spk: 9500, cam: 13000 });
     }
 
-    function test_dropOutClearsItsOwnAlone(): void {
+    function test_lostDeviceClearsOnlyItsOwnState(): void {
         start();
         runFor(10000);
         verify(staging.showSpkConnected);
@@ -88,7 +81,7 @@ TestCase {
         verify(staging.connectComplete);
     }
 
-    function test_timeOutAndLateCompletion(): void {
+    function test_completionAfterTheTimeOut(): void {
         test.cam = false;
         start();
         runFor(29500);
@@ -102,7 +95,7 @@ TestCase {
         verify(staging.connectComplete);
     }
 
-    function test_reconnectWaitsLongAgain(): void {
+    function test_reconnectionWaitsForTheFirstDeviceAgain(): void {
         start();
         runFor(7000);
         verify(staging.showMicConnected);

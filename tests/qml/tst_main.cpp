@@ -5,7 +5,7 @@
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-// Gives the pages what the program gives them, afresh for each test file.
+// Publishes to each test file what the program publishes to its pages. Each file gets new objects.
 class Setup : public QObject
 {
     Q_OBJECT
@@ -13,12 +13,12 @@ class Setup : public QObject
 public slots:
     void qmlEngineAvailable(QQmlEngine* engine)
     {
-        // Once for all files: adding a font frees what texts that are on the screen are drawn with.
+        // Once for all files: adding a font frees the font engines of texts that are on the screen.
         static const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
         const QString family = QFontDatabase::applicationFontFamilies(font).value(0);
         engine->rootContext()->setContextProperty(u"LatoRegular"_s, family);
         qmlRegisterUncreatableType<CameraControl>("VORNApp", 1, 0, "CameraControl", QString());
-        // The fixed UDP port is given back before it is taken again.
+        // The old rig first: it holds the fixed UDP port.
         m_rig.reset();
         m_rig.emplace();
         m_rig->publish(engine->rootContext());
@@ -30,6 +30,6 @@ private:
     std::optional<PageRig> m_rig;
 };
 
-QUICK_TEST_MAIN_WITH_SETUP(tst_pages, Setup)
+QUICK_TEST_MAIN_WITH_SETUP(tst_qml, Setup)
 
 #include "tst_main.moc"
