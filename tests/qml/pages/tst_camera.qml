@@ -38,15 +38,10 @@ DisplayTest {
             test.answer(0, "isReady", mode);
             compare(test.sent(), [...test.queries]);
         }
-        test.answer(0, "isReady", 0);
-        compare(test.sent(), []);
-    }
-
-    function test_pageCreatedAfterTheConnection(): void {
-        test.answer(0, "isReady", 1);
-        test.sent();
         createTemporaryObject(pageComponent, test);
         compare(test.sent(), [...test.queries]);
+        test.answer(0, "isReady", 0);
+        compare(test.sent(), []);
     }
 
     function test_cameraInUseShowsTheControls(): void {

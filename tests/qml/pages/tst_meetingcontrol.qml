@@ -37,55 +37,35 @@ DisplayTest {
         MeetingControl {}
     }
 
-    // Runs first because of its name: the first volume is reported only once.
-    function test_aFirstVolumeEnablesTheControls(): void {
-        const slider = test.control("volumeSlider") as Slider;
-        verify(!slider.enabled);
-        verify(slider.layer.enabled);
-        verify(test.control("volumeBadge").layer.enabled);
-        mouseClick(slider, 64, 20);
-        compare(test.sent(), []);
-
-        test.answer(1, "volume", 20);
-        verify(slider.enabled);
-        verify(!slider.layer.enabled);
-        verify(!test.control("volumeBadge").layer.enabled);
-        compare(slider.value, 20);
-        compare(test.control("fill").width, 128);
-        compare((test.control("volumeValue") as Text).text, "20%");
-        test.answer(1, "volume", 100);
-        compare(test.control("fill").width, 640);
-        compare(test.sent(), []);
-    }
-
     function volume(value: int): string {
         return `{"cmd":1,"seq":#,"type":2,"volume":${value}}`;
     }
 
-    function test_dragSetsTheVolumeOnce(): void {
-        test.answer(1, "volume", 20);
-        test.page.volumeKnown = true;
+    // Runs first because of its name: the first volume is reported only once.
+    function test_aFirstVolumeEnablesTheSlider(): void {
         const slider = test.control("volumeSlider") as Slider;
+        verify(!slider.enabled && slider.layer.enabled && test.control("volumeBadge").layer.enabled);
+        mouseClick(slider, 64, 20);
+        compare(test.sent(), []);
+
+        test.answer(1, "volume", 20);
+        verify(slider.enabled && !slider.layer.enabled && !test.control("volumeBadge").layer.enabled);
+        compare(test.control("fill").width, 128);
         mousePress(slider, 128, 26);
         for (let x = 128; x <= 384; x += 16)
             mouseMove(slider, x, 26);
-        compare(slider.value, 60);
         compare((test.control("volumeValue") as Text).text, "60%");
         compare(test.sent(), []);
         mouseRelease(slider, 384, 26);
         compare(test.sent(), [test.volume(60)]);
-        compare(deviceControl.volume, 60);
         verify(!slider.activeFocus);
-
-        mouseClick(slider, 64, 26);
-        compare(test.sent(), [test.volume(10)]);
         test.answer(1, "volume", 35);
         compare(slider.value, 35);
         compare(test.sent(), []);
 
         slider.forceActiveFocus();
         keyPress(Qt.Key_Right);
-        keyPress(Qt.Key_Right);
+        keyPress(Qt.Key_Right); // auto-repeat
         compare(test.sent(), []);
         keyRelease(Qt.Key_Right);
         compare(test.sent(), [test.volume(37)]);
