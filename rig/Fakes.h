@@ -19,7 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What surrounds DeviceControl, played by objects that remember what they were asked.
+// Fakes of the interfaces that DeviceControl uses. They record the calls.
 
 class FakeChannel : public MessageChannel
 {
@@ -40,7 +40,7 @@ public:
         return std::exchange(m_sent, {});
     }
 
-    /// Ids of what was sent since the last take.
+    /// Ids of the messages sent since the last take.
     QList<int> takeIds()
     {
         QList<int> ids;
@@ -62,7 +62,7 @@ public:
     void askToShow(bool show) override { note(show ? "show" : "hide"); }
     void askToShowCheckRemote(bool show) override { note(show ? "warn" : "no warning"); }
 
-    /// What was asked since the last take.
+    /// Calls since the last take.
     QByteArrayList take()
     {
         const std::scoped_lock lock(m_mutex);
@@ -160,7 +160,7 @@ public:
         cameraSwitch = sw;
     }
 
-    // To be read when no other thread reports.
+    // Read these only while no other thread reports.
     std::pair<bool, Direction> autoFraming{};
     std::pair<bool, Direction> smartFraming{};
     int cameraSwitch = -1;
@@ -169,7 +169,7 @@ private:
     std::mutex m_mutex;
 };
 
-/// Reports the three statuses that the test sets, once a pass.
+/// Reports the three states set by the test in each pass.
 class FakeDevices : public LocalDevices
 {
 public:
@@ -193,7 +193,7 @@ public:
     std::atomic<int> passes = 0;
 };
 
-/// A DeviceControl among fakes. Its tasks are collected from addTask, none is performed.
+/// A DeviceControl with fakes. Its tasks are not performed; tests collect them from addTask.
 struct DeviceWorld {
     /// @param ini  content of config.ini
     explicit DeviceWorld(const QByteArray& ini = {})
