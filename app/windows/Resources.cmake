@@ -5,7 +5,7 @@ set(VORN_VERSION_COMMAS
 set(VORN_PRODUCT_VERSION "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.${PROJECT_VERSION_PATCH}")
 set(manifest "${CMAKE_CURRENT_SOURCE_DIR}/windows/VORNApp.manifest")
 if(MSVC)
-  # The linker merges it with its own.
+  # The linker merges this manifest with the one that it generates.
   set(VORN_MANIFEST_RESOURCE "")
   target_sources(VORNApp PRIVATE "${manifest}")
 else()

@@ -1,4 +1,4 @@
-# VORNAppPlain: the program with one plain page in place of its own.
+# VORNAppPlain is the program with one plain page in place of its pages.
 set(page "${CMAKE_CURRENT_SOURCE_DIR}/windows/Main.qml")
 qt_add_executable(VORNAppPlain WIN32 "${CMAKE_SOURCE_DIR}/app/Main.cpp" "${CMAKE_BINARY_DIR}/app/VORNApp.rc")
 target_link_libraries(VORNAppPlain PRIVATE vorn_app vorn_platform vorn_logging vorn_revision vorn_compiled_qml)
