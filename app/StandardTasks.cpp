@@ -8,10 +8,28 @@
 namespace
 {
 
-void saveToStore(UserSettings& store, const QVariantList& args)
+using Kind = TaskQueue::Kind;
+using Outcome = TaskQueue::Outcome;
+
+/// For actions that are done with their first attempt.
+auto once(std::function<void(const QVariantList& args)> work)
 {
+    return [work = std::move(work)](const QVariantList& args, bool) {
+        work(args);
+        return Outcome::Done;
+    };
+}
+
+Outcome saveToStore(UserSettings& store, const QVariantList& args, bool isLastAttempt)
+{
+    const QString key = args.value(0).toString();
+    const QVariant value = args.value(1);
     const quint64 signIn = args.size() > 2 ? args.at(2).toULongLong() : store.currentSignIn();
-    store.saveUserData(args.value(0).toString(), args.value(1), signIn);
+    if (!isLastAttempt && store.trySaveUserData(key, value, signIn) == UserSettings::Saved::Locked)
+        return Outcome::TryAgain;
+    if (isLastAttempt)
+        store.saveUserData(key, value, signIn);
+    return Outcome::Done;
 }
 
 } // namespace
@@ -20,20 +38,23 @@ TaskQueue::Actions standardTasks(FileInfo& fileInfo, UserSettings& userSettings,
                                  MeetingLauncher& launcher)
 {
     return {
-        {keys::task::SaveRegistry,
-         [&fileInfo](const QVariantList& args) {
+        {keys::task::SaveRegistry, once([&fileInfo](const QVariantList& args) {
              fileInfo.saveRegistry(args.value(0).toString(), args.value(1).toString(),
                                    args.value(2));
-         }},
-        {keys::task::SaveConfig,
-         [&fileInfo](const QVariantList& args) {
+         }),
+         Kind::ValueWrite},
+        {keys::task::SaveConfig, once([&fileInfo](const QVariantList& args) {
              fileInfo.saveConfig(args.value(0).toString(), args.value(1).toString(), args.value(2));
-         }},
+         })},
         {keys::task::SaveUserData,
-         [&userSettings](const QVariantList& args) { saveToStore(userSettings, args); }},
-        {keys::task::LaunchZoom, [&launcher](const QVariantList&) { launcher.startZoom(); }},
-        {keys::task::LaunchTeams, [&launcher](const QVariantList&) { launcher.startTeams(); }},
+         [&userSettings](const QVariantList& args, bool isLastAttempt) {
+             return saveToStore(userSettings, args, isLastAttempt);
+         }},
+        {keys::task::LaunchZoom, once([&launcher](const QVariantList&) { launcher.startZoom(); }),
+         Kind::Launch},
+        {keys::task::LaunchTeams, once([&launcher](const QVariantList&) { launcher.startTeams(); }),
+         Kind::Launch},
         {keys::task::LaunchGoogleMeeting,
-         [&launcher](const QVariantList&) { launcher.openGoogleMeeting(); }},
+         once([&launcher](const QVariantList&) { launcher.openGoogleMeeting(); }), Kind::Launch},
     };
 }

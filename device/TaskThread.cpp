@@ -27,8 +27,17 @@ void TaskThread::start(TaskQueue::Actions actions)
 
 void TaskThread::requestStop()
 {
-    m_thread.requestInterruption();
-    m_thread.quit();
+    if (m_isStopRequested.exchange(true))
+        return;
+    m_thread.requestInterruption(); // ends waits within a task
+    // Queued like the tasks, and so behind those posted so far.
+    QMetaObject::invokeMethod(
+        &m_queue,
+        [this] {
+            m_queue.finish();
+            m_thread.quit();
+        },
+        Qt::QueuedConnection);
 }
 
 void TaskThread::end()

@@ -18,13 +18,15 @@ public:
     TaskQueue& queue() { return m_queue; }
     /// Starts the thread. Tasks that were posted before run then.
     void start(TaskQueue::Actions actions);
-    /// Asks the thread to end, without waiting for it. Any thread.
+    /// Asks the thread to end once it has performed the writes posted so far, without waiting for
+    /// it. Any thread.
     void requestStop();
-    /// Asks the thread to end and waits for the task that it runs. Any thread but the queue's.
+    /// Asks the thread to end and waits for it. Any thread but the queue's.
     void end();
 
 private:
     TaskQueue m_queue; // the queue's thread, once it runs
     QThread m_thread;
+    std::atomic<bool> m_isStopRequested = false;
     std::atomic<bool> m_hasEnded = false;
 };

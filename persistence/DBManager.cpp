@@ -2,7 +2,6 @@
 
 #include "logging/Log.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QHash>
 #include <QSqlError>
@@ -21,8 +20,6 @@ constexpr auto kMainPatience = 1000ms;
 constexpr auto kMainPatienceWhileLocked = 10ms;
 constexpr auto kThreadPatience = 200ms;
 // How long a write off the main thread is tried again, letting others at the file in between.
-constexpr auto kWritePatience = 3s;
-constexpr unsigned long kPauseMs = 20;
 
 /// The connections that a thread other than the main one has opened, by DBManager; removed by that
 /// very thread when it ends, as Qt demands.
@@ -237,21 +234,18 @@ bool DBManager::saveUserData(const QString& key, const QVariant& value)
 
 bool DBManager::saveUserData(const QString& key, const QVariant& value, quint64 signIn)
 {
-    const QDeadlineTimer patience(isOnMainThread() ? 0s : kWritePatience);
-    while (true) {
-        {
-            const std::scoped_lock lock(m_mutex);
-            if (signIn != m_signIn) {
-                Log::info("DBManager::saveUserData") << "signed out meanwhile, dropped key:" << key;
-                return true;
-            }
-            const Attempt attempt = attemptStore(key, value);
-            if (attempt.outcome != Attempt::Outcome::Locked || patience.hasExpired() ||
-                QThread::currentThread()->isInterruptionRequested())
-                return report(attempt);
-        }
-        QThread::msleep(kPauseMs); // or the main thread would not get its turn
-    }
+    const std::scoped_lock lock(m_mutex);
+    return report(attemptStore(key, value, signIn));
+}
+
+UserSettings::Saved DBManager::trySaveUserData(const QString& key, const QVariant& value,
+                                               quint64 signIn)
+{
+    const std::scoped_lock lock(m_mutex);
+    const Attempt attempt = attemptStore(key, value, signIn);
+    if (attempt.outcome == Attempt::Outcome::Locked)
+        return Saved::Locked;
+    return report(attempt) ? Saved::Done : Saved::Failed;
 }
 
 bool DBManager::clearUserData()
@@ -263,6 +257,15 @@ bool DBManager::clearUserData()
     if (m_clearingIsDue)
         noteClearing();
     return report(clearing);
+}
+
+DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value,
+                                           quint64 signIn)
+{
+    if (signIn == m_signIn)
+        return attemptStore(key, value);
+    Log::info("DBManager::saveUserData") << "signed out meanwhile, dropped key:" << key;
+    return {};
 }
 
 DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value)

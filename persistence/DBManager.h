@@ -42,6 +42,7 @@ public:
     /// Stores one value, whichever sign-in it belongs to.
     bool saveUserData(const QString& key, const QVariant& value);
     bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) override;
+    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override;
     bool clearUserData() override;
     quint64 currentSignIn() const override { return m_signIn; }
 
@@ -64,6 +65,7 @@ private:
     Attempt attemptOpen(const QString& sql, const QMap<QString, QVariant>& params);
     Attempt run(QSqlQuery& query, const QString& sql, const QMap<QString, QVariant>& params);
     Attempt attemptStore(const QString& key, const QVariant& value);
+    Attempt attemptStore(const QString& key, const QVariant& value, quint64 signIn);
     Attempt attemptClear();
     Attempt catchUp();
     void adaptPatience(bool isLocked);

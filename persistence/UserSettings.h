@@ -11,12 +11,16 @@
 class UserSettings
 {
 public:
+    enum class Saved { Done, Failed, Locked };
+
     virtual ~UserSettings() = default;
 
     /// The stored value, or `defaultValue` when there is none or the store cannot be read.
     virtual QVariant getUserData(const QString& key, const QVariant& defaultValue) = 0;
     /// Stores one value; a write of an ended sign-in is dropped and counts as done.
     virtual bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
+    /// The same, but a store that another program has locked is no failure yet and is not logged.
+    virtual Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
     /// Removes every value and ends the current sign-in.
     virtual bool clearUserData() = 0;
     /// Number of the current sign-in, to be handed to saveUserData(). Any thread.

@@ -17,10 +17,11 @@ class RecordingStore : public UserSettings
 {
 public:
     QVariant getUserData(const QString&, const QVariant& value) override { return value; }
-    bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) override
+    bool saveUserData(const QString&, const QVariant&, quint64) override { return false; }
+    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override
     {
         writes.append({key, value, signIn});
-        return false;
+        return Saved::Failed;
     }
     bool clearUserData() override { return false; }
     quint64 currentSignIn() const override { return 7; }

@@ -11,9 +11,10 @@
 /// The task that writes to a store. The store is asked for when the task runs.
 inline TaskQueue::Actions storeTask(std::function<UserSettings&()> store)
 {
-    return {{keys::task::SaveUserData, [store = std::move(store)](const QVariantList& args) {
+    return {{keys::task::SaveUserData, [store = std::move(store)](const QVariantList& args, bool) {
                  store().saveUserData(args.value(0).toString(), args.value(1),
                                       args.value(2).toULongLong());
+                 return TaskQueue::Outcome::Done;
              }}};
 }
 
@@ -25,9 +26,11 @@ class Poster : public QObject
 public:
     explicit Poster(TaskQueue::Actions actions)
     {
-        actions.emplace_back(QStringLiteral("drained"), [this](const QVariantList&) {
-            QMetaObject::invokeMethod(this, &Poster::drained, Qt::QueuedConnection);
-        });
+        actions.push_back({QStringLiteral("drained"), [this](const QVariantList&, bool) {
+                               QMetaObject::invokeMethod(this, &Poster::drained,
+                                                         Qt::QueuedConnection);
+                               return TaskQueue::Outcome::Done;
+                           }});
         m_queue = std::make_unique<TaskQueue>(std::move(actions));
         m_queue->moveToThread(&m_thread);
         connect(this, &Poster::addTask, m_queue.get(), &TaskQueue::addTask);

@@ -44,8 +44,7 @@ private slots:
     void connectionEndsWithItsThread();
     void threadOutlivesStore();
     void signOutBeatsPendingWrites();
-    void writeWaitsForALockedFile_data();
-    void writeWaitsForALockedFile();
+    void aLockedFileIsReportedWhileItIsLocked();
 
 private:
     std::optional<QTemporaryDir> m_dir;
@@ -134,31 +133,18 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
     }
 }
 
-void TestDBManagerThreads::writeWaitsForALockedFile_data()
+void TestDBManagerThreads::aLockedFileIsReportedWhileItIsLocked()
 {
-    QTest::addColumn<bool>("isInterrupted");
-    QTest::newRow("until it is free") << false;
-    QTest::newRow("until its thread has to end") << true;
-}
-
-void TestDBManagerThreads::writeWaitsForALockedFile()
-{
-    QFETCH(const bool, isInterrupted);
+    using enum UserSettings::Saved;
     DBManager db(m_path);
     QVERIFY(db.execQuery(u"BEGIN EXCLUSIVE"_s, {})); // another connection than the thread's
-    bool isDone = false;
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&] { isDone = db.saveUserData(u"a"_s, 1, db.currentSignIn()); }));
-    thread->start();
-    QVERIFY(!thread->wait(500)); // longer than one statement waits
-    if (isInterrupted)
-        thread->requestInterruption();
-    else
-        QVERIFY(db.execQuery(u"COMMIT"_s, {})); // while the thread waits
-    QVERIFY(thread->wait());
-    QCOMPARE(isDone, !isInterrupted);
-    if (isInterrupted)
-        QVERIFY(db.execQuery(u"COMMIT"_s, {}));
+    auto saved = Done;
+    const auto save = [&] { saved = db.trySaveUserData(u"a"_s, 1, db.currentSignIn()); };
+    std::thread(save).join();
+    QCOMPARE(saved, Locked);
+    QVERIFY(db.execQuery(u"COMMIT"_s, {}));
+    std::thread(save).join();
+    QCOMPARE(saved, Done);
 }
 
 QTEST_GUILESS_MAIN(TestDBManagerThreads)
