@@ -45,7 +45,7 @@ DeviceControl::Services Program::deviceServices(const QString& executablePath)
             .channel = m_channel,
             .windows = *m_windowManager,
             .programs = m_programs,
-            .versionValue = installedVersionValue,
+            .registryValue = installedVersionValue,
             .localDevices = std::make_unique<DeviceCheck>(),
             .rulesPath = settingsFile(u"config.json"_s),
             .executablePath = executablePath};

@@ -5,6 +5,8 @@
 #include "persistence/FileInfo.h"
 #include "persistence/Keys.h"
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 
@@ -38,7 +40,7 @@ DeviceControl::DeviceControl(Services services, Timing timing)
     , m_display(services.channel, services.windows)
     , m_remoteDevice(services.config, m_display)
     , m_status({.programs = services.programs,
-                .versionValue = std::move(services.versionValue),
+                .registryValue = std::move(services.registryValue),
                 .localDevices = std::move(services.localDevices),
                 .executablePath = services.executablePath,
                 .channel = services.channel,
@@ -57,8 +59,6 @@ DeviceControl::~DeviceControl()
     Log::info("DeviceControl::~DeviceControl") << "~DeviceControl";
     if (s_instance == this)
         s_instance = nullptr;
-    m_programs.killProcess(CompanionProgram, {});
-    m_remoteDevice.stopTimer();
     endThreads();
 }
 
@@ -75,6 +75,7 @@ void DeviceControl::start(TaskQueue::Actions tasks, UserSettings& userSettings,
                           CameraReports& camera)
 {
     m_tasks.start(std::move(tasks));
+    m_remoteDevice.reconcile(m_status.readRegistry(keys::registry::DisableLocalDevices) == "1"_L1);
     m_profile.restore(userSettings);
     m_receiver.emplace(m_channel, m_display, camera);
     m_pointer.bind();
@@ -86,6 +87,9 @@ void DeviceControl::start(TaskQueue::Actions tasks, UserSettings& userSettings,
 /// All are asked first, so that they end side by side.
 void DeviceControl::endThreads()
 {
+    if (!m_isCompanionEnded.exchange(true))
+        m_programs.killProcess(CompanionProgram, {});
+    m_remoteDevice.release();
     m_pointer.requestStop();
     m_status.requestStop();
     m_screen.requestStop();
@@ -105,7 +109,7 @@ void DeviceControl::forward(const Part& part, void (Part::*from)(Args...),
 
 void DeviceControl::forwardSignals()
 {
-    forward(m_display, &DisplayState::connectModeChanged, &DeviceControl::connectModeChanged);
+    connect(&m_display, &DisplayState::connectModeChanged, this, &DeviceControl::showConnectModes);
     forward(m_display, &DisplayState::volumeReady, &DeviceControl::volumeReady);
     forward(m_display, &DisplayState::volumeChanged, &DeviceControl::volumeChanged);
     forward(m_display, &DisplayState::byodSwitchChanged, &DeviceControl::byodSwitchChanged);
@@ -134,6 +138,16 @@ void DeviceControl::forwardSignals()
     forward(m_profile, &UserProfile::userIdChanged, &DeviceControl::userIdChanged);
     forward(m_profile, &UserProfile::addTask, &DeviceControl::addTask);
     connect(this, &DeviceControl::addTask, &m_tasks.queue(), &TaskQueue::addTask);
+}
+
+/// A display that is replaced reports 0 and 1 within one turn of the event loop. The pages react to
+/// each.
+void DeviceControl::showConnectModes()
+{
+    while (const auto mode = m_display.takeConnectMode()) {
+        m_shownMode = *mode;
+        emit connectModeChanged();
+    }
 }
 
 int DeviceControl::DealChannelMsg(int id, const std::string& msg)

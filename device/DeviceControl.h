@@ -14,11 +14,9 @@
 #include <optional>
 
 /// The object through which the user interface sees and drives the display: the properties, signals
-/// and operations of its parts under one name.
-///
-/// Made, started and destroyed on the main thread, which also calls the operations. Setters of the
-/// display's state, the versions and the frame index may be called from any thread; their signals
-/// are emitted on it and reach QML queued.
+/// and operations of its parts under one name. Made, started, used and destroyed on the main
+/// thread. Setters of the display's state, the versions and the frame index may be called from any
+/// thread; their signals are emitted on it and reach QML queued.
 class DeviceControl : public QObject
 {
     Q_OBJECT
@@ -64,7 +62,7 @@ public:
         MessageChannel& channel;
         WindowRequests& windows;
         ProgramControl& programs;
-        std::function<QString(const QString& name)> versionValue; ///< as for StatusLoop
+        std::function<QString(const QString& name)> registryValue; ///< as for StatusLoop
         std::unique_ptr<LocalDevices> localDevices;
         QString rulesPath;
         QString executablePath; ///< of this program, passed to the updater
@@ -75,10 +73,10 @@ public:
     explicit DeviceControl(Services services, Timing timing = {});
     ~DeviceControl() override;
 
-    /// Restores the signed-in user and starts the threads. Once. References have to outlive this
-    /// object.
+    /// Restores the signed-in user and starts the threads. Once.
     void start(TaskQueue::Actions tasks, UserSettings& userSettings, CameraReports& camera);
-    /// Ends all threads of this object, which is passive from then on. Any thread but those.
+    /// Ends the companion program and all threads of this object, which is passive from then on.
+    /// The registry value is reset and waiting settings are written before. Any thread but those.
     void endThreads();
 
     /// The program's object. Serves the channel library's callback only.
@@ -89,7 +87,7 @@ public:
     int handleChannelMessage(int id, const std::string& msg);
 
     // For all setters with a direction: 0 = changed by this program, 1 = reported by the display.
-    Q_INVOKABLE int connectMode() const { return int(m_display.connectMode()); }
+    Q_INVOKABLE int connectMode() const { return int(m_shownMode.load()); }
     Q_INVOKABLE int volume() const { return m_display.volume(); }
     Q_INVOKABLE void setVolume(int newVolume, int direction = 0);
     Q_INVOKABLE int byodSwitch() const { return int(m_display.byodSwitch()); }
@@ -202,12 +200,17 @@ private:
     template <typename Part, typename... Args>
     void forward(const Part& part, void (Part::*from)(Args...), void (DeviceControl::*to)(Args...));
     void forwardSignals();
+    void showConnectModes();
     void adoptConfig(const FileInfo& config);
     void saveConfigValue(QLatin1StringView key, bool value);
 
     MessageChannel& m_channel;
     ProgramControl& m_programs;
     const QString m_configPath;
+
+    /// The connection mode as the pages see it: every change in order, on the main thread.
+    std::atomic<ConnectMode> m_shownMode = ConnectMode::None;
+    std::atomic<bool> m_isCompanionEnded = false;
 
     // Main thread only.
     LoggedValue<bool> m_supportLaunchZoom;

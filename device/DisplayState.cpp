@@ -30,13 +30,27 @@ DisplayState::DisplayState(MessageChannel& channel, WindowRequests& windows)
 
 void DisplayState::setConnectMode(ConnectMode mode)
 {
-    if (!m_connectMode.set(mode))
-        return;
+    {
+        const std::scoped_lock lock(m_modesMutex);
+        if (!m_connectMode.set(mode))
+            return;
+        m_modes.push_back(mode);
+    }
     emit connectModeChanged();
     if (mode == ConnectMode::None)
         resetDisplay();
     else
         requestWindow(mode);
+}
+
+std::optional<ConnectMode> DisplayState::takeConnectMode()
+{
+    const std::scoped_lock lock(m_modesMutex);
+    if (m_modes.empty())
+        return std::nullopt;
+    const ConnectMode oldest = m_modes.front();
+    m_modes.pop_front();
+    return oldest;
 }
 
 /// The window comes forward, with a warning when the display's firmware is not supported.

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <deque>
+
 class MessageChannel;
 class WindowRequests;
 
@@ -22,6 +24,8 @@ public:
     DisplayState(MessageChannel& channel, WindowRequests& windows);
 
     ConnectMode connectMode() const { return m_connectMode.get(); }
+    /// The oldest change of the mode that was not taken yet.
+    std::optional<ConnectMode> takeConnectMode();
     int volume() const { return m_volume.get(); }
     SourceState byodSwitch() const { return m_byodSwitch.get(); }
     SourceState zoomSwitch() const { return m_zoomSwitch.get(); }
@@ -71,6 +75,10 @@ private:
 
     MessageChannel& m_channel;
     WindowRequests& m_windows;
+
+    // Holds the changes of the mode in their order.
+    std::mutex m_modesMutex;
+    std::deque<ConnectMode> m_modes; // under m_modesMutex
 
     // Each guarded by its own mutex.
     LoggedValue<ConnectMode> m_connectMode;

@@ -54,7 +54,27 @@ void RemoteDeviceSwitch::applyUseRemoteDevice(bool force)
 void RemoteDeviceSwitch::saveDisableLocalDevices()
 {
     const std::scoped_lock order(m_saveOrderMutex);
-    const bool disable = useRemoteDevice() && m_display.byodSwitch() == SourceState::Selected;
+    post(useRemoteDevice() && m_display.byodSwitch() == SourceState::Selected);
+}
+
+void RemoteDeviceSwitch::reconcile(bool written)
+{
+    const std::scoped_lock order(m_saveOrderMutex);
+    if (written != m_isDisablePosted)
+        saveDisableLocalDevices();
+}
+
+void RemoteDeviceSwitch::release()
+{
+    const std::scoped_lock order(m_saveOrderMutex);
+    if (m_isDisablePosted)
+        post(false);
+}
+
+/// With m_saveOrderMutex held.
+void RemoteDeviceSwitch::post(bool disable)
+{
+    m_isDisablePosted = disable;
     emit addTask(keys::task::SaveRegistry,
                  {keys::registry::Path, keys::registry::DisableLocalDevices, disable});
 }

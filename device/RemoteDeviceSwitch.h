@@ -32,8 +32,10 @@ public:
     /// again. Main thread.
     /// @param force  write also when the setting is the one that was written last
     void applyUseRemoteDevice(bool force);
-    /// Ends the interval. Main thread.
-    void stopTimer() { m_applyTimer.stop(); }
+    /// Writes the registry value unless it is the one given, which an earlier run may have left.
+    void reconcile(bool written);
+    /// Writes 0, so that no device stays switched off after the end of the program. Any thread.
+    void release();
 
 signals:
     void useRemoteDeviceChecked();
@@ -41,6 +43,7 @@ signals:
 
 private:
     void saveDisableLocalDevices();
+    void post(bool disable);
 
     const FileInfo& m_config;
     DisplayState& m_display;
@@ -49,6 +52,7 @@ private:
     /// Held while the registry value is computed and posted, so that the task posted last has the
     /// newest state. Recursive, since a slot connected directly to addTask() may set the source.
     std::recursive_mutex m_saveOrderMutex;
+    bool m_isDisablePosted = false; // under m_saveOrderMutex
 
     // Main thread only.
     bool m_useRemoteDeviceLast = true;

@@ -82,7 +82,7 @@ void StatusLoop::setNewVersion(const QString& newVersion)
 
 void StatusLoop::loadVersion()
 {
-    const QString value = m_services.versionValue(keys::registry::InstalledVersion);
+    const QString value = m_services.registryValue(keys::registry::InstalledVersion);
     if (value == version() || value.isEmpty())
         return;
     Log::info("DeviceControl::loadVersion")
@@ -92,7 +92,7 @@ void StatusLoop::loadVersion()
 
 void StatusLoop::loadNewVersion()
 {
-    const QString value = m_services.versionValue(keys::registry::NewVersion);
+    const QString value = m_services.registryValue(keys::registry::NewVersion);
     if (value == newVersion() || value.isEmpty())
         return;
     Log::info("DeviceControl::loadNewVersion")

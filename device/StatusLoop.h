@@ -27,7 +27,7 @@ public:
         ProgramControl& programs;
         /// Reads the registry value of this name; empty when there is none. Status worker and main
         /// thread.
-        std::function<QString(const QString& name)> versionValue;
+        std::function<QString(const QString& name)> registryValue;
         std::unique_ptr<LocalDevices> localDevices;
         /// File path of this program, passed to the updater.
         QString executablePath;
@@ -52,6 +52,7 @@ public:
     void end();
 
     // Any thread.
+    QString readRegistry(const QString& name) const { return m_services.registryValue(name); }
     QString version() const { return m_version.get(); }
     QString newVersion() const { return m_newVersion.get(); }
     void setVersion(const QString& newVersion);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A version that the updater records in the registry, empty when there is none. The program only
-/// reads them. Any thread.
-/// @param name  keys::registry::InstalledVersion or NewVersion
+/// A value of the program's registry key as text, empty when there is none; used for the versions
+/// that the updater records. Any thread.
+/// @param name  one of keys::registry
 [[nodiscard]] QString installedVersionValue(const QString& name);

@@ -127,6 +127,10 @@ public:
             values[key] = value;
         return true;
     }
+    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override
+    {
+        return saveUserData(key, value, signIn) ? Saved::Done : Saved::Failed;
+    }
     bool clearUserData() override
     {
         values.clear();
@@ -193,7 +197,7 @@ public:
     std::atomic<int> passes = 0;
 };
 
-/// A DeviceControl with fakes. Its tasks are not performed; tests collect them from addTask.
+/// A DeviceControl with fakes. Posted tasks do nothing unless the test says what they do.
 struct DeviceWorld {
     /// @param ini  content of config.ini
     explicit DeviceWorld(const QByteArray& ini = {})
@@ -217,7 +221,7 @@ struct DeviceWorld {
                                     .channel = channel,
                                     .windows = windows,
                                     .programs = programs,
-                                    .versionValue =
+                                    .registryValue =
                                         [this](const QString& name) {
                                             const std::scoped_lock lock(versionsMutex);
                                             return versions.value(name);
@@ -227,7 +231,7 @@ struct DeviceWorld {
                                     .executablePath = QStringLiteral("/opt/VORNApp")},
             DeviceControl::Timing{.statusPass = std::chrono::milliseconds(1),
                                   .pauseAfterUpdaterKill = std::chrono::milliseconds(20)});
-        device->start({}, settings, *cameraReports);
+        device->start(tasks, settings, *cameraReports);
         return *device;
     }
 
@@ -237,6 +241,7 @@ struct DeviceWorld {
         versions[name] = value;
     }
 
+    TaskQueue::Actions tasks;
     QTemporaryDir folder;
     FakeChannel channel;
     FakeWindows windows;

@@ -44,6 +44,13 @@ public:
     QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
     QString path() const { return m_folder.path(); }
 
+    /// Content of the file that stands for the registry.
+    QByteArray registry() const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("config/VORNApp/registry.ini")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     /// Starts the program; its log is what it writes to standard error.
     std::unique_ptr<QProcess> start(const QString& platform,
                                     const QString& program = QStringLiteral(VORN_PROGRAM)) const

@@ -106,8 +106,14 @@ void tst_StartAndQuit::endsWithItsScreen()
         ProgramHome home;
         home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
         DisplayEnd display(home);
+        QVERIFY(QFile::copy(u"/bin/sleep"_s, home.path() + "/BridgeAgent"_L1));
+        QProcess companion;
+        companion.start(home.path() + "/BridgeAgent"_L1, {u"1000"_s});
         const auto program = home.start(u"xcb"_s);
-        QVERIFY(display.nextProgram());
+        QLocalSocket* const connection = display.nextProgram();
+        QVERIFY(connection);
+        connection->write("6 {\"cmd\":6,\"type\":2,\"byod_status\":2}\n");
+        QTRY_VERIFY_WITH_TIMEOUT(home.registry().contains("disable_local_dev=1"), Patience);
         screen.kill();
         QVERIFY(screen.waitForFinished(Patience));
         QVERIFY(program->waitForFinished(Patience));
@@ -119,6 +125,8 @@ void tst_StartAndQuit::endsWithItsScreen()
         }
         QVERIFY2(log.contains("[main]ended from outside, without quitting"), log.constData());
         QCOMPARE(log.count("]thread end"), 3);
+        QVERIFY(home.registry().contains("disable_local_dev=0"));
+        QVERIFY(companion.waitForFinished(Patience));
         QVERIFY(QDir(home.path()).entryList({u"*.dmp"_s}).isEmpty());
     }
 }

@@ -6,6 +6,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <future>
+#include <thread>
+
 /// The facade: that each name reaches its part, and that the parts start and end together.
 class tst_DeviceControl : public QObject
 {
@@ -16,6 +19,7 @@ private slots:
     void readOnlyPropertiesSignalUnderTheirNames();
     void adoptsTheConfigurationAtStart();
     void repliesUnderTheIdOfTheMessage();
+    void connectModesReachThePagesInOrder();
     void startsAndEndsItsThreads();
 };
 
@@ -90,14 +94,54 @@ void tst_DeviceControl::repliesUnderTheIdOfTheMessage()
              R"(DealChannelMsg recv :nonsense\n\x1b\xc2\x85\xe2\x80\xa8é)"_s);
 }
 
+void tst_DeviceControl::connectModesReachThePagesInOrder()
+{
+    DeviceWorld world;
+    DeviceControl& device = world.start();
+    QList<int> seen;
+    connect(&device, &DeviceControl::connectModeChanged, &device,
+            [&] { seen += device.property("connectMode").toInt(); });
+    device.setConnectMode(2);
+    std::thread([&device] {
+        for (const char* mode : {"1", "0", "1"})
+            device.handleChannelMessage(0, R"({"cmd":0,"type":1,"isReady":)" + std::string(mode) +
+                                               "}");
+    }).join();
+    QTRY_COMPARE(seen, (QList<int>{2, 1, 0, 1}));
+}
+
+/// Of the tasks that wait at the end, writes are performed and launches discarded.
 void tst_DeviceControl::startsAndEndsItsThreads()
 {
     DeviceWorld world;
+    world.setVersion(u"disable_local_dev"_s, u"1"_s); // as a killed run leaves it
+    std::promise<void> started;
+    QStringList performed;
+    const auto note = [&](const QVariantList& args, bool) {
+        performed += args.last().toString();
+        return TaskQueue::Outcome::Done;
+    };
+    const auto untilTheEnd = [&](const QVariantList&, bool) {
+        started.set_value();
+        while (!QThread::currentThread()->isInterruptionRequested())
+            QThread::yieldCurrentThread();
+        return TaskQueue::Outcome::Done;
+    };
+    world.tasks = {{u"saveRegistry"_s, note, TaskQueue::Kind::ValueWrite},
+                   {u"saveConfig"_s, untilTheEnd},
+                   {u"launchTeams"_s, note, TaskQueue::Kind::Launch}};
     LogCapture log;
-    world.start();
+    DeviceControl& device = world.start();
+    device.setSupportLaunchTeams(false);
+    started.get_future().wait();
+    device.launchTeams();
+    device.setByodSwitch(2, 1);
     world.device.reset();
+    QCOMPARE(performed, (QStringList{u"false"_s, u"false"_s}));
     QVERIFY(world.programs.calls().contains(u"kill BridgeAgent.exe"_s));
+
     const QStringList lines = log.take();
+    QVERIFY(lines.contains(u"W TaskQueue::finish discarded:launchTeams"_s));
     QCOMPARE(lines.filter(u"thread start"_s).size(), 3);
     QCOMPARE(lines.filter(u"thread end"_s).size(), 3);
     QVERIFY(lines.indexOf(u"I TaskQueue::~TaskQueue ~TaskQueue"_s) >

@@ -142,6 +142,20 @@ void tst_DisplayState::everyChangeOfTheSourceIsWritten()
     display.setByodSwitch(SourceState::Available, FromDisplay);
     QCOMPARE(registryWrites(tasks), (QList<bool>{true, false, true, false}));
     QCOMPARE(tasks.count(), 4);
+
+    // No device stays switched off after the end of the program, nor after a crash.
+    setting.release(); // is off already
+    setting.setUseRemoteDevice(true, FromDisplay);
+    display.setByodSwitch(Selected, FromDisplay);
+    setting.release();
+    setting.release();
+    QCOMPARE(registryWrites(tasks).mid(4), (QList<bool>{true, false}));
+    RemoteDeviceSwitch restarted(config, display);
+    QSignalSpy restartedTasks(&restarted, &RemoteDeviceSwitch::addTask);
+    display.setByodSwitch(Unavailable, FromDisplay);
+    restarted.reconcile(false);
+    restarted.reconcile(true);
+    QCOMPARE(registryWrites(restartedTasks), (QList<bool>{false, false}));
     m_channel.take();
 }
 
