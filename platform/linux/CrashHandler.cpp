@@ -27,23 +27,23 @@ namespace
 using platform::Crash;
 using platform::FixedText;
 
-constexpr std::array kFatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
-constexpr int kPollMs = 5;
-constexpr int kLogPatienceMs = 1'000;
-constexpr int kOtherCrashPatienceMs = 5'000;
-constexpr int kOffsetIntervalSeconds = 600;
+constexpr std::array FatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
+constexpr int PollMs = 5;
+constexpr int LogPatienceMs = 1'000;
+constexpr int OtherCrashPatienceMs = 5'000;
+constexpr int OffsetIntervalSeconds = 600;
 
-std::array<struct sigaction, kFatalSignals.size()> g_previous;
+std::array<struct sigaction, FatalSignals.size()> g_previous;
 std::terminate_handler g_previousTerminate = nullptr;
 
-// Found out before anything crashes, since a handler may not.
+// Read before a crash, because a signal handler must not read them.
 FixedText g_program;
 std::atomic<long> g_utcOffset{0};
 
 std::atomic<pid_t> g_reporter{0}; // the thread that crashed first
 std::atomic<bool> g_reported{false};
 
-void noteUtcOffset()
+void updateUtcOffset()
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
@@ -51,8 +51,8 @@ void noteUtcOffset()
         g_utcOffset = local.tm_gmtoff;
 }
 
-/// Writes the log lines. The crashed thread may hold the logger's lock or the heap's, so it takes
-/// neither: a thread that has waited for this moment writes, and is not waited for long.
+/// Writes the log lines on a thread of its own. The crashed thread may hold the lock of the logger
+/// or of the heap, so it uses neither, and waits for this thread only for a bounded time.
 struct LogWriter {
     platform::CrashLine writeLine = nullptr;
     sem_t wake{};
@@ -62,7 +62,7 @@ struct LogWriter {
     void run()
     {
         while (!isWoken())
-            noteUtcOffset(); // the program may run from winter into summer
+            updateUtcOffset(); // it changes with daylight saving time
         writeLine("Creating dump file...");
         writeLine(outcome.c_str());
         done = true;
@@ -73,7 +73,7 @@ private:
     {
         timespec until = {};
         ::clock_gettime(CLOCK_MONOTONIC, &until);
-        until.tv_sec += kOffsetIntervalSeconds;
+        until.tv_sec += OffsetIntervalSeconds;
         int result = 0;
         do
             result = ::sem_clockwait(&wake, CLOCK_MONOTONIC, &until);
@@ -85,8 +85,8 @@ LogWriter g_log;
 
 void waitUntil(const std::atomic<bool>& flag, int patienceMs)
 {
-    for (int waited = 0; !flag && waited < patienceMs; waited += kPollMs)
-        ::poll(nullptr, 0, kPollMs);
+    for (int waited = 0; !flag && waited < patienceMs; waited += PollMs)
+        ::poll(nullptr, 0, PollMs);
 }
 
 void writeFile(const Crash& crash)
@@ -106,23 +106,23 @@ void writeFile(const Crash& crash)
         outcome << "Dump file created successfully at:" << name.view();
 }
 
-// One report a process, of the first crash: what another thread does meanwhile is its consequence.
+// Only the first crash is reported; later ones are probably consequences of it.
 void report(Crash crash)
 {
     crash.thread = ::gettid();
-    pid_t nobody = 0;
-    if (!g_reporter.compare_exchange_strong(nobody, crash.thread)) {
-        if (nobody !=
-            crash.thread) // otherwise the report itself has crashed, or is followed by abort()
-            waitUntil(g_reported, kOtherCrashPatienceMs);
+    pid_t reporter = 0;
+    if (!g_reporter.compare_exchange_strong(reporter, crash.thread)) {
+        // On the reporting thread itself this is a crash of the report, or the abort() after it.
+        if (reporter != crash.thread)
+            waitUntil(g_reported, OtherCrashPatienceMs);
         return;
     }
     crash.program = g_program.view();
     crash.process = ::getpid();
-    crash.time = platform::localTime(std::time(nullptr), g_utcOffset);
+    crash.time = platform::LocalTime(std::time(nullptr), g_utcOffset);
     writeFile(crash);
     ::sem_post(&g_log.wake);
-    waitUntil(g_log.done, kLogPatienceMs);
+    waitUntil(g_log.done, LogPatienceMs);
     g_reported = true;
 }
 
@@ -136,20 +136,20 @@ void onFatalSignal(int signal, siginfo_t* info, void* context)
     crash.info = info;
     crash.context = context;
     report(crash);
-    for (std::size_t i = 0; i < kFatalSignals.size(); ++i) {
-        if (kFatalSignals[i] == signal)
+    for (std::size_t i = 0; i < FatalSignals.size(); ++i) {
+        if (FatalSignals[i] == signal)
             platform::passOn(signal, info, context, g_previous[i]);
     }
     errno = savedError;
 }
 
-// Type and text of the exception in flight.
+// Type and text of the exception that is being handled.
 FixedText describeException()
 {
     FixedText text;
     const std::type_info* const type = abi::__cxa_current_exception_type();
     if (!type) {
-        text << "none; the program was told to terminate";
+        text << "none; std::terminate() was called";
         return text;
     }
     int status = 0;
@@ -160,7 +160,7 @@ FixedText describeException()
         throw;
     } catch (const std::exception& exception) {
         text << ": " << exception.what();
-    } catch (...) { // the type's name has to do
+    } catch (...) { // of such an exception only the type is known
     }
     return text;
 }
@@ -179,17 +179,16 @@ FixedText describeException()
 void prepare(platform::CrashLine writeLine)
 {
     g_program << program_invocation_short_name;
-    noteUtcOffset();
+    updateUtcOffset();
 
-    // The first backtrace loads the unwinder's library, which allocates.
+    // The first call of backtrace() loads a library and allocates memory.
     void* frame = nullptr;
     ::backtrace(&frame, 1);
     platform::loadProgramSymbols();
 
     g_log.writeLine = writeLine;
     ::sem_init(&g_log.wake, 0, 0);
-    // It sleeps until a crash and touches nothing that is ever destroyed, hence it can be left
-    // behind.
+    // Detached: it waits until a crash and uses only objects that are never destroyed.
     std::thread([] { g_log.run(); }).detach();
 }
 
@@ -204,11 +203,11 @@ void installCrashHandler(CrashLine writeLine)
     ensureAlternateStack();
     struct sigaction action = {};
     action.sa_sigaction = onFatalSignal;
-    // Not deferred, so that a handler that crashes itself comes here again.
+    // SA_NODEFER, so that a crash inside the handler enters it again.
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
     sigemptyset(&action.sa_mask);
-    for (std::size_t i = 0; i < kFatalSignals.size(); ++i)
-        sigaction(kFatalSignals[i], &action, &g_previous[i]);
+    for (std::size_t i = 0; i < FatalSignals.size(); ++i)
+        sigaction(FatalSignals[i], &action, &g_previous[i]);
     g_previousTerminate = std::set_terminate(onTerminate);
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <span>
@@ -19,30 +20,7 @@ namespace
 
 using platform::FixedText;
 
-constexpr int kMaxFrames = 128;
-constexpr long kSecondsPerDay = 86'400;
-
-struct Date {
-    int year, month, day;
-};
-
-// Proleptic Gregorian calendar, counted in years that begin in March, so that the leap day is last.
-Date dateOfDay(long daysSinceEpoch)
-{
-    constexpr long kDaysToEpoch = 719'468; // from 0000-03-01
-    constexpr long kDaysPer400Years = 146'097;
-    const long days = daysSinceEpoch + kDaysToEpoch;
-    const long era = (days >= 0 ? days : days - kDaysPer400Years + 1) / kDaysPer400Years;
-    const long dayOfEra = days - era * kDaysPer400Years;
-    const long yearOfEra =
-        (dayOfEra - dayOfEra / 1'460 + dayOfEra / 36'524 - dayOfEra / 146'096) / 365;
-    const long dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const long marchMonth = (5 * dayOfYear + 2) / 153;
-    const long day = dayOfYear - (153 * marchMonth + 2) / 5 + 1;
-    const long month = marchMonth < 10 ? marchMonth + 3 : marchMonth - 9;
-    const long year = yearOfEra + era * 400 + (month <= 2 ? 1 : 0);
-    return {static_cast<int>(year), static_cast<int>(month), static_cast<int>(day)};
-}
+constexpr int MaxFrames = 128;
 
 std::string_view signalName(int signal)
 {
@@ -50,13 +28,13 @@ std::string_view signalName(int signal)
     case SIGSEGV:
         return "SIGSEGV, invalid memory access";
     case SIGBUS:
-        return "SIGBUS, memory without a backing";
+        return "SIGBUS, mapped memory is gone";
     case SIGILL:
         return "SIGILL, illegal instruction";
     case SIGFPE:
         return "SIGFPE, arithmetic error";
     case SIGABRT:
-        return "SIGABRT, the program gave up";
+        return "SIGABRT, aborted";
     default:
         return "unknown";
     }
@@ -102,7 +80,7 @@ void writeCause(Output& output, const platform::Crash& crash)
     line << "signal: " << crash.signal << " (" << signalName(crash.signal) << ")";
     if (crash.info) {
         line << ", code " << crash.info->si_code;
-        if (crash.info->si_code > 0) { // else it was sent, and the sender stands in that place
+        if (crash.info->si_code > 0) { // otherwise the field holds the sender
             line << ", address ";
             line.hex(reinterpret_cast<std::uintptr_t>(crash.info->si_addr));
         }
@@ -111,16 +89,24 @@ void writeCause(Output& output, const platform::Crash& crash)
     output.write(line);
 }
 
+void appendTime(FixedText& text, const platform::LocalTime& time, std::string_view dateSeparator,
+                std::string_view middle, std::string_view clockSeparator)
+{
+    const auto number = [](auto value) { return static_cast<unsigned>(value.count()); };
+    text.padded(static_cast<unsigned>(int(time.date.year())), 4) << dateSeparator;
+    text.padded(unsigned(time.date.month()), 2) << dateSeparator;
+    text.padded(unsigned(time.date.day()), 2) << middle;
+    text.padded(number(time.clock.hours()), 2) << clockSeparator;
+    text.padded(number(time.clock.minutes()), 2) << clockSeparator;
+    text.padded(number(time.clock.seconds()), 2);
+}
+
 void writeHead(Output& output, const platform::Crash& crash)
 {
     FixedText text;
     text << crash.program << " crash report\ntime: ";
-    text.padded(crash.time.year, 4) << "-";
-    text.padded(crash.time.month, 2) << "-";
-    text.padded(crash.time.day, 2) << " ";
-    text.padded(crash.time.hour, 2) << ":";
-    text.padded(crash.time.minute, 2) << ":";
-    text.padded(crash.time.second, 2) << "\n";
+    appendTime(text, crash.time, "-", " ", ":");
+    text << "\n";
     std::array<char, 17> name{};
     ::prctl(PR_GET_NAME, name.data());
     text << "process: " << crash.process << "\nthread: " << crash.thread << " (" << name.data()
@@ -144,11 +130,11 @@ void writeRegisters(Output& output, const void* context)
     output.write("registers:\n");
     const mcontext_t& machine = static_cast<const ucontext_t*>(context)->uc_mcontext;
 #if defined(__x86_64__)
-    static constexpr std::array<std::string_view, 17> kNames{
+    static constexpr std::array<std::string_view, 17> Names{
         "r8",  "r9",  "r10", "r11", "r12", "r13", "r14", "r15", "rdi",
         "rsi", "rbp", "rbx", "rdx", "rax", "rcx", "rsp", "rip"};
-    for (std::size_t i = 0; i < kNames.size(); ++i)
-        writeRegister(output, kNames[i], static_cast<unsigned long>(machine.gregs[i]));
+    for (std::size_t i = 0; i < Names.size(); ++i)
+        writeRegister(output, Names[i], static_cast<unsigned long>(machine.gregs[i]));
 #elif defined(__aarch64__)
     for (int i = 0; i < 31; ++i) {
         FixedText name;
@@ -159,7 +145,7 @@ void writeRegisters(Output& output, const void* context)
     writeRegister(output, "pc", machine.pc);
 #else
     static_cast<void>(machine);
-    output.write("  not known for this processor\n");
+    output.write("  unknown for this processor\n");
 #endif
 }
 
@@ -222,54 +208,46 @@ FixedText& FixedText::operator<<(std::string_view text)
 FixedText& FixedText::operator<<(long number)
 {
     std::array<char, 24> digits;
-    std::size_t at = digits.size();
-    unsigned long rest =
-        number < 0 ? 0UL - static_cast<unsigned long>(number) : static_cast<unsigned long>(number);
-    do
-        digits[--at] = static_cast<char>('0' + rest % 10);
-    while ((rest /= 10) != 0);
-    if (number < 0)
-        digits[--at] = '-';
-    return *this << std::string_view(digits.data() + at, digits.size() - at);
+    const auto end = std::to_chars(digits.begin(), digits.end(), number).ptr;
+    return *this << std::string_view(digits.begin(), end);
 }
 
 FixedText& FixedText::hex(unsigned long number)
 {
-    *this << "0x";
-    for (int shift = 8 * sizeof(number) - 4; shift >= 0; shift -= 4)
-        *this << std::string_view("0123456789abcdef" + (number >> shift & 0xF), 1);
-    return *this;
+    return *this << "0x", appendPadded(number, 2 * sizeof(number), 16);
 }
 
-FixedText& FixedText::padded(int number, int digits)
+FixedText& FixedText::padded(unsigned number, std::size_t width)
 {
-    long power = 1;
-    for (int i = 1; i < digits; ++i)
-        power *= 10;
-    for (; power > 1 && number < power; power /= 10)
+    return appendPadded(number, width, 10);
+}
+
+FixedText& FixedText::appendPadded(unsigned long number, std::size_t width, int base)
+{
+    std::array<char, 24> digits;
+    const auto end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
+    const std::string_view text(digits.begin(), end);
+    for (std::size_t length = text.size(); length < width; ++length)
         *this << "0";
-    return *this << static_cast<long>(number);
+    return *this << text;
 }
 
-LocalTime localTime(std::time_t utc, long offsetSeconds)
+LocalTime::LocalTime(std::time_t utc, long offsetSeconds)
+    : LocalTime(std::chrono::sys_seconds(std::chrono::seconds(utc + offsetSeconds)))
 {
-    const long seconds = static_cast<long>(utc) + offsetSeconds;
-    const long secondOfDay = (seconds % kSecondsPerDay + kSecondsPerDay) % kSecondsPerDay;
-    const Date date = dateOfDay((seconds - secondOfDay) / kSecondsPerDay);
-    return {date.year,
-            date.month,
-            date.day,
-            static_cast<int>(secondOfDay / 3'600),
-            static_cast<int>(secondOfDay / 60 % 60),
-            static_cast<int>(secondOfDay % 60)};
+}
+
+LocalTime::LocalTime(std::chrono::sys_seconds time)
+    : date(std::chrono::floor<std::chrono::days>(time))
+    , clock(time - std::chrono::floor<std::chrono::days>(time))
+{
 }
 
 FixedText crashFileName(const Crash& crash)
 {
     FixedText name;
     name << "./" << crash.program << "-";
-    name.padded(crash.time.year, 4).padded(crash.time.month, 2).padded(crash.time.day, 2) << "-";
-    name.padded(crash.time.hour, 2).padded(crash.time.minute, 2).padded(crash.time.second, 2);
+    appendTime(name, crash.time, "", "-", "");
     name << "-" << crash.process << "-" << crash.thread << ".dmp";
     return name;
 }
@@ -279,12 +257,12 @@ int writeCrashReport(int fd, const Crash& crash)
     Output output(fd);
     writeHead(output, crash);
     writeRegisters(output, crash.context);
-    std::array<void*, kMaxFrames> memory{};
-    const int count = ::backtrace(memory.data(), kMaxFrames);
+    std::array<void*, MaxFrames> memory{};
+    const int count = ::backtrace(memory.data(), MaxFrames);
     const std::span<void* const> frames(memory.data(), static_cast<std::size_t>(count));
     writeAddresses(output, frames);
     writeModules(output);
-    // Last, since naming the functions of libraries takes the loader's lock, which the crashed
+    // Last, because naming the functions of libraries takes the loader's lock, which the crashed
     // thread may hold.
     writeStack(output, fd, frames);
     return output.error();
