@@ -6,11 +6,11 @@
 #include <QString>
 #include <QTest>
 
-/// For the few expectations that differ between the systems.
+/// For expectations that differ between the systems.
 #ifdef Q_OS_WIN
-inline constexpr bool kIsWindows = true;
+inline constexpr bool IsWindows = true;
 #else
-inline constexpr bool kIsWindows = false;
+inline constexpr bool IsWindows = false;
 #endif
 
 /// A test helper program in its own process. It answers each command with a line.
@@ -20,7 +20,7 @@ public:
     static QString path(const QString& program)
     {
         return QCoreApplication::applicationDirPath() + QLatin1Char('/') + program +
-               QLatin1String(kIsWindows ? ".exe" : "");
+               QLatin1String(IsWindows ? ".exe" : "");
     }
 
     ~HelperProcess() override
@@ -52,14 +52,14 @@ public:
     }
 
     /// Kills the process and waits for its end.
-    bool crash()
+    bool killAndWait()
     {
         kill();
         return waitForFinished();
     }
 };
 
-/// A name that no other process of this machine uses.
+/// A name that no other process uses.
 inline QString uniqueName(const QString& prefix)
 {
     static int s_count = 0;

@@ -383,7 +383,7 @@ struct Writer {
 
 void tst_VideoReceiver::survivesTornWritesOfAProcess()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("The writer that plays it there cannot tear.");
     Writer writer;
     QVERIFY(writer.start());
@@ -400,7 +400,7 @@ void tst_VideoReceiver::survivesTornWritesOfAProcess()
 
 void tst_VideoReceiver::followsAWriterThatDiesAndReturns()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("There a name outlives its writer.");
     Writer writer;
     LogCapture log;

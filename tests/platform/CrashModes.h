@@ -1,13 +1,12 @@
 #pragma once
 
-// Ways to crash that differ between the systems.
+// Crashes that differ between the systems.
 
-/// Writes to memory that no process may touch.
+/// Writes to inaccessible memory.
 void touchForbiddenPage();
 
-/// Reads memory that has lost its backing; does nothing where there is no such thing.
+/// Reads mapped memory beyond the end of its file. Does nothing on Windows.
 void touchBeyondEnd();
 
-/// A handler as another library would have installed it before: it says "earlier handler" and ends
-/// the process.
+/// Installs a signal handler that prints "earlier handler" and ends the process.
 void installEarlierHandler();

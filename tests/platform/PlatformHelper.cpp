@@ -1,4 +1,4 @@
-// platform_helper <mode> [arguments]: another process for the tests of the platform's services.
+// platform_helper <mode> [arguments]: child process of the tests of platform/.
 
 #include "CrashModes.h"
 
@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-void say(const QByteArray& line)
+void print(const QByteArray& line)
 {
     std::printf("%s\n", line.constData());
     std::fflush(stdout);
@@ -31,7 +31,7 @@ void say(const QByteArray& line)
 
 int waitForEnd()
 {
-    say("ready");
+    print("ready");
     while (std::getchar() != EOF) {
     }
     return 0;
@@ -50,17 +50,17 @@ int killOwnName()
 {
     const QString name = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
     const auto outcome = platform::killByImageName(name, std::chrono::seconds(1));
-    say(QByteArray::number(outcome.exitCode));
+    print(QByteArray::number(outcome.exitCode));
     return 0;
 }
 
-// Crashing on purpose. The values are volatile so that nothing of it is optimised away.
+// Deliberate crashes. Volatile values keep the compiler from removing them.
 
 std::mutex g_logLock;
 
 void writeLine(const char* text)
 {
-    const std::lock_guard lock(g_logLock);
+    const std::scoped_lock lock(g_logLock);
     std::fprintf(stderr, "%s\n", text);
 }
 
@@ -68,7 +68,7 @@ int overflowStack(int depth)
 {
     volatile char block[4096];
     block[0] = static_cast<char>(depth);
-    if (depth < 0) // never, which the compiler is not to know
+    if (depth < 0) // never; unknown to the compiler
         return 0;
     return overflowStack(depth + 1) + block[0];
 }
@@ -111,7 +111,7 @@ int run(const QStringList& arguments)
     if (mode == "wait"_L1)
         return waitForEnd();
     if (mode == "settings"_L1) {
-        say(platform::settingsFolder().toUtf8());
+        print(platform::settingsFolder().toUtf8());
         return 0;
     }
     if (mode == "registry"_L1)

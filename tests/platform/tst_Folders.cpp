@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr uid_t kNobody = 65534;
+constexpr uid_t Nobody = 65534;
 
 QByteArray contentOf(const QString& path)
 {
@@ -23,7 +23,7 @@ QByteArray contentOf(const QString& path)
 
 void becomeNobody()
 {
-    [[maybe_unused]] const bool done = ::setgid(kNobody) == 0 && ::setuid(kNobody) == 0;
+    [[maybe_unused]] const bool done = ::setgid(Nobody) == 0 && ::setuid(Nobody) == 0;
 }
 
 void write(const QString& path, const QByteArray& text)
@@ -41,14 +41,13 @@ class tst_Folders : public QObject
 
 private slots:
     void init();
-    void placesTheLog();
-    void keepsSettingsBesideTheExecutable();
-    void keepsSettingsOfAReadOnlyInstallationWithTheUser();
-    void spellsProgramNames();
-    void knowsItsOwnVersionOnly();
+    void findsTheFoldersOfTheLog();
+    void keepsSettingsBesideTheExecutableIfItCanWrite();
+    void translatesProgramNames();
+    void hasAVersionForTheRunningProgramOnly();
 
 private:
-    // What a copy of the helper in `folder` answers, run by a user who cannot write everywhere.
+    // Answer of the helper installed in `folder`, run by a user without root's permissions.
     [[nodiscard]] QString settingsFolderOf(const QString& folder) const;
     [[nodiscard]] QString makeInstallation() const;
 
@@ -87,7 +86,7 @@ QString tst_Folders::makeInstallation() const
     return folder;
 }
 
-void tst_Folders::placesTheLog()
+void tst_Folders::findsTheFoldersOfTheLog()
 {
     QCOMPARE(platform::programDataFolder(), m_home->filePath(u".local/state/VORNApp"_s));
     QCOMPARE(platform::logBackupFolder(), m_home->filePath(u".local/state/vorn_temp/log/"_s));
@@ -95,40 +94,34 @@ void tst_Folders::placesTheLog()
 
     qputenv("XDG_STATE_HOME", m_home->filePath(u"state/"_s).toUtf8());
     QCOMPARE(platform::programDataFolder(), m_home->filePath(u"state/VORNApp"_s));
-    QVERIFY(QFileInfo(m_home->filePath(u"state/VORNApp"_s)).isDir());
 
-    qputenv("XDG_STATE_HOME", "not/absolute"); // which the standard says to ignore
+    qputenv("XDG_STATE_HOME", "not/absolute"); // ignored, as the XDG specification demands
     QCOMPARE(platform::programDataFolder(), m_home->filePath(u".local/state/VORNApp"_s));
 }
 
-void tst_Folders::keepsSettingsBesideTheExecutable()
+void tst_Folders::keepsSettingsBesideTheExecutableIfItCanWrite()
 {
     const QString folder = makeInstallation();
-    QFile::setPermissions(m_home->path(), QFile::Permissions::fromInt(0x7777));
-    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x7777));
-    QCOMPARE(settingsFolderOf(folder), folder);
-}
-
-void tst_Folders::keepsSettingsOfAReadOnlyInstallationWithTheUser()
-{
-    const QString folder = makeInstallation();
-    QFile::setPermissions(m_home->path(), QFile::Permissions::fromInt(0x7777));
-    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x5555));
     const QString own = m_home->filePath(u"data/VORNApp"_s);
+    const auto writable = QFile::Permissions::fromInt(0x7777);
+    QFile::setPermissions(m_home->path(), writable);
+    QFile::setPermissions(folder, writable);
+    QCOMPARE(settingsFolderOf(folder), folder);
+
+    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x5555));
     QCOMPARE(settingsFolderOf(folder), own);
     QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\n");
     QCOMPARE(contentOf(own + "/config.json"_L1), "{}\n");
     QVERIFY(QFile::permissions(own + "/config.ini"_L1) & QFile::WriteOwner);
 
-    // Only on first use: what the user has changed since stays.
-    QFile::remove(own + "/config.ini"_L1);
+    // Copied on the first use only, so that the user's changes remain.
     write(own + "/config.ini"_L1, "[VORNApp]\nuse_remote_device=false\n");
     QCOMPARE(settingsFolderOf(folder), own);
     QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\nuse_remote_device=false\n");
-    QFile::setPermissions(folder, QFile::Permissions::fromInt(0x7777)); // so that it can be removed
+    QFile::setPermissions(folder, writable); // so that it can be removed
 }
 
-void tst_Folders::spellsProgramNames()
+void tst_Folders::translatesProgramNames()
 {
     QCOMPARE(platform::executableFileName(u"ms-teams.exe"_s), u"ms-teams"_s);
     QCOMPARE(platform::executableFileName(u"Zoom"_s), u"Zoom"_s);
@@ -138,7 +131,7 @@ void tst_Folders::spellsProgramNames()
              u"vorn-test-missing"_s);
 }
 
-void tst_Folders::knowsItsOwnVersionOnly()
+void tst_Folders::hasAVersionForTheRunningProgramOnly()
 {
     for (const QString& self :
          {QCoreApplication::applicationFilePath(), u"/proc/self/exe"_s, u"tst_Folders"_s}) {

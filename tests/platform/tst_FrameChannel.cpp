@@ -25,8 +25,8 @@ namespace
 
 constexpr std::size_t ViewSize = 1 << 20;
 // Error codes for a name that does not exist, and for a view larger than the memory.
-constexpr quint32 NoSuchName = kIsWindows ? 2 : ENOENT;
-constexpr quint32 TooSmall = kIsWindows ? 5 : ENXIO;
+constexpr quint32 NoSuchName = IsWindows ? 2 : ENOENT;
+constexpr quint32 TooSmall = IsWindows ? 5 : ENXIO;
 constexpr std::chrono::milliseconds Short{30}; // for waits that time out
 constexpr std::chrono::seconds Long{20};       // for waits that end earlier
 
@@ -146,7 +146,7 @@ void tst_FrameChannel::postsBetweenWaitsCountAsOne()
     QVERIFY(m_channel->isOpen());
     QVERIFY(m_writer->command("post 1"));
     QCOMPARE(wait(), Outcome::Signalled);
-    if (kIsWindows)
+    if (IsWindows)
         return;
     // Taking all posts of the largest count would hold the reader for some 20 s.
     QVERIFY(m_writer->command("overfill-event"));
@@ -186,7 +186,7 @@ void tst_FrameChannel::noticesRenewedObjects_data()
 
 void tst_FrameChannel::noticesRenewedObjects()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("Names outlive their writer on Windows.");
     QFETCH(bool, newMapping);
     QFETCH(bool, newEvent);
@@ -214,7 +214,7 @@ void tst_FrameChannel::noticesRenewedObjects()
 
 void tst_FrameChannel::keepsTheObjectsOfADeadWriter()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("Names outlive their writer on Windows.");
     QVERIFY(openAll());
     m_writer->closeWriteChannel();
@@ -228,7 +228,7 @@ void tst_FrameChannel::keepsTheObjectsOfADeadWriter()
 
 void tst_FrameChannel::survivesTruncatedMemory()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("Windows cannot truncate shared memory.");
     QVERIFY(openAll());
     std::vector<char> copy(ViewSize);
@@ -253,7 +253,7 @@ void tst_FrameChannel::survivesTruncatedMemory()
 
 void tst_FrameChannel::refusesReservedMemory()
 {
-    if (!kIsWindows)
+    if (!IsWindows)
         QSKIP("Linux has no memory that is only reserved.");
     QVERIFY(m_writer->command("reserve " + QByteArray::number(qulonglong(ViewSize))));
     const auto result = m_channel->open();
@@ -263,7 +263,7 @@ void tst_FrameChannel::refusesReservedMemory()
 
 void tst_FrameChannel::survivesATruncatedEvent()
 {
-    if (kIsWindows)
+    if (IsWindows)
         QSKIP("Windows cannot truncate an event.");
     QVERIFY(openAll());
     QVERIFY(m_writer->command("cut-event"));

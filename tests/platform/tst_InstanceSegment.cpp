@@ -12,7 +12,7 @@ class tst_InstanceSegment : public QObject
 
 private slots:
     void initTestCase();
-    void locksAmongProcesses();
+    void excludesOtherProcesses();
 
 private:
     QTemporaryDir m_folder;
@@ -23,7 +23,7 @@ void tst_InstanceSegment::initTestCase()
     qputenv("TMPDIR", m_folder.path().toUtf8());
 }
 
-void tst_InstanceSegment::locksAmongProcesses()
+void tst_InstanceSegment::excludesOtherProcesses()
 {
     const QString key = uniqueName(u"vorn_test_lock_"_s);
     HelperProcess holder;
@@ -31,11 +31,11 @@ void tst_InstanceSegment::locksAmongProcesses()
     QVERIFY(!platform::InstanceLock(key, 20).isHeld());
     QVERIFY(platform::InstanceLock(uniqueName(key), 20).isHeld());
 
-    QVERIFY(holder.crash());
+    QVERIFY(holder.killAndWait());
     const platform::InstanceLock lock(key);
     QVERIFY(lock.isHeld());
-    // The thread that holds a mutex of Windows may take it again.
-    QCOMPARE(platform::InstanceLock(key, 20).isHeld(), kIsWindows);
+    // On Windows the thread that holds the mutex may lock it again.
+    QCOMPARE(platform::InstanceLock(key, 20).isHeld(), IsWindows);
 }
 
 QTEST_GUILESS_MAIN(tst_InstanceSegment)

@@ -9,11 +9,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr std::chrono::seconds kPatience{20};
+constexpr std::chrono::seconds Patience{20};
 
 bool isRunning(const QString& name)
 {
-    const auto outcome = platform::isImageRunning(name, kPatience);
+    const auto outcome = platform::isImageRunning(name, Patience);
     return outcome.finished && outcome.running;
 }
 
@@ -24,18 +24,17 @@ class tst_Processes : public QObject
     Q_OBJECT
 
 private slots:
-    void endsEveryProcessOfTheName_data();
-    void endsEveryProcessOfTheName();
-    void findsProgramsWhoseFileIsGone();
-    void findsScripts();
-    void sparesOthersOfTheSameBeginning();
+    void killsEveryProcessOfTheName_data();
+    void killsEveryProcessOfTheName();
+    void findsDeletedProgramsAndScripts();
+    void sparesLongerNames();
     void sparesItself();
-    void saysThatThereIsNone();
-    void ignoresWhatHasEnded();
+    void reportsThatThereIsNone();
+    void ignoresZombies();
 
 private:
-    // A copy of the helper under a name of its own.
-    QString install(const QString& name) const;
+    QString install(const QString& name) const; // copies the helper
+    QString makeScript(const QString& name, const QByteArray& commands) const;
 
     QTemporaryDir m_folder;
 };
@@ -43,12 +42,21 @@ private:
 QString tst_Processes::install(const QString& name) const
 {
     QString path = m_folder.filePath(name);
-    if (kIsWindows && !path.endsWith(".exe"_L1))
+    if (IsWindows && !path.endsWith(".exe"_L1))
         path += ".exe"_L1;
     return QFile::copy(HelperProcess::path(u"platform_helper"_s), path) ? path : QString();
 }
 
-void tst_Processes::endsEveryProcessOfTheName_data()
+QString tst_Processes::makeScript(const QString& name, const QByteArray& commands) const
+{
+    QFile script(m_folder.filePath(name));
+    if (script.open(QIODevice::WriteOnly))
+        script.write("#!/bin/sh\n" + commands);
+    script.setPermissions(script.permissions() | QFile::ExeOwner);
+    return script.fileName();
+}
+
+void tst_Processes::killsEveryProcessOfTheName_data()
 {
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<QString>("imageName");
@@ -56,13 +64,13 @@ void tst_Processes::endsEveryProcessOfTheName_data()
     const QString longName = uniqueName(u"vorn-test-program-of-a-long-name-"_s);
     const QString windowsName = uniqueName(u"Vorn Test "_s) + ".exe"_L1;
     QTest::newRow("short") << shortName << shortName + ".exe"_L1;
-    if (kIsWindows) // whose list cuts names after 25 characters
+    if (IsWindows) // tasklist truncates names after 25 characters
         return;
     QTest::newRow("long") << longName << longName + ".EXE"_L1;
-    QTest::newRow("spelt as on Windows") << windowsName << windowsName;
+    QTest::newRow("with .exe") << windowsName << windowsName;
 }
 
-void tst_Processes::endsEveryProcessOfTheName()
+void tst_Processes::killsEveryProcessOfTheName()
 {
     QFETCH(QString, fileName);
     QFETCH(QString, imageName);
@@ -71,62 +79,51 @@ void tst_Processes::endsEveryProcessOfTheName()
     HelperProcess first;
     HelperProcess second;
     QVERIFY(first.startAndWait(program, {u"wait"_s}));
-    // The command that Wine brings along ends one process at a call.
-    QVERIFY(kIsWindows || second.startAndWait(program, {u"wait"_s}));
+    // Wine's taskkill kills one process in each call.
+    QVERIFY(IsWindows || second.startAndWait(program, {u"wait"_s}));
     QVERIFY(isRunning(imageName));
 
-    const auto outcome = platform::killByImageName(imageName, kPatience);
+    const auto outcome = platform::killByImageName(imageName, Patience);
     QVERIFY(outcome.finished);
     QCOMPARE(outcome.exitCode, 0);
     QVERIFY(outcome.errorText.isEmpty());
-    if (!kIsWindows)                    // where the command only asks the system to end them
-        QVERIFY(!isRunning(imageName)); // ended when the call returns, not some time later
+    if (!IsWindows) // on Windows they end after the call
+        QVERIFY(!isRunning(imageName));
     for (HelperProcess* process : {&first, &second}) {
         QVERIFY(process->state() == QProcess::NotRunning || process->waitForFinished());
-        if (!kIsWindows) // which does not tell a killed program from one that has failed
+        if (!IsWindows) // which does not distinguish killed programs from failed ones
             QCOMPARE(process->exitStatus(), QProcess::CrashExit);
     }
     QTRY_VERIFY_WITH_TIMEOUT(!isRunning(imageName), 30'000);
 }
 
-void tst_Processes::findsProgramsWhoseFileIsGone()
+void tst_Processes::findsDeletedProgramsAndScripts()
 {
-    if (kIsWindows)
-        QSKIP("Windows keeps the file of a running program.");
+    if (IsWindows)
+        QSKIP("Windows keeps the file of a running program, and a script has no process.");
     const QString name = uniqueName(u"vorn-test-removed-"_s);
     const QString program = install(name);
     HelperProcess process;
     QVERIFY(process.startAndWait(program, {u"wait"_s}));
     QVERIFY(QFile::remove(program));
-    QVERIFY(isRunning(name));
-    QCOMPARE(platform::killByImageName(name, kPatience).exitCode, 0);
+    const QString scriptName = uniqueName(u"vorn-test-script-of-a-long-name-"_s);
+    HelperProcess script;
+    QVERIFY(script.startAndWait(makeScript(scriptName, "echo ready\nread line\n"), {}));
+    QVERIFY(!isRunning(scriptName.chopped(1)));
+    for (const QString& running : {name, scriptName}) {
+        QVERIFY(isRunning(running + ".exe"_L1));
+        QCOMPARE(platform::killByImageName(running, Patience).exitCode, 0);
+        QVERIFY(!isRunning(running));
+    }
 }
 
-void tst_Processes::findsScripts()
-{
-    if (kIsWindows)
-        QSKIP("A script is no process there.");
-    const QString name = uniqueName(u"vorn-test-script-of-a-long-name-"_s);
-    QFile script(m_folder.filePath(name));
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\necho ready\nread line\n");
-    script.setPermissions(script.permissions() | QFile::ExeOwner);
-    script.close();
-    HelperProcess process;
-    QVERIFY(process.startAndWait(script.fileName(), {}));
-    QVERIFY(isRunning(name + ".exe"_L1));
-    QVERIFY(!isRunning(name.chopped(1)));
-    QCOMPARE(platform::killByImageName(name, kPatience).exitCode, 0);
-    QVERIFY(!isRunning(name));
-}
-
-void tst_Processes::sparesOthersOfTheSameBeginning()
+void tst_Processes::sparesLongerNames()
 {
     const QString name = uniqueName(u"vorn-test-of-a-long-name-"_s);
     HelperProcess process;
     QVERIFY(process.startAndWait(install(name + u"-other"_s), {u"wait"_s}));
     QVERIFY(!isRunning(name));
-    QVERIFY(platform::killByImageName(name, kPatience).exitCode != 0);
+    QVERIFY(platform::killByImageName(name, Patience).exitCode != 0);
     process.closeWriteChannel();
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
@@ -134,42 +131,37 @@ void tst_Processes::sparesOthersOfTheSameBeginning()
 
 void tst_Processes::sparesItself()
 {
-    if (kIsWindows)
-        QSKIP("The system's command spares nobody of the name.");
+    if (IsWindows)
+        QSKIP("The tool of Windows kills every process of the name.");
     const QString program = install(uniqueName(u"vorn-test-self-"_s));
     QProcess process;
     process.start(program, {u"kill-own-name"_s});
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.readAllStandardOutput().trimmed(), "128"); // none but itself
+    QCOMPARE(process.readAllStandardOutput().trimmed(), "128"); // no other process found
 }
 
-void tst_Processes::saysThatThereIsNone()
+void tst_Processes::reportsThatThereIsNone()
 {
     const QString name = uniqueName(u"vorn-test-none-"_s);
-    const auto outcome = platform::killByImageName(name, kPatience);
+    const auto outcome = platform::killByImageName(name, Patience);
     QVERIFY(outcome.finished);
     QVERIFY(outcome.exitCode != 0);
-    QVERIFY(kIsWindows || outcome.errorText.contains(name)); // not every version says it there
-    QVERIFY(kIsWindows || !isRunning(QString()));
+    QVERIFY(IsWindows || outcome.errorText.contains(name)); // not in every version of Windows
+    QVERIFY(IsWindows || !isRunning(QString()));
     QVERIFY(!isRunning(u".exe"_s));
 }
 
-void tst_Processes::ignoresWhatHasEnded()
+void tst_Processes::ignoresZombies()
 {
-    if (kIsWindows)
-        QSKIP("A process that has ended is gone there.");
-    // Ended, but not yet waited for by its parent.
+    if (IsWindows)
+        QSKIP("Windows has no zombies.");
     const QString name = uniqueName(u"vorn-test-ended-"_s);
     HelperProcess parent;
-    QFile script(m_folder.filePath(u"parent"_s));
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    // The shell becomes a program that never waits for its children.
-    script.write("#!/bin/sh\n\"$1\" exit &\necho ready\nexec \"$2\" wait\n");
-    script.setPermissions(script.permissions() | QFile::ExeOwner);
-    script.close();
-    QVERIFY(parent.startAndWait(script.fileName(),
-                                {install(name), HelperProcess::path(u"platform_helper"_s)}));
+    // The shell replaces itself by a program that never waits for its children.
+    QVERIFY(parent.startAndWait(
+        makeScript(u"parent"_s, "\"$1\" exit &\necho ready\nexec \"$2\" wait\n"),
+        {install(name), HelperProcess::path(u"platform_helper"_s)}));
     QCOMPARE(parent.nextLine(), "ready");
     QTRY_VERIFY(!isRunning(name));
 }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr std::chrono::seconds kPatience{3};
+constexpr std::chrono::seconds Patience{3};
 
 } // namespace
 
@@ -23,15 +23,13 @@ class tst_Shortcuts : public QObject
 
 private slots:
     void initTestCase();
-    void findsTheProgram_data();
-    void findsTheProgram();
-    void splitsExecLines_data();
-    void splitsExecLines();
-    void readsTheRightKey_data();
-    void readsTheRightKey();
-    void resolvesThroughPath();
-    void saysWhatIsWrong();
-    void findsPackagedEntries();
+    void findsTheProgramOfAnExecLine_data();
+    void findsTheProgramOfAnExecLine();
+    void readsTheExecKeyOfTheMainGroup_data();
+    void readsTheExecKeyOfTheMainGroup();
+    void resolvesNamesThroughPath();
+    void reportsUnreadableEntries();
+    void findsEntriesOfPackages();
 
 private:
     QString write(const QString& name, const QByteArray& text) const;
@@ -53,7 +51,7 @@ void tst_Shortcuts::initTestCase()
     qputenv("XDG_DATA_DIRS", m_folder.filePath(u"system"_s).toUtf8());
 }
 
-void tst_Shortcuts::findsTheProgram_data()
+void tst_Shortcuts::findsTheProgramOfAnExecLine_data()
 {
     QTest::addColumn<QByteArray>("exec");
     QTest::addColumn<QString>("program"); // empty: none
@@ -74,10 +72,12 @@ void tst_Shortcuts::findsTheProgram_data()
     row(R"("/opt/never closed)", {});
     row(R"("" zoom)", {});
     row("%U", {});
+    row(R"(a"b c"d e)", u"ab cd"_s);
+    row(R"(a\\ b c)", u"a b"_s);
     row("", {});
 }
 
-void tst_Shortcuts::findsTheProgram()
+void tst_Shortcuts::findsTheProgramOfAnExecLine()
 {
     QFETCH(QByteArray, exec);
     QFETCH(QString, program);
@@ -87,25 +87,7 @@ void tst_Shortcuts::findsTheProgram()
     QCOMPARE(found.value_or(QString()), program);
 }
 
-void tst_Shortcuts::splitsExecLines_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QStringList>("words");
-    QTest::newRow("codes") << u"a %f b%Uc %% d"_s << QStringList{u"a"_s, u"bc"_s, u"%"_s, u"d"_s};
-    QTest::newRow("quotes") << u"a\"b c\"d \"\" e\\ f"_s
-                            << QStringList{u"ab cd"_s, u""_s, u"e f"_s};
-    QTest::newRow("blanks") << u" \t a   b "_s << QStringList{u"a"_s, u"b"_s};
-    QTest::newRow("ends early") << u"a % b\\"_s << QStringList{u"a"_s, u"b\\"_s};
-}
-
-void tst_Shortcuts::splitsExecLines()
-{
-    QFETCH(QString, line);
-    QFETCH(QStringList, words);
-    QCOMPARE(platform::splitExecLine(line).value_or(QStringList()), words);
-}
-
-void tst_Shortcuts::readsTheRightKey_data()
+void tst_Shortcuts::readsTheExecKeyOfTheMainGroup_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("program");
@@ -126,46 +108,46 @@ void tst_Shortcuts::readsTheRightKey_data()
                                   << QString();
 }
 
-void tst_Shortcuts::readsTheRightKey()
+void tst_Shortcuts::readsTheExecKeyOfTheMainGroup()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, program);
     QCOMPARE(platform::programOfDesktopEntry(text).value_or(QString()), program);
 }
 
-void tst_Shortcuts::resolvesThroughPath()
+void tst_Shortcuts::resolvesNamesThroughPath()
 {
     const QString program = write(u"bin/vorn-test-zoom"_s, "#!/bin/sh\n");
     QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
     qputenv("PATH", qgetenv("PATH") + ':' + m_folder.filePath(u"bin"_s).toUtf8());
 
     auto result = platform::shortcutTarget(
-        write(u"a.desktop"_s, "[Desktop Entry]\nExec=vorn-test-zoom %U\n"), kPatience);
+        write(u"a.desktop"_s, "[Desktop Entry]\nExec=vorn-test-zoom %U\n"), Patience);
     QVERIFY(result.finished);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, program);
 
-    // What does not exist is named as it stands, for the caller to find out.
+    // A program that does not exist is returned unresolved; the caller checks it.
     result = platform::shortcutTarget(
-        write(u"b.desktop"_s, "[Desktop Entry]\nExec=vorn-test-nothing\n"), kPatience);
+        write(u"b.desktop"_s, "[Desktop Entry]\nExec=vorn-test-nothing\n"), Patience);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, u"vorn-test-nothing"_s);
 }
 
-void tst_Shortcuts::saysWhatIsWrong()
+void tst_Shortcuts::reportsUnreadableEntries()
 {
     const QString pipe = m_folder.filePath(u"pipe.desktop"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     for (const QString& path : {m_folder.filePath(u"missing.desktop"_s), m_folder.path(), pipe,
                                 write(u"empty.desktop"_s, "")}) {
-        const auto result = platform::shortcutTarget(path, kPatience);
+        const auto result = platform::shortcutTarget(path, Patience);
         QVERIFY(result.finished);
         QVERIFY(result.exitCode != 0);
         QVERIFY(!result.errorOutput.isEmpty());
     }
 }
 
-void tst_Shortcuts::findsPackagedEntries()
+void tst_Shortcuts::findsEntriesOfPackages()
 {
     QVERIFY(platform::packagedShortcut({u"One"_s, u"Two"_s}).isEmpty());
     const QString second = write(u"system/applications/Two.desktop"_s, "");

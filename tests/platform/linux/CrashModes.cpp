@@ -13,15 +13,15 @@ namespace
 
 void onEarlierHandler(int signal)
 {
-    constexpr char kText[] = "earlier handler\n";
-    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kText, sizeof(kText) - 1);
+    constexpr char Text[] = "earlier handler\n";
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, Text, sizeof(Text) - 1);
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }
 
 } // namespace
 
-// Not a null pointer, since some sanitizers map memory there.
+// Not a null pointer, because some sanitizers map memory at that address.
 void touchForbiddenPage()
 {
     void* const page = ::mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -30,7 +30,8 @@ void touchForbiddenPage()
 
 void touchBeyondEnd()
 {
-    const auto channel = platform::makeFrameChannel("none", "none", 1); // guards its own reads only
+    const auto channel =
+        platform::makeFrameChannel("none", "none", 1); // its handler must pass the signal on
     std::FILE* const empty = std::tmpfile();
     void* const page = ::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(empty), 0);
     [[maybe_unused]] const char byte = *static_cast<const volatile char*>(page);

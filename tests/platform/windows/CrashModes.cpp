@@ -10,8 +10,8 @@ namespace
 
 void onEarlierHandler(int signal)
 {
-    constexpr char kText[] = "earlier handler\n";
-    _write(2, kText, sizeof(kText) - 1);
+    constexpr char Text[] = "earlier handler\n";
+    _write(2, Text, sizeof(Text) - 1);
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }

@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,24 +18,22 @@
 #include <shlobj.h>
 
 #include <atomic>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-/// The system's own answers, where Linux has stand-ins with tests of their own.
+/// The services of Windows for which Linux has stand-ins with their own tests.
 class tst_WindowsServices : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void placesTheFolders();
+    void findsTheFolders();
     void readsVersionResources();
     void listsDevices();
-    void storesUnderTheRealKey();
     void resolvesShortcuts();
-    void reportsABrokenShortcut();
-    void stopsWaitingForAToolWhenAskedTo();
-    void givesUpOnASlowTool();
+    void endsToolsThatMustNotRunOn();
     void namesThreads();
 };
 
@@ -70,7 +67,7 @@ bool makeShortcut(const QString& path, const QString& target)
 
 } // namespace
 
-void tst_WindowsServices::placesTheFolders()
+void tst_WindowsServices::findsTheFolders()
 {
     QCOMPARE(platform::programDataFolder(), u"C:\\ProgramData\\VORNApp"_s);
     QVERIFY(QFileInfo(platform::programDataFolder()).isDir());
@@ -86,7 +83,7 @@ void tst_WindowsServices::placesTheFolders()
 
 void tst_WindowsServices::readsVersionResources()
 {
-    // A bare name is looked up as a program's library is.
+    // A bare name is looked up like a library.
     const auto byName = platform::fileVersions(u"kernel32.dll"_s);
     QVERIFY(byName.has_value());
     QVERIFY(byName->file[0] >= 6);
@@ -108,33 +105,10 @@ void tst_WindowsServices::listsDevices()
         quint32 error = 1;
         QVERIFY(platform::scanDevices(deviceClass, records, error));
         QCOMPARE(error, 0U);
-        QCOMPARE(records.first().instanceId, u"first"_s); // appended to what is there
+        QCOMPARE(records.first().instanceId, u"first"_s); // results are appended
         for (qsizetype i = 1; i < records.size(); ++i)
             QVERIFY(records[i].instanceId.contains(u'\\'));
     }
-}
-
-void tst_WindowsServices::storesUnderTheRealKey()
-{
-    // What another program sees in the registry, by the system's own interface.
-    const QString key = u"HKEY_CURRENT_USER\\Software\\VORN services test"_s;
-    QSettings settings(key, QSettings::NativeFormat);
-    settings.setValue(u"version"_s, u"1.2.9"_s);
-    settings.setValue(u"disable_local_dev"_s, 1);
-    settings.sync();
-    wchar_t text[16] = L"";
-    DWORD size = sizeof(text);
-    const wchar_t* const path = L"Software\\VORN services test";
-    QCOMPARE(RegGetValueW(HKEY_CURRENT_USER, path, L"version", RRF_RT_REG_SZ, nullptr, text, &size),
-             LSTATUS(ERROR_SUCCESS));
-    QCOMPARE(QString::fromWCharArray(text), u"1.2.9"_s);
-    DWORD number = 0;
-    size = sizeof(number);
-    QCOMPARE(RegGetValueW(HKEY_CURRENT_USER, path, L"disable_local_dev", RRF_RT_REG_DWORD, nullptr,
-                          &number, &size),
-             LSTATUS(ERROR_SUCCESS));
-    QCOMPARE(number, DWORD(1));
-    settings.remove(QString());
 }
 
 void tst_WindowsServices::resolvesShortcuts()
@@ -154,38 +128,28 @@ void tst_WindowsServices::resolvesShortcuts()
     QCOMPARE(QDir::fromNativeSeparators(result.output).toLower(), target.toLower());
 }
 
-void tst_WindowsServices::reportsABrokenShortcut()
+void tst_WindowsServices::endsToolsThatMustNotRunOn()
 {
-    const auto result = platform::shortcutTarget(u"C:\\missing.lnk"_s, 20s);
-    QVERIFY(result.output.isEmpty()); // whether or not there is a PowerShell to ask
-}
-
-void tst_WindowsServices::stopsWaitingForAToolWhenAskedTo()
-{
+    const QString helper = HelperProcess::path(u"platform_helper"_s);
     std::atomic_bool finished = true;
     QElapsedTimer sinceRequest;
     {
-        std::jthread worker([&](const std::stop_token& stop) {
+        const std::jthread worker([&](const std::stop_token& stop) {
             QProcess tool;
-            finished = platform::runCommand(tool, HelperProcess::path(u"platform_helper"_s),
-                                            {u"wait"_s}, 60s, stop);
+            finished = platform::runCommand(tool, helper, {u"wait"_s}, 60s, stop);
         });
         sinceRequest.start();
-    } // asks and joins
+    } // requests the stop and joins
     QVERIFY(!finished);
     QVERIFY(sinceRequest.elapsed() < 10'000);
-}
 
-void tst_WindowsServices::givesUpOnASlowTool()
-{
-    QProcess tool;
-    QVERIFY(
-        !platform::runCommand(tool, HelperProcess::path(u"platform_helper"_s), {u"wait"_s}, 100ms));
+    QProcess slow;
+    QVERIFY(!platform::runCommand(slow, helper, {u"wait"_s}, 100ms));
     QProcess missing;
     QVERIFY(!platform::runCommand(missing, u"C:/missing.exe"_s, {}, 20s));
     QProcess quick;
-    QVERIFY(platform::runCommand(quick, HelperProcess::path(u"platform_helper"_s), {u"?"_s}, 20s));
-    QCOMPARE(quick.exitCode(), 2); // what it says of a word it does not know
+    QVERIFY(platform::runCommand(quick, helper, {u"?"_s}, 20s));
+    QCOMPARE(quick.exitCode(), 2); // of an unknown mode
 }
 
 void tst_WindowsServices::namesThreads()
