@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QStringList>
 
-/// Making and reading back the files of a log.
+/// Creates and reads log files.
 namespace LogText
 {
 
@@ -31,7 +31,7 @@ inline QStringList files(const QString& folder)
     return paths;
 }
 
-/// Text of a log file behind its three-line header.
+/// Text of a log file after its header of three lines.
 inline QByteArray body(const QByteArray& text)
 {
     qsizetype start = 0;
@@ -40,7 +40,7 @@ inline QByteArray body(const QByteArray& text)
     return text.mid(start);
 }
 
-/// What all the log files in a folder say, headers left out.
+/// Text of all log files in a folder without their headers.
 inline QByteArray allBodies(const QString& folder)
 {
     QByteArray text;

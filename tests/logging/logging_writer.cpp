@@ -1,6 +1,6 @@
-// Writes to a fresh log in the way its first argument names; the tests look at what it left.
+// logging_writer forms|crash|nested-crash LOGDIR BACKUPDIR NAME
 //
-//     logging_writer forms|threads|crash|nested-crash LOGDIR BACKUPDIR NAME
+// Writes a new log for the tests to read.
 #include "app/LogInit.h"
 #include "logging/Log.h"
 
@@ -11,20 +11,17 @@
 #include <csignal>
 #include <cstdio>
 #include <limits>
-#include <map>
 #include <string>
-#include <thread>
-#include <vector>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-// The long-lived objects of the program write when they go, after main() and after the thread's own
-// objects.
-struct LastWords {
-    ~LastWords() { Log::info("LastWords::~LastWords") << "gone"; }
+// Logs after main() and after the destruction of thread-local objects, as the singletons do.
+struct LateRecord {
+    ~LateRecord() { Log::info("LateRecord::~LateRecord") << "gone"; }
 };
 
 std::string valueOfNestedCall()
@@ -35,7 +32,7 @@ std::string valueOfNestedCall()
 
 void writeForms()
 {
-    static const LastWords lastWords;
+    static const LateRecord s_lateRecord;
     Log::info("Sample::method") << "filepath:" << u"C:/Müller"_s << ", count:" << 42
                                 << ", flag:" << true << ", ratio:" << 0.5 << ", char:" << 'x'
                                 << ", low:" << std::numeric_limits<qint64>::min()
@@ -53,30 +50,13 @@ void writeForms()
     Log::info("Sample::afterwards") << "still here";
 }
 
-void writeFromThreads()
-{
-    FLAGS_max_log_size = 1;
-    const std::string padding(200, '.');
-    constexpr int threadCount = 4;
-    std::vector<std::thread> threads;
-    threads.reserve(threadCount);
-    for (int number = 0; number < threadCount; ++number) {
-        threads.emplace_back([number, &padding] {
-            for (int count = 0; count < 3000; ++count)
-                Log::info("Worker::run") << number << ' ' << count << padding;
-        });
-    }
-    for (auto& thread : threads)
-        thread.join();
-}
-
 void crash()
 {
     Log::info("Sample::crash") << "last line before";
     std::raise(SIGSEGV);
 }
 
-// A crash below glog, while this thread holds its lock.
+// Crashes inside glog while this thread holds its lock.
 class CrashingSink final : public google::LogSink
 {
 public:
@@ -98,18 +78,16 @@ void crashInsideLog()
 
 int main(int argc, char* argv[])
 {
-    const std::map<std::string, void (*)()> modes{{"forms", writeForms},
-                                                  {"threads", writeFromThreads},
-                                                  {"crash", crash},
-                                                  {"nested-crash", crashInsideLog}};
-    const auto mode = modes.find(argc == 5 ? argv[1] : "");
-    if (mode == modes.end()) {
-        std::fputs("usage: logging_writer forms|threads|crash|nested-crash LOGDIR BACKUPDIR NAME\n",
-                   stderr);
+    if (argc != 5)
         return 2;
-    }
     InitLog(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]),
             QString::fromLocal8Bit(argv[4]), 5);
-    mode->second();
+    const std::string_view mode = argv[1];
+    if (mode == "forms")
+        writeForms();
+    else if (mode == "crash")
+        crash();
+    else
+        crashInsideLog();
     return 0;
 }
