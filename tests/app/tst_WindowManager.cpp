@@ -2,16 +2,13 @@
 #include "support/LogCapture.h"
 
 #include <QLocalSocket>
-#include <QProcess>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-#include <csignal>
-#include <sys/socket.h>
-#include <sys/un.h>
+#include <memory>
 #include <thread>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -19,16 +16,22 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// A socket file as a crash leaves it: nobody listens behind it.
+/// Creates a socket file without a listener, as a crash leaves it.
 void leaveStaleSocket(const QString& path)
 {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    const QByteArray name = path.toUtf8();
-    memcpy(address.sun_path, name.constData(), std::size_t(name.size()));
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    QCOMPARE(::bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    ::close(socket);
+    QLocalServer server;
+    QVERIFY(server.listen(path));
+    QVERIFY(QFile::rename(path, path + u'x')); // so that closing does not remove it
+    server.close();
+    QVERIFY(QFile::rename(path + u'x', path));
+}
+
+std::unique_ptr<QLocalSocket> connectedPeer()
+{
+    auto peer = std::make_unique<QLocalSocket>();
+    peer->connectToServer(WindowManager::serverName());
+    peer->waitForConnected();
+    return peer;
 }
 
 } // namespace
@@ -39,13 +42,12 @@ class tst_WindowManager : public QObject
 
 private slots:
     void initTestCase();
-    void secondStartAsksForTheWindow();
-    void peerThatSaysNothingCountsToo();
-    void silentPeerDoesNotFreezeTheLoop();
-    void takenNameLeavesNoTrayIcon();
-    void staleSocketIsCleared();
-    void onlyADoubleClickShows();
-    void requestsArriveOnTheMainThread();
+    void showsTheWindowForASecondStart();
+    void doesNotBlockTheLoopForASilentPeer();
+    void hasNoTrayIconIfTheNameIsTaken();
+    void removesAStaleSocket();
+    void showsTheWindowOnADoubleClickOnly();
+    void emitsRequestsOnTheMainThread();
 
 private:
     QTemporaryDir m_folder;
@@ -56,39 +58,25 @@ void tst_WindowManager::initTestCase()
     qputenv("TMPDIR", m_folder.path().toUtf8());
 }
 
-void tst_WindowManager::secondStartAsksForTheWindow()
+void tst_WindowManager::showsTheWindowForASecondStart()
 {
     WindowManager manager;
     QSignalSpy shown(&manager, &WindowManager::requestShow);
     LogCapture log;
-    QLocalSocket peer;
-    peer.connectToServer(WindowManager::serverName());
-    QVERIFY(peer.waitForConnected());
-    peer.write("activate");
+    auto peer = connectedPeer();
+    peer->write("activate");
     QTRY_COMPARE(shown.count(), 1);
     QCOMPARE(shown.first(), QVariantList{true});
     QCOMPARE(log.take(), QStringList{u"I WindowManager::onNewConnection VORNApp reopen!"_s});
+    connectedPeer().reset(); // a peer that sends nothing counts, too
+    QTRY_COMPARE(shown.count(), 2);
 }
 
-void tst_WindowManager::peerThatSaysNothingCountsToo()
-{
-    WindowManager manager;
-    QSignalSpy shown(&manager, &WindowManager::requestShow);
-    {
-        QLocalSocket peer;
-        peer.connectToServer(WindowManager::serverName());
-        QVERIFY(peer.waitForConnected());
-    }
-    QTRY_COMPARE(shown.count(), 1);
-}
-
-void tst_WindowManager::silentPeerDoesNotFreezeTheLoop()
+void tst_WindowManager::doesNotBlockTheLoopForASilentPeer()
 {
     WindowManager manager(300ms);
     QSignalSpy shown(&manager, &WindowManager::requestShow);
-    QLocalSocket peer;
-    peer.connectToServer(WindowManager::serverName());
-    QVERIFY(peer.waitForConnected());
+    const auto peer = connectedPeer();
     int turns = 0;
     QTimer ticking;
     connect(&ticking, &QTimer::timeout, this, [&] { turns += shown.isEmpty() ? 1 : 0; });
@@ -97,7 +85,7 @@ void tst_WindowManager::silentPeerDoesNotFreezeTheLoop()
     QVERIFY(turns > 10);
 }
 
-void tst_WindowManager::takenNameLeavesNoTrayIcon()
+void tst_WindowManager::hasNoTrayIconIfTheNameIsTaken()
 {
     WindowManager first;
     LogCapture log;
@@ -107,16 +95,14 @@ void tst_WindowManager::takenNameLeavesNoTrayIcon()
     second.hideToTray();
     QVERIFY(!second.findChild<QSystemTrayIcon*>());
     QCOMPARE(hidden.first(), QVariantList{false});
-    // The first one still answers, after the second one's question whether it does.
+    // The check by the second manager counts as a connection to the first one.
     QSignalSpy shown(&first, &WindowManager::requestShow);
     QTRY_COMPARE(shown.count(), 1);
-    QLocalSocket peer;
-    peer.connectToServer(WindowManager::serverName());
-    peer.write("activate");
+    connectedPeer().reset();
     QTRY_COMPARE(shown.count(), 2);
 }
 
-void tst_WindowManager::staleSocketIsCleared()
+void tst_WindowManager::removesAStaleSocket()
 {
     leaveStaleSocket(m_folder.filePath(WindowManager::serverName()));
     LogCapture log;
@@ -126,7 +112,7 @@ void tst_WindowManager::staleSocketIsCleared()
     QVERIFY(manager.findChild<QSystemTrayIcon*>()->isVisible());
 }
 
-void tst_WindowManager::onlyADoubleClickShows()
+void tst_WindowManager::showsTheWindowOnADoubleClickOnly()
 {
     WindowManager manager;
     QSignalSpy shown(&manager, &WindowManager::requestShow);
@@ -142,7 +128,7 @@ void tst_WindowManager::onlyADoubleClickShows()
     QCOMPARE(icon->contextMenu()->actions().first()->text(), u"Quit"_s);
 }
 
-void tst_WindowManager::requestsArriveOnTheMainThread()
+void tst_WindowManager::emitsRequestsOnTheMainThread()
 {
     WindowManager manager;
     QThread* emittedOn = nullptr;

@@ -9,7 +9,8 @@
 #include <mutex>
 #include <utility>
 
-/// Collects what is logged while it lives, one "I Class::function text" each. Any thread.
+/// Collects the records that are logged during its lifetime, each as "I Class::function text". Any
+/// thread.
 class LogCapture : private google::LogSink
 {
 public:
@@ -17,7 +18,7 @@ public:
     ~LogCapture() override { google::RemoveLogSink(this); }
     Q_DISABLE_COPY_MOVE(LogCapture)
 
-    /// What came since the last call.
+    /// Returns and removes the records collected so far.
     QStringList take()
     {
         const std::scoped_lock lock(m_mutex);

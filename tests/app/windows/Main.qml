@@ -1,8 +1,7 @@
 // qmllint disable unqualified
 import QtQuick
 
-// Stands for the program's pages, so that all the rest of it can be tested with a Windows build of Qt
-// that lacks modules which the pages need.
+// Replaces the program's pages in tests on a Windows build of Qt that lacks modules of the pages.
 Window {
     id: window
 
