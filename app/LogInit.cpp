@@ -38,11 +38,11 @@ void InitLog(const QString& logDir, const QString& backupDir, const QString& fil
     const bool firstCall = Log::start(fileName);
     Log::setFile(logDir + QDir::separator() + fileName, u".log"_s);
 
-    if (firstCall) { // again would push our own crash handlers aside
+    if (firstCall) { // a second installation would replace our own crash handlers
         google::InstallFailureSignalHandler();
         google::InstallFailureWriter([](const char* text, std::size_t length) {
             const std::string_view line(text, std::find(text, text + length, '\0'));
-            // NOLINTNEXTLINE(bugprone-lambda-function-name): the lambda's own name is wanted
+            // NOLINTNEXTLINE(bugprone-lambda-function-name): the log names the lambda
             Log::write(Log::Severity::Error, __func__, line);
         });
     }
@@ -64,7 +64,7 @@ void InitLog(const QString& logDir, const QString& backupDir, const QString& fil
 
 void MoveLogFile(const QString& nameFilter, const QString& logDir, const QString& backupDir)
 {
-    // The whole list is taken before the first line below begins this run's own file.
+    // Listed before the first log line, which creates this run's own file.
     for (const auto& info : matchingFiles(logDir, nameFilter)) {
         const auto source = info.absoluteFilePath();
         QFile file(source);

@@ -10,10 +10,10 @@
 namespace
 {
 
+// Milliseconds.
 constexpr int ConnectTimeout = 1000;
 constexpr int WriteTimeout = 30000;
-/// Connecting to a server that does not listen yet fails at once, hence the pause between attempts.
-constexpr int PauseBetweenAttempts = 50;
+constexpr int PauseBetweenAttempts = 50; // a connection to a missing server fails at once
 
 } // namespace
 
@@ -48,9 +48,9 @@ bool SingleInstance::claim()
 {
     const platform::InstanceLock lock(m_sharedMemory.key());
     m_claimError.clear();
-    // The last one to detach removes the segment, also one that a crash left behind. If it is still
-    // there, somebody else is attached.
-    if (isThereASegment() && isThereASegment())
+    // The last process that detaches removes the segment, also one that a crash has left. If it
+    // still exists after that, another process is attached.
+    if (segmentExists() && segmentExists())
         return false;
     if (m_sharedMemory.create(1, QSharedMemory::ReadWrite))
         return true;
@@ -58,7 +58,7 @@ bool SingleInstance::claim()
     return false;
 }
 
-bool SingleInstance::isThereASegment()
+bool SingleInstance::segmentExists()
 {
     if (!m_sharedMemory.attach(QSharedMemory::ReadWrite))
         return false;

@@ -3,33 +3,31 @@
 #include <QSharedMemory>
 #include <QString>
 
-/// Makes sure that one instance runs: the first one holds a shared-memory segment for as long as it
-/// runs, and a later start asks it to come forward. Main thread; works without an application
-/// object.
+/// Ensures that only one instance runs. The first instance holds a shared-memory segment while it
+/// runs; a later start asks it to show its window. Main thread; needs no application object.
 class SingleInstance
 {
 public:
     enum class Outcome {
-        First,       ///< this start is the running instance from now on
-        HandedOver,  ///< the running instance was asked to come forward
-        Unreachable, ///< there is one, but it did not answer
+        First,       ///< this start is the running instance
+        HandedOver,  ///< the running instance was asked to show its window
+        Unreachable, ///< the running instance did not answer
     };
 
     SingleInstance(const QString& key, QString serverName);
 
-    /// Becomes the first instance, or reaches the running one. Waits for one that is still
-    /// starting, and takes over from one that goes meanwhile.
+    /// Becomes the first instance or contacts the running one. Waits for an instance that is still
+    /// starting, and becomes the first one if it ends meanwhile.
     Outcome start();
-    /// Lets another start become the first instance.
+    /// Releases the segment, so that another start can become the first instance.
     void release();
 
 private:
     bool claim();
-    bool isThereASegment();
+    bool segmentExists();
     bool handOver() const;
 
     QSharedMemory m_sharedMemory;
     const QString m_serverName;
-    // Why the last claim failed, empty when another instance holds the segment.
-    QString m_claimError;
+    QString m_claimError; // reason of a failed claim; empty if another instance holds the segment
 };

@@ -14,9 +14,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int AnswerTimeout = 500;
-
-WindowManager* s_instance = nullptr;
+constexpr int AnswerTimeout = 500; // ms
 
 } // namespace
 
@@ -26,18 +24,10 @@ const QString& WindowManager::serverName()
     return s_name;
 }
 
-WindowManager& WindowManager::instance()
-{
-    Q_ASSERT(s_instance);
-    return *s_instance;
-}
-
 WindowManager::WindowManager(std::chrono::milliseconds peerWait)
     : m_peerWait(peerWait)
     , m_localServer(new QLocalServer(this))
 {
-    if (!s_instance)
-        s_instance = this;
     Log::info("WindowManager::WindowManager") << "WindowManager";
     if (!listen()) {
         Log::error("WindowManager::WindowManager") << "Cannot start VORNAppLocalServer!";
@@ -49,13 +39,10 @@ WindowManager::WindowManager(std::chrono::milliseconds peerWait)
 WindowManager::~WindowManager()
 {
     Log::info("WindowManager::~WindowManager") << "~WindowManager";
-    if (s_instance == this)
-        s_instance = nullptr;
 }
 
-/// With access options Qt puts the new socket file over one that is there already, so whether
-/// another process listens has to be asked first. A file that nobody answers behind is a crash's
-/// leftover.
+/// With access options Qt replaces an existing socket file, so first it is checked whether another
+/// process listens. A socket file without a listener is left over from a crash.
 bool WindowManager::listen()
 {
     if (isServerAnswering())
@@ -96,8 +83,8 @@ void WindowManager::closeServer()
     m_localServer->close();
 }
 
-/// The peer has sent its bytes once they can be read, or once it has gone; until then it may still
-/// be the one in front. The event loop goes on meanwhile.
+/// Shows the window when the peer has sent its bytes or disconnected; before that the peer may
+/// still have the focus. The event loop is not blocked.
 void WindowManager::onNewConnection()
 {
     while (QLocalSocket* const socket = m_localServer->nextPendingConnection())

@@ -13,9 +13,9 @@
 
 class QLocalSocket;
 
-/// The running instance's side of the single-instance mechanism, and the owner of the tray icon. A
-/// second start connects to its local server, and the window comes forward. Main thread, except for
-/// the requests of WindowRequests.
+/// Running instance's side of the single-instance mechanism, and owner of the tray icon. A second
+/// start connects to the local server, and the window is shown. Main thread, except for the
+/// requests of WindowRequests, which any thread may make.
 class WindowManager : public QObject, public WindowRequests
 {
     Q_OBJECT
@@ -23,28 +23,25 @@ class WindowManager : public QObject, public WindowRequests
 public:
     static const QString& serverName();
 
-    /// @param peerWait  how long a second start may take to send its bytes
+    /// @param peerWait  time that a second start is given to send its bytes
     explicit WindowManager(std::chrono::milliseconds peerWait = std::chrono::seconds(30));
     ~WindowManager() override;
 
-    /// The program's own one, for code that cannot be given it.
-    static WindowManager& instance();
-
-    /// Puts the icon into the tray; none without the server. Not part of the construction, since
-    /// the icon is a window of its own for which the main one would have to wait.
+    /// Shows the tray icon; there is none without the server. Not done by the constructor, because
+    /// creating the icon's window would delay the main window.
     void showTrayIcon();
     Q_INVOKABLE void hideToTray();
-    /// Where the pointer is on the screens, in device-independent pixels.
+    /// Position of the pointer on the virtual desktop, in device-independent pixels.
     Q_INVOKABLE QPoint cursorPosition() const;
 
-    /// Gives the server's name up, so that a start from now on becomes the first instance.
+    /// Releases the server's name, so that a new start can become the first instance.
     void closeServer();
 
     void askToShow(bool show) override;
     void askToShowCheckRemote(bool show) override;
 
 signals:
-    /// true: the main window comes forward; false: it hides
+    /// @param show  true: show and raise the main window; false: hide it
     void requestShow(bool show);
     void requestShowCheckRemote(bool show);
 
@@ -60,7 +57,6 @@ private:
 
     const std::chrono::milliseconds m_peerWait;
     QLocalServer* m_localServer;
-    // The icon shows the menu but does not own it.
-    std::unique_ptr<QMenu> m_trayMenu;
+    std::unique_ptr<QMenu> m_trayMenu; // the icon does not own its menu
     QSystemTrayIcon* m_trayIcon = nullptr;
 };

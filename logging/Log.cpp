@@ -8,8 +8,8 @@
 namespace
 {
 
-// A plain pointer, because records are still written after this thread's objects are destroyed.
-constinit thread_local const char* t_function = nullptr;
+// A plain pointer: records are written even after the thread-local objects are destroyed.
+constinit thread_local const char* g_function = nullptr;
 
 google::LogSeverity glogSeverity(Log::Severity severity)
 {
@@ -39,33 +39,33 @@ namespace Log
 
 std::string_view currentFunction() noexcept
 {
-    return t_function ? std::string_view(t_function) : std::string_view();
+    return g_function ? std::string_view(g_function) : std::string_view();
 }
 
 void write(Severity severity, const char* function, std::string_view text, const char* file,
            int line) noexcept
 {
-    if (t_function) {
-        // A crash handler interrupted this thread inside glog, whose lock it still holds.
+    if (g_function) {
+        // Called by a crash handler that interrupted this thread inside glog, whose lock is held.
         std::fwrite(text.data(), 1, text.size(), stderr);
         if (!text.ends_with('\n'))
             std::fputc('\n', stderr);
         return;
     }
     if (glogSeverity(severity) < FLAGS_minloglevel)
-        return; // glog would drop the record too, but only once it is written
-    // glog cuts here too, but it would look at every byte beyond.
+        return; // glog drops such a record, too, but only after formatting it
+    // glog truncates at the same length, but reads the whole text first.
     text = text.substr(0, google::LogMessage::kMaxLogMessageLen);
-    // glog asks for the prefix while it constructs its message, hence the name is set around it.
-    t_function = function;
+    // glog calls the prefix callback, which reads the name, while it constructs the message.
+    g_function = function;
     try {
         google::LogMessage record(file, line, glogSeverity(severity));
         record.stream().clear(); // see the prefix callback in LogBackend.cpp
         record.stream().write(text.data(), static_cast<std::streamsize>(text.size()));
     } catch (...) {
-        // A lost record is no reason to end the program.
+        // Losing a record must not end the program.
     }
-    t_function = nullptr;
+    g_function = nullptr;
 }
 
 Message::~Message()

@@ -13,9 +13,8 @@
 ///
 ///     Log::info("UdpClient::bind") << "bound to port:" << port;
 ///
-/// The message is written as one record when the temporary ends, so records of several threads
-/// never mix. The qualified function name is given at the call site because compilers spell it
-/// differently.
+/// The message is written as one record when the temporary is destroyed, so records of different
+/// threads never mix. The call site names the function, because compilers spell it differently.
 namespace Log
 {
 
@@ -26,7 +25,7 @@ enum class Severity { Info, Warning, Error };
 class Message
 {
 public:
-    /// @param function  qualified name as `Class::method`; has to outlive the message (a literal).
+    /// @param function  qualified name, `Class::method`; a literal, as it must outlive the message
     Message(Severity severity, const char* function, const char* file, int line) noexcept
         : m_severity(severity)
         , m_function(function)
@@ -74,8 +73,8 @@ private:
     std::string m_text;
 };
 
-// The caller's file and line come from the compilers' builtins: the clang tools of the oldest
-// system we build on do not know std::source_location.
+// The builtins stand in for std::source_location, which the clang tools of the oldest supported
+// system do not know.
 [[nodiscard]] inline Message info(const char* function, const char* file = __builtin_FILE(),
                                   int line = __builtin_LINE())
 {
@@ -94,15 +93,15 @@ private:
     return {Severity::Error, function, file, line};
 }
 
-/// Writes one record at once, for text that is already whole. Takes no memory from the heap, except
-/// where the record begins a new file, so that a crash handler may use it; when the crash came from
-/// inside the log, the text goes to standard error only.
-/// @param function  as for Message.
+/// Writes a complete text as one record. Allocates no memory unless the record begins a new file,
+/// so that a crash handler may call it. If the crash happened inside the log, the text goes to
+/// standard error only.
+/// @param function  as for Message
 void write(Severity severity, const char* function, std::string_view text,
            const char* file = __builtin_FILE(), int line = __builtin_LINE()) noexcept;
 
-/// Qualified function name of the record that glog is writing on this thread; empty for records
-/// that did not come through this header. The line prefix reads it.
+/// Qualified function name of the record that glog is writing on this thread, for the line prefix.
+/// Empty for records of libraries, which use glog directly.
 [[nodiscard]] std::string_view currentFunction() noexcept;
 
 } // namespace Log

@@ -20,8 +20,8 @@
 namespace
 {
 
-// Where glog's blank stands in a record of this thread that did not come through Log; 0 if nowhere.
-constinit thread_local std::size_t t_blankAt = 0;
+// Position of glog's blank in the current record of this thread; 0 if the record comes from Log.
+constinit thread_local std::size_t g_blankAt = 0;
 
 struct Origin {
     std::string_view severity;
@@ -35,7 +35,7 @@ char* put(char* to, std::string_view text)
     return std::copy(text.begin(), text.end(), to);
 }
 
-/// @param width  digits to write; the number has no more than that.
+/// @param width  number of digits to write; `number` must not have more
 char* put(char* to, int number, int width)
 {
     for (int place = width - 1; place >= 0; --place) {
@@ -60,11 +60,11 @@ char* putTime(char* to, const google::LogMessageTime& time)
     return put(to, time.usec(), 6);
 }
 
-// "[INFO] [05-19 10:11:12.123456] [ 4242] [Class::function]". glog's own prefix costs a dozen
-// formatted stream operations; one buffer and few writes keep ours below that.
+// "[INFO] [05-19 10:11:12.123456] [ 4242] [Class::function]". Formatted in a buffer, because
+// formatted stream operations for every part would be slower.
 void writePrefix(std::ostream& out, const Origin& origin, const google::LogMessageTime& time)
 {
-    constexpr std::size_t threadWidth = 5;
+    constexpr std::size_t ThreadWidth = 5;
     char buffer[96];
     char* end = put(buffer, "[");
     end = put(end, origin.severity);
@@ -72,25 +72,25 @@ void writePrefix(std::ostream& out, const Origin& origin, const google::LogMessa
     end = putTime(end, time);
     end = put(end, "] [");
     const auto thread = origin.thread.substr(0, 24);
-    end = std::fill_n(end, threadWidth - std::min(threadWidth, thread.size()), ' ');
+    end = std::fill_n(end, ThreadWidth - std::min(ThreadWidth, thread.size()), ' ');
     end = put(end, thread);
     end = put(end, "] [");
     out.write(buffer, end - buffer);
 
     const auto function = Log::currentFunction();
     if (function.empty()) {
-        // A record of a library: glog adds a blank, which FileLogger takes out again. The copy on
-        // standard error keeps it.
+        // A record of a library: glog adds a blank, which FileLogger removes. It remains in the
+        // copy on standard error.
         out << origin.file << ':' << origin.line << ']';
-        t_blankAt = static_cast<std::size_t>(end - buffer) + origin.file.size() + 2 +
+        g_blankAt = static_cast<std::size_t>(end - buffer) + origin.file.size() + 2 +
                     std::to_string(origin.line).size();
         return;
     }
-    t_blankAt = 0;
+    g_blankAt = 0;
     out.write(function.data(), static_cast<std::streamsize>(function.size()));
     out.put(']');
-    // glog puts a blank between prefix and text, which our form does not have. A stream in a failed
-    // state ignores it; Log::write() makes the stream good again before it writes the text.
+    // glog writes a blank between prefix and text, which our form does not have. A stream in a
+    // failed state ignores it; Log::write() clears the state before it writes the text.
     out.setstate(std::ios_base::badbit);
 }
 
@@ -145,19 +145,19 @@ std::time_t seconds(RecordTime time)
 
 #endif
 
-/// glog hands every record to the logger of its own severity and to those of all lower ones. The
-/// one of INFO therefore sees each record exactly once, and writes it.
+/// Writes the log file. glog passes every record to the logger of its severity and to those of all
+/// lower severities, so the logger of INFO receives each record exactly once.
 class FileLogger final : public google::base::Logger
 {
 public:
     void Write(bool, RecordTime time, const char* text, std::size_t length) override
     {
         const std::string_view record(text, length);
-        if (record.empty()) // glog's request to flush before a fatal end; nothing is ever buffered
+        if (record.empty()) // glog's request to flush before a fatal end; nothing is buffered
             return;
         const LogFile::Limits limits{std::max<qint64>(FLAGS_max_log_size, 1) << 20,
                                      FLAGS_stop_logging_if_full_disk};
-        const auto blankAt = std::exchange(t_blankAt, 0);
+        const auto blankAt = std::exchange(g_blankAt, 0);
         if (blankAt > 0 && blankAt < record.size() && record[blankAt] == ' ') {
             std::string line(record.substr(0, blankAt));
             line += record.substr(blankAt + 1);
@@ -175,8 +175,7 @@ private:
     LogFile m_file;
 };
 
-/// Keeps the higher severities from opening files of their own, which glog would put into the
-/// temporary folder.
+/// Logger of the higher severities: without it glog writes files for them in the temporary folder.
 class NullLogger final : public google::base::Logger
 {
 public:
@@ -185,7 +184,7 @@ public:
     google::uint32 LogSize() override { return 0; }
 };
 
-FileLogger* s_fileLogger = nullptr; // owned by glog, which keeps it until the process is gone
+FileLogger* g_fileLogger = nullptr; // owned by glog, which never deletes it
 
 } // namespace
 
@@ -194,26 +193,25 @@ namespace Log
 
 bool start(const QString& programName)
 {
-    if (s_fileLogger)
+    if (g_fileLogger)
         return false;
-    // glog keeps the pointer.
-    static const std::string name = programName.toStdString();
-    initGlog(name.c_str());
+    static const std::string s_name = programName.toStdString(); // glog keeps the pointer
+    initGlog(s_name.c_str());
 
     auto fileLogger = std::make_unique<FileLogger>();
-    s_fileLogger = fileLogger.get();
+    g_fileLogger = fileLogger.get();
     google::base::SetLogger(google::GLOG_INFO, fileLogger.release());
     for (const auto severity : {google::GLOG_WARNING, google::GLOG_ERROR, google::GLOG_FATAL}) {
         google::SetLogDestination(severity, "");
         google::base::SetLogger(severity, std::make_unique<NullLogger>().release());
     }
-    FLAGS_log_prefix = true; // the environment must not take our line form away
+    FLAGS_log_prefix = true; // the environment must not switch our line form off
     return true;
 }
 
 void setFile(const QString& base, const QString& extension)
 {
-    s_fileLogger->file().setDestination(base, extension);
+    g_fileLogger->file().setDestination(base, extension);
 }
 
 } // namespace Log

@@ -2,18 +2,18 @@
 
 #include <QString>
 
-/// The part of the log that knows glog: the form of a line and the one file that all severities go
-/// to. Only the program's start-up needs it.
+/// The log's connection to glog: the form of a line, and the one file for all severities. Used by
+/// the program's start-up only.
 namespace Log
 {
 
-/// Starts glog under the program's name with our line form. Until setFile() names a file, records
-/// reach standard error only. Call it before the other threads start.
-/// @return true on the first call; false on every later one, which changes nothing.
+/// Initialises glog with the program's name and our line form. Until setFile() is called, records
+/// go to standard error only. Call it before other threads start.
+/// @return true on the first call; later calls have no effect
 bool start(const QString& programName);
 
-/// Sends all records to files named `base` + date and time + `extension` from now on. The file is
-/// made when the first record needs it. Any thread, after start().
+/// Writes all further records to files named `base` + date and time + `extension`. The first record
+/// creates the file. Any thread, after start().
 void setFile(const QString& base, const QString& extension);
 
 } // namespace Log

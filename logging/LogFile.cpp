@@ -17,7 +17,8 @@ namespace
 QByteArray header(const QDateTime& when)
 {
     const auto host = QSysInfo::machineHostName();
-    // The first line ends in a blank. Records name their severity in full all the same.
+    // The first line ends in a blank. The third one is fixed, although records carry the full name
+    // of the severity.
     return ("Log file created at: "_L1 + when.toString(u"yyyy-MM-dd hh:mm:ss ") +
             "\nRunning on machine: "_L1 + (host.isEmpty() ? u"(unknown)"_s : host) +
             "\nLog line format: [IWEF] [mm-dd hh:mm:ss.uuuuuu] [thread_id] [class::function] msg\n"_L1)
@@ -38,7 +39,7 @@ void LogFile::setDestination(const QString& base, const QString& extension)
     m_base = base;
     m_extension = extension;
     m_paused = false;
-    m_complained = false;
+    m_errorReported = false;
 }
 
 bool LogFile::write(std::string_view record, std::time_t when, const Limits& limits) noexcept
@@ -64,17 +65,17 @@ bool LogFile::writeLocked(std::string_view record, std::time_t when, const Limit
     if (m_file.isOpen() && m_size >= limits.maxBytes)
         m_file.close();
     if (!m_file.isOpen() && !open(when)) {
-        complain();
+        reportError();
         pause();
         return false;
     }
     if (!append(record)) {
-        complain();
+        reportError();
         if (limits.stopWhenFull)
             pause();
         return false;
     }
-    m_complained = false;
+    m_errorReported = false;
     return true;
 }
 
@@ -96,12 +97,13 @@ bool LogFile::open(std::time_t when)
 
 bool LogFile::openNew(const QString& stem)
 {
-    constexpr int namesPerSecond = 1000;
-    for (int count = 0; count < namesPerSecond; ++count) {
-        // '_' sorts behind the '.' of the extension, so the first file of a second stays the first.
+    constexpr int NamesPerSecond = 1000;
+    for (int count = 0; count < NamesPerSecond; ++count) {
+        // '_' sorts after the '.' of the extension, so the first file of a second remains the
+        // first.
         const auto suffix = count == 0 ? QString() : u"_%1"_s.arg(count, 3, 10, '0'_L1);
         m_file.setFileName(stem + suffix + m_extension);
-        // What people type and the account's token stand in it.
+        // The log contains user input and the account's token.
         if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
                         QFile::ReadOwner | QFile::WriteOwner))
             return true;
@@ -120,7 +122,7 @@ bool LogFile::append(std::string_view text)
         return true;
     }
     m_error = m_file.errorString();
-    // Take back what a full disk still accepted, or the next record would begin amid a line.
+    // Remove what a full disk still accepted; otherwise the next record would start inside a line.
     m_file.resize(m_size);
     m_file.seek(m_size);
     return false;
@@ -139,9 +141,9 @@ bool LogFile::isPaused()
     return m_paused;
 }
 
-void LogFile::complain()
+void LogFile::reportError()
 {
-    if (std::exchange(m_complained, true))
+    if (std::exchange(m_errorReported, true))
         return;
     std::fprintf(stderr, "Cannot write the log file %s: %s\n", qUtf8Printable(m_file.fileName()),
                  qUtf8Printable(m_error));

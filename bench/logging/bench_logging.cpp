@@ -1,5 +1,5 @@
-// Compares a line of our log with a bare line of glog. glog belongs to the whole process, so each
-// of the two is written by a child process; the parent gives them turns.
+// Compares a line of our log with a plain line of glog. glog is process-wide, so two child
+// processes write the lines, and the parent runs them in turn.
 #include "app/LogInit.h"
 #include "logging/Log.h"
 
@@ -20,10 +20,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int lineCount = 2000;
-constexpr int roundCount = 61;
-constexpr double aim = 1.20;
-constexpr int replyTimeoutMs = 60'000;
+constexpr int LineCount = 2000;
+constexpr int RoundCount = 61;
+constexpr double Aim = 1.20;
+constexpr int ReplyTimeoutMs = 60'000;
 
 void startBareGlog(const QString& folder)
 {
@@ -38,7 +38,7 @@ void startBareGlog(const QString& folder)
 void startOurs(const QString& folder)
 {
     InitLog(folder, folder + u"/back/"_s, u"ours"_s, 5);
-    FLAGS_alsologtostderr = false; // as little as possible besides the line itself
+    FLAGS_alsologtostderr = false; // measure the file only
 }
 
 void writeBareLine(int number)
@@ -51,16 +51,16 @@ void writeOurLine(int number)
     Log::info("DeviceControl::setVolume") << "volume:" << number << ", new:" << number + 1;
 }
 
-/// Writes a batch of lines for every line on standard input and answers with nanoseconds a line.
+/// Writes a batch of lines for each character on standard input and prints nanoseconds per line.
 int runChild(void (*writeLine)(int))
 {
     using Clock = std::chrono::steady_clock;
     for (int character = std::getchar(); character != EOF; character = std::getchar()) {
         const auto start = Clock::now();
-        for (int number = 0; number < lineCount; ++number)
+        for (int number = 0; number < LineCount; ++number)
             writeLine(number);
         const std::chrono::duration<double, std::nano> taken = Clock::now() - start;
-        std::printf("%.1f\n", taken.count() / lineCount);
+        std::printf("%.1f\n", taken.count() / LineCount);
         std::fflush(stdout);
     }
     return 0;
@@ -81,12 +81,12 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Child)
 
-    /// Nanoseconds a line, or 0 when the child is gone.
+    /// Nanoseconds per line, or 0 if the child has ended.
     double runBatch()
     {
         m_process.write("\n");
         while (!m_process.canReadLine()) {
-            if (!m_process.waitForReadyRead(replyTimeoutMs))
+            if (!m_process.waitForReadyRead(ReplyTimeoutMs))
                 return 0;
         }
         return m_process.readLine().trimmed().toDouble();
@@ -111,8 +111,8 @@ int compare()
     std::vector<double> bareTimes;
     std::vector<double> ourTimes;
     std::vector<double> ratios;
-    for (int round = 0; round < roundCount; ++round) {
-        // Whoever goes first changes, so that a drift of the machine favours nobody.
+    for (int round = 0; round < RoundCount; ++round) {
+        // The order alternates, so that a drift of the machine's speed cancels out.
         const bool bareFirst = round % 2 == 0;
         const double first = bareFirst ? bare.runBatch() : ours.runBatch();
         const double second = bareFirst ? ours.runBatch() : bare.runBatch();
@@ -125,7 +125,7 @@ int compare()
         ratios.push_back(ourTimes.back() / bareTimes.back());
     }
     std::printf("log line: ratio %.2f (aim %.2f); ours %.2f us, bare glog %.2f us\n",
-                median(ratios), aim, median(ourTimes) / 1000, median(bareTimes) / 1000);
+                median(ratios), Aim, median(ourTimes) / 1000, median(bareTimes) / 1000);
     return 0;
 }
 
