@@ -64,7 +64,7 @@ void logQmlWarnings(const QList<QQmlError>& warnings)
 
 int main(int argc, char* argv[])
 {
-    platform::surviveBrokenPipes();
+    platform::ignoreBrokenPipes();
     SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
     switch (instance.start()) {
     case SingleInstance::Outcome::First:

@@ -240,7 +240,7 @@ bool ProcessManager::startTeams()
     for (const auto* key : {kTeamsAppPathKey, kTeamsUrlHandlerKey}) {
         QString path;
         if (readPathFromRegist(QString::fromUtf16(key),
-                               QString::fromUtf16(platform::kDefaultValueName), path) &&
+                               QString::fromUtf16(platform::DefaultValueName), path) &&
             startProcess(path))
             return true;
     }

@@ -3,9 +3,8 @@
 namespace platform
 {
 
-/// Lets the program outlive whoever reads its standard output or error, or another pipe of its: a
-/// write then fails, and does not end the process. To be called before the first such write.
-/// Programs that this one starts are not affected.
-void surviveBrokenPipes();
+/// Ignores broken pipes: writing to a closed pipe fails instead of ending the process. Call it on
+/// the main thread before the first write. Child processes keep the system's default.
+void ignoreBrokenPipes();
 
 } // namespace platform

@@ -3,16 +3,16 @@
 namespace platform
 {
 
-/// Writes one line of the crash dump's story to the log, at error severity. It is called in a
-/// process that is about to end.
+/// Writes one log line about the crash dump, at error severity. Called in a dying process, on a
+/// thread of the crash handler.
 using CrashLine = void (*)(const char* text);
 
-/// From now on a crash of any thread leaves
-/// `<application>-<yyyyMMdd-HHmmss>-<process>-<thread>.dmp` in the working directory: a minidump on
-/// Windows, a readable report on Linux. What was installed before (the logger's own failure
-/// handler) runs afterwards. Call once, early, from the main thread.
+/// Installs handlers that write a crash dump when any thread crashes: a minidump on Windows, a
+/// readable report on Linux, named `<application>-<yyyyMMdd-HHmmss>-<process>-<thread>.dmp` in the
+/// working directory. Handlers that were installed before, such as the logger's, run afterwards.
+/// Call it once, from the main thread, before other threads start.
 ///
-/// On Linux a thread whose stack overflows is reported only if it has called nameCurrentThread().
+/// On Linux a stack overflow is reported only for threads that have called nameCurrentThread().
 void installCrashHandler(CrashLine writeLine);
 
 } // namespace platform

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Where the program's files and the user's folders lie. Any thread.
+/// Locations of the program's files and of the user's folders. Any thread.
 namespace platform
 {
 
@@ -12,9 +12,9 @@ namespace platform
 /// Folder that old log files are moved to, with a trailing separator; not created.
 [[nodiscard]] QString logBackupFolder();
 
-/// Folder of config.ini, config.json and userdata.db, without a trailing separator. It is the
-/// executable's own folder; on Linux, where that one cannot be written, a folder of the user's,
-/// which is created and given copies of the two configuration files. Needs the application object.
+/// Folder of config.ini, config.json and userdata.db, without a trailing separator: the folder of
+/// the executable. On Linux, if that folder is not writable, a folder of the user, which is created
+/// with copies of the two configuration files. Needs the application object.
 [[nodiscard]] QString settingsFolder();
 
 /// The user's folder of program shortcuts (Windows: the Start menu's "Programs").
@@ -25,11 +25,11 @@ namespace platform
 /// Folder that programs installed for one user keep their data in (Windows: AppData\Local).
 [[nodiscard]] QString localDataFolder();
 
-/// A Windows program's file name as this system spells it: "Zoom.exe" or "Zoom".
+/// File name that a Windows program has on this system: "Zoom.exe" on Windows, "Zoom" on Linux.
 [[nodiscard]] QString executableFileName(const QString& name);
 
-/// The program of this name (with ".exe") in the application's folder. On Linux the bare name where
-/// that folder has none, to be looked up in PATH. Needs the application object.
+/// Path of a program in the application's folder; `name` ends in ".exe". On Linux, if the folder
+/// does not hold it, the bare name, which is looked up in PATH. Needs the application object.
 [[nodiscard]] QString programBesideApplication(const QString& name);
 
 } // namespace platform

@@ -4,17 +4,17 @@
 
 #include <memory>
 
-/// Helpers of the single-instance guard, whose mark is a QSharedMemory segment.
+/// Helpers of the single-instance guard, which is a QSharedMemory segment.
 namespace platform
 {
 
-/// Held by a start while it attaches to or creates the segment, so that two starts never
-/// take each other's short attachment for a running instance. The system frees it when its holder
-/// dies.
+/// Serialises the starts of several processes while each attaches to or creates the segment.
+/// Otherwise one start could mistake the short attachment of another for a running instance. The
+/// system releases the lock when its holder dies.
 class InstanceLock
 {
 public:
-    /// Waits up to `patienceMs`; on failure the start goes on unguarded.
+    /// Waits for at most `patienceMs` milliseconds. Check isHeld() for the result.
     explicit InstanceLock(const QString& key, int patienceMs = 5000);
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;
@@ -27,7 +27,7 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// How long a second start tries to reach the first one, in milliseconds.
+/// Time that a second start tries to reach the first one, in milliseconds.
 [[nodiscard]] int handOverPatienceMs();
 
 } // namespace platform

@@ -5,9 +5,10 @@
 namespace platform
 {
 
-/// Lets the heap keep freed blocks of up to that size, `count` of them, instead of giving them back
-/// to the system, which would hand out their successors page by page as they are first touched.
-/// For the whole process and for good. Does nothing where the heap cannot be told.
+/// Lets the heap keep up to `count` freed blocks of up to `blockSize` bytes instead of returning
+/// them to the system, because every page of a block that comes from the system causes a page
+/// fault when it is first touched. Affects the whole process and cannot be undone. Call it before
+/// other threads allocate. Does nothing on systems whose heap has no such setting.
 void keepLargeBlocks(std::size_t blockSize, int count);
 
 } // namespace platform

@@ -12,17 +12,17 @@ namespace platform
 {
 
 struct KillOutcome {
-    bool finished = false; ///< false: the attempt itself did not end in time or could not start
+    bool finished = false; ///< false: the attempt could not start or did not end in time
     int exitCode = -1;     ///< 0: every process of the name was ended
-    QString errorText;     ///< why not, in the system's words
+    QString errorText;     ///< the system's message if the code is not 0
 };
 
-/// Ends every process of this name, on Linux but our own, without asking it.
+/// Kills every process of this name. On Linux the calling process is spared.
 [[nodiscard]] KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience,
                                           const std::stop_token& stop = {});
 
 struct RunningOutcome {
-    bool finished = false; ///< false: nothing is known
+    bool finished = false; ///< false: the state is unknown
     bool running = false;
 };
 

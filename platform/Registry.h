@@ -3,20 +3,20 @@
 #include <QString>
 #include <QVariant>
 
-/// The registry: on Windows the real one, on Linux one INI file per user. Any thread; values
-/// written by other processes are seen at once, and processes that write at the same time keep each
-/// other's.
+/// The registry: the real one on Windows, one INI file per user on Linux. Any thread. Values that
+/// other processes write are visible at once, and concurrent writers do not overwrite each other's
+/// values.
 namespace platform
 {
 
-/// Name of a key's default value.
-inline constexpr char16_t kDefaultValueName[] = u"Default";
+/// Name under which the default value of a key is addressed.
+inline constexpr char16_t DefaultValueName[] = u"Default";
 
-/// The value, or an invalid one when it is absent or cannot be read.
+/// The value; invalid if it is absent or cannot be read.
 /// @param keyPath  for example HKEY_CURRENT_USER\\Software\\Maker
 [[nodiscard]] QVariant readRegistry(const QString& keyPath, const QString& name);
 
-/// Stores a value and waits until it is written; false when it could not be.
+/// Stores a value and waits until it is written. False if writing failed.
 bool writeRegistry(const QString& keyPath, const QString& name, const QVariant& value);
 
 } // namespace platform

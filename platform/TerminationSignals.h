@@ -6,10 +6,10 @@
 namespace platform
 {
 
-/// The system's requests to end the program (SIGTERM, SIGINT and SIGHUP; on Windows the console's),
-/// handed to a callback in the main thread's event loop. One object at a time, made and destroyed
-/// on the main thread while the application object lives, after any other signal handler is
-/// installed.
+/// Passes the system's requests to end the program (SIGTERM, SIGINT and SIGHUP; on Windows the
+/// console events) to a callback, which runs in the event loop of the main thread. Only one object
+/// may exist. Construct and destroy it on the main thread while the application object exists, and
+/// construct it after other signal handlers are installed.
 class TerminationSignals
 {
 public:

@@ -14,8 +14,8 @@ struct FileVersions {
     std::array<quint16, 4> product{};
 };
 
-/// Version numbers of an executable, given by path or by a bare name that the system looks up
-/// beginning with the program's folder. On Linux only the running program has any. Any thread.
+/// Version numbers of an executable. `path` is a path or a bare name, which the system looks up in
+/// the program's folder first. On Linux only the running program has version numbers. Any thread.
 [[nodiscard]] std::optional<FileVersions> fileVersions(const QString& path);
 
 } // namespace platform

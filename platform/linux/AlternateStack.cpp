@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr std::size_t kStackSize = std::size_t{128} * 1024; // unwinding needs some of it
+constexpr std::size_t StackSize = std::size_t{128} * 1024; // the unwinder alone needs several pages
 
 class AlternateStack
 {
@@ -18,13 +18,13 @@ public:
         stack_t current = {};
         if (sigaltstack(nullptr, &current) != 0 || !(current.ss_flags & SS_DISABLE))
             return;
-        void* const memory = ::mmap(nullptr, kStackSize, PROT_READ | PROT_WRITE,
+        void* const memory = ::mmap(nullptr, StackSize, PROT_READ | PROT_WRITE,
                                     MAP_PRIVATE | MAP_ANONYMOUS | MAP_STACK, -1, 0);
         if (memory == MAP_FAILED)
             return;
         stack_t own = {};
         own.ss_sp = memory;
-        own.ss_size = kStackSize;
+        own.ss_size = StackSize;
         m_memory = memory;
         sigaltstack(&own, nullptr);
     }
@@ -36,7 +36,7 @@ public:
         stack_t none = {};
         none.ss_flags = SS_DISABLE;
         sigaltstack(&none, nullptr);
-        ::munmap(m_memory, kStackSize);
+        ::munmap(m_memory, StackSize);
     }
 
     AlternateStack(const AlternateStack&) = delete;

@@ -3,8 +3,8 @@
 namespace platform
 {
 
-/// Gives the calling thread a stack of its own for signal handlers, until it ends, unless it has
-/// one: a handler cannot run on a stack that has overflowed.
+/// Gives the calling thread an alternate stack for signal handlers unless it already has one,
+/// because a handler cannot run on a stack that has overflowed. Freed when the thread ends.
 void ensureAlternateStack();
 
 } // namespace platform

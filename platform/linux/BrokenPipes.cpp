@@ -5,9 +5,9 @@
 namespace platform
 {
 
-void surviveBrokenPipes()
+void ignoreBrokenPipes()
 {
-    std::signal(SIGPIPE, SIG_IGN); // QProcess gives children the default back
+    std::signal(SIGPIPE, SIG_IGN); // QProcess restores the default in children
 }
 
 } // namespace platform

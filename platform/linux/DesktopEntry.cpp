@@ -1,11 +1,13 @@
 #include "platform/linux/DesktopEntry.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-// First of two layers: every string value of an entry knows these escapes.
+// First of two layers of escapes: those of every string value of an entry.
 QString unescapeValue(const QString& value)
 {
     QString result;
@@ -31,7 +33,7 @@ QString unescapeValue(const QString& value)
         case u'\\':
             result += u'\\';
             break;
-        default: // unknown: left to the layer of quotes
+        default: // an escape of the second layer, the quoting rules
             result += u'\\';
             result += escaped;
         }
@@ -61,7 +63,7 @@ bool isAssignment(const QString& word)
     return equals > 0 && !word.first(equals).contains(u'/');
 }
 
-// What `env` would start: the first word that is neither an option nor an assignment.
+// The program that `env` starts: the first word that is neither an option nor an assignment.
 std::optional<QString> programOfEnv(const QStringList& words)
 {
     for (qsizetype i = 1; i < words.size(); ++i) {
@@ -74,7 +76,8 @@ std::optional<QString> programOfEnv(const QStringList& words)
     return std::nullopt;
 }
 
-/// Splits at blanks outside quotes.
+/// Splits an Exec value into program and arguments, resolves quotes and escapes and removes field
+/// codes (%U).
 class ExecSplitter
 {
 public:
@@ -83,6 +86,7 @@ public:
     {
     }
 
+    // Empty if a quote is not closed.
     std::optional<QStringList> split()
     {
         while (m_at < m_line.size()) {
@@ -99,7 +103,7 @@ public:
     }
 
 private:
-    // False when the line ends before the quote does.
+    // False if the quote is not closed.
     bool readQuoted()
     {
         m_hasWord = true;
@@ -116,7 +120,7 @@ private:
 
     void readPlain(QChar character)
     {
-        // A field code stands for a file or an address, of which there is none here.
+        // Field codes stand for files or addresses to open; there are none to open here.
         if (character == u'%' && m_at < m_line.size()) {
             if (m_line[m_at++] != u'%')
                 return;
@@ -147,15 +151,10 @@ private:
 namespace platform
 {
 
-std::optional<QStringList> splitExecLine(const QString& line)
-{
-    return ExecSplitter(line).split();
-}
-
 std::optional<QString> programOfDesktopEntry(QByteArrayView text)
 {
     const auto line = execLine(text);
-    const auto words = line ? splitExecLine(*line) : std::nullopt;
+    const auto words = line ? ExecSplitter(*line).split() : std::nullopt;
     if (!words || words->isEmpty() || words->first().isEmpty())
         return std::nullopt;
     const QString& program = words->first();

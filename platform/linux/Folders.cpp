@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// QStandardPaths knows the state folder only from Qt 6.7 on.
+// QStandardPaths has no state folder before Qt 6.7.
 QString stateFolder()
 {
     const QString configured = qEnvironmentVariable("XDG_STATE_HOME");
@@ -24,7 +24,7 @@ QString stateFolder()
 
 bool canWrite(const QString& folder)
 {
-    // Asked of the system rather than of the permission bits: a read-only mount has those as well.
+    // access() also detects a read-only mount, which the permission bits do not show.
     return ::access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
 }
 
@@ -32,7 +32,7 @@ void copyOnce(const QString& source, const QString& target)
 {
     if (QFileInfo::exists(target) || !QFile::copy(source, target))
         return;
-    // The installed original is usually read-only, and so would be its copy.
+    // The installed file is usually read-only, and the copy inherits its permissions.
     QFile::setPermissions(target,
                           QFile::permissions(target) | QFile::ReadOwner | QFile::WriteOwner);
 }

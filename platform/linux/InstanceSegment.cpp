@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kHandOverPatienceMs = 10'000; // a first start listens only some way into its start
-constexpr int kLockRetryMs = 5;
+constexpr int HandOverPatienceMs = 10'000; // the first instance does not listen at once
+constexpr int LockRetryMs = 5;
 
 bool lockWithin(int fd, int patienceMs)
 {
@@ -25,7 +25,7 @@ bool lockWithin(int fd, int patienceMs)
     while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
         if ((errno != EWOULDBLOCK && errno != EINTR) || deadline.hasExpired())
             return false;
-        ::poll(nullptr, 0, kLockRetryMs);
+        ::poll(nullptr, 0, LockRetryMs);
     }
     return true;
 }
@@ -67,7 +67,7 @@ bool InstanceLock::isHeld() const
 
 int handOverPatienceMs()
 {
-    return kHandOverPatienceMs;
+    return HandOverPatienceMs;
 }
 
 } // namespace platform

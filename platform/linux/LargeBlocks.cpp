@@ -9,14 +9,14 @@
 void platform::keepLargeBlocks([[maybe_unused]] std::size_t blockSize, [[maybe_unused]] int count)
 {
 #ifdef __GLIBC__
-    // Growing containers round their blocks up to a power of two, and add a header.
+    // Containers that grow round their blocks up to a power of two and add a header.
     const std::size_t largest = std::bit_ceil(blockSize) + blockSize / 4;
-    // More than the 64 MB that the heap of a thread is made of, or such a piece of it would be
-    // given back whenever it falls empty.
+    // More than 64 MB, the size of one piece of a thread's heap; otherwise a piece would be
+    // returned to the system whenever it becomes empty.
     const auto kept = static_cast<int>(2 * largest * static_cast<std::size_t>(count));
-    // Setting any of the three switches off the heap's own adjustment of the others, so all three
-    // are needed.
-    // NOLINTBEGIN(concurrency-mt-unsafe): before there is a video worker
+    // Setting one of the three parameters stops the heap from adjusting the others, so all three
+    // are set.
+    // NOLINTBEGIN(concurrency-mt-unsafe): called before the video worker starts
     mallopt(M_MMAP_THRESHOLD, static_cast<int>(largest));
     mallopt(M_TRIM_THRESHOLD, kept);
     mallopt(M_TOP_PAD, kept);

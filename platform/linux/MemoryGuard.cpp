@@ -31,7 +31,7 @@ namespace platform
 bool runGuarded(GuardedAccess access, void* context)
 {
     sigjmp_buf escape;
-    // Saving the signal mask here would cost a system call each time; the handler restores it.
+    // Saving the signal mask here would cost a system call; the handler restores it instead.
     if (sigsetjmp(escape, 0) != 0) {
         t_escape = nullptr;
         return false;
@@ -46,8 +46,8 @@ bool runGuarded(GuardedAccess access, void* context)
 
 void installMemoryGuard()
 {
-    static std::once_flag once;
-    std::call_once(once, [] {
+    static std::once_flag s_once;
+    std::call_once(s_once, [] {
         struct sigaction action = {};
         action.sa_sigaction = onBusError;
         action.sa_flags = SA_SIGINFO | SA_ONSTACK;

@@ -3,19 +3,19 @@
 #include <memory>
 #include <type_traits>
 
-/// Access to memory that another process may take away meanwhile.
+/// Access to mapped memory that another process may truncate at any time.
 ///
-/// Touching a page beyond the end of a shared object that was cut short raises SIGBUS. Copying
-/// through the kernel (pread) would report it as an error, but is slower than copying from the
-/// mapping; so the access runs as it is, and the signal's handler jumps out of it. The price is one
-/// sigsetjmp, which saves a few registers and makes no system call.
+/// Touching a page beyond the end of a truncated object raises SIGBUS. Copying through the kernel
+/// (pread) would report an error instead, but is slower than copying from the mapping. So the
+/// access runs unchecked, and the signal handler jumps out of it. The cost is one sigsetjmp, which
+/// saves a few registers and makes no system call.
 namespace platform
 {
 
 using GuardedAccess = void (*)(void* context);
 
-/// Runs `access`; false when it was cut off because its memory is gone. It must own nothing that
-/// needs a destructor and must not be nested.
+/// Runs `access`. False if it was interrupted because its memory is gone. `access` must not own
+/// objects with destructors, and calls must not be nested. Any thread.
 [[nodiscard]] bool runGuarded(GuardedAccess access, void* context);
 
 template <typename Access>
@@ -26,13 +26,13 @@ template <typename Access>
                       std::addressof(access));
 }
 
-/// Takes over SIGBUS, once a process. Signals raised outside a guarded access go to the handler
-/// that was installed before.
+/// Installs the SIGBUS handler; only the first call has an effect. Signals that are raised outside
+/// a guarded access go to the handler that was installed before. Any thread.
 void installMemoryGuard();
 
-/// For other handlers of SIGBUS, to be called first: does not return when the calling thread is in
-/// a guarded access.
-/// @param context  the handler's third argument
+/// Other handlers of SIGBUS call this first. It does not return if the calling thread is in a
+/// guarded access. Async-signal-safe.
+/// @param context  third argument of the handler
 void leaveGuardedAccess(const void* context);
 
 } // namespace platform

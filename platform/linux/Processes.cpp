@@ -27,9 +27,9 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-constexpr qsizetype kCommandNameLimit = 15; // the kernel cuts longer names off
-constexpr std::chrono::milliseconds kEndPatience{1000};
-constexpr int kNotFound = 128; // as the Windows tool reports it
+constexpr qsizetype CommandNameLimit = 15; // of the kernel, which truncates longer names
+constexpr std::chrono::milliseconds EndPatience{1000};
+constexpr int NotFound = 128; // exit code of taskkill, the Windows tool
 
 class FileDescriptor
 {
@@ -57,7 +57,7 @@ private:
     int m_fd;
 };
 
-// By number, since the C library's own declarations lack C linkage in some versions.
+// By number, because some versions of the C library declare these functions without C linkage.
 int openProcess(pid_t pid)
 {
     return static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
@@ -73,7 +73,7 @@ QByteArray procPath(pid_t pid, const char* entry)
     return "/proc/" + QByteArray::number(pid) + '/' + entry;
 }
 
-// Start of a small file; empty when the process is gone.
+// First bytes of a small file; empty if the process has ended.
 QByteArray readStart(const QByteArray& path)
 {
     const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC));
@@ -87,7 +87,7 @@ QByteArrayView fileNameOf(QByteArrayView path)
     return path.sliced(path.lastIndexOf('/') + 1);
 }
 
-/// One image name, compared with processes.
+/// An image name that can be compared with processes.
 class ImageName
 {
 public:
@@ -103,7 +103,7 @@ public:
         std::array<char, 4096> target;
         const auto length =
             ::readlink(procPath(pid, "exe").constData(), target.data(), target.size());
-        // Kernel threads and processes that have ended but were not waited for have no executable.
+        // Kernel threads and zombies have no executable.
         if (length < 0 && errno != EACCES)
             return false;
         if (length > 0 && equals(executableName({target.data(), length})))
@@ -112,11 +112,11 @@ public:
         const QByteArray command = readStart(procPath(pid, "comm")).trimmed();
         if (equals(command))
             return true;
-        return command.size() == kCommandNameLimit && beginsWith(command) && isInCommandLine(pid);
+        return command.size() == CommandNameLimit && beginsWith(command) && isInCommandLine(pid);
     }
 
 private:
-    // A running program whose file was replaced or removed is still that program.
+    // The kernel marks the file of a running program that was replaced or removed.
     static QByteArrayView executableName(QByteArrayView path)
     {
         constexpr QByteArrayView removed(" (deleted)");
@@ -132,7 +132,7 @@ private:
 
     [[nodiscard]] bool beginsWith(QByteArrayView start) const { return m_full.startsWith(start); }
 
-    // The whole name of a script, whose executable is its interpreter, is one of the first
+    // The executable of a script is its interpreter; the script's name is one of the first
     // arguments.
     [[nodiscard]] bool isInCommandLine(pid_t pid) const
     {
@@ -155,7 +155,7 @@ std::vector<pid_t> processesNamed(const ImageName& name)
     if (!folder)
         return found;
     const pid_t self = ::getpid();
-    // One thread reads this stream, which is all that readdir() asks for.
+    // readdir() is safe as long as only one thread reads the stream.
     while (const dirent* entry = ::readdir(folder)) { // NOLINT(concurrency-mt-unsafe)
         bool isNumber = false;
         const pid_t pid = QByteArrayView(entry->d_name).toInt(&isNumber);
@@ -166,32 +166,32 @@ std::vector<pid_t> processesNamed(const ImageName& name)
     return found;
 }
 
-struct Victim {
-    FileDescriptor handle; // invalid where the kernel has no handles for processes
-    int error = 0;         // why the signal could not be sent
+struct KilledProcess {
+    FileDescriptor handle; // invalid if the kernel has no handles for processes
+    int error = 0;         // errno if the signal could not be sent
 };
 
-// Empty when the process ended meanwhile and its number may belong to another.
-std::optional<Victim> killProcess(pid_t pid, const ImageName& name)
+// Empty if the process has ended, because its number may belong to another one by now.
+std::optional<KilledProcess> killProcess(pid_t pid, const ImageName& name)
 {
-    Victim victim{FileDescriptor(openProcess(pid))};
+    KilledProcess process{FileDescriptor(openProcess(pid))};
     if (!name.isNameOf(pid))
         return std::nullopt;
-    const int result = victim.handle.get() >= 0 ? signalProcess(victim.handle.get(), SIGKILL)
-                                                : ::kill(pid, SIGKILL);
+    const int result = process.handle.get() >= 0 ? signalProcess(process.handle.get(), SIGKILL)
+                                                 : ::kill(pid, SIGKILL);
     if (result != 0 && errno == ESRCH)
         return std::nullopt;
-    victim.error = result == 0 ? 0 : errno;
-    return victim;
+    process.error = result == 0 ? 0 : errno;
+    return process;
 }
 
-// The signal takes effect a little later; a process stuck in the kernel is not waited for.
-void waitForEnd(const Victim& victim, Clock::time_point deadline)
+// Waits because the signal takes effect asynchronously, but not for a process stuck in the kernel.
+void waitForEnd(const KilledProcess& process, Clock::time_point deadline)
 {
     const auto left =
         std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()).count();
-    pollfd poll{victim.handle.get(), POLLIN, 0};
-    if (victim.error == 0 && victim.handle.get() >= 0)
+    pollfd poll{process.handle.get(), POLLIN, 0};
+    if (process.error == 0 && process.handle.get() >= 0)
         ::poll(&poll, 1, static_cast<int>(qMax<qint64>(left, 0)));
 }
 
@@ -204,29 +204,29 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
                             const std::stop_token&)
 {
     const ImageName image(name);
-    std::vector<Victim> victims;
+    std::vector<KilledProcess> killed;
     QStringList errors;
     for (const pid_t pid : processesNamed(image)) {
-        auto victim = killProcess(pid, image);
-        if (!victim)
+        auto process = killProcess(pid, image);
+        if (!process)
             continue;
-        if (victim->error != 0)
-            errors << u"process %1: %2"_s.arg(pid).arg(qt_error_string(victim->error));
-        victims.push_back(std::move(*victim));
+        if (process->error != 0)
+            errors << u"process %1: %2"_s.arg(pid).arg(qt_error_string(process->error));
+        killed.push_back(std::move(*process));
     }
-    if (victims.empty())
-        return {true, kNotFound, u"no process found: "_s + name};
+    if (killed.empty())
+        return {true, NotFound, u"no process found: "_s + name};
 
-    const auto deadline = Clock::now() + qMin(patience, kEndPatience);
-    for (const Victim& victim : victims)
-        waitForEnd(victim, deadline);
+    const auto deadline = Clock::now() + qMin(patience, EndPatience);
+    for (const KilledProcess& process : killed)
+        waitForEnd(process, deadline);
     return {true, errors.isEmpty() ? 0 : 1, errors.join(u'\n')};
 }
 
 RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds,
                               const std::stop_token&)
 {
-    // The one that was found the last time is most often still there, and cheap to look at.
+    // Checking the process that was found last is cheap, and it usually still runs.
     static std::atomic<pid_t> s_lastFound{0};
     const ImageName image(name);
     if (const pid_t last = s_lastFound; last != 0 && image.isNameOf(last))

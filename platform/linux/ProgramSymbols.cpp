@@ -19,7 +19,7 @@ using Section = ElfW(Shdr);
 struct SymbolTable {
     std::span<const Symbol> symbols;
     std::string_view names;
-    std::uintptr_t base = 0; // where the loader put address 0 of the file
+    std::uintptr_t base = 0; // load address of the file's address 0
 };
 SymbolTable g_table;
 
@@ -39,7 +39,7 @@ std::span<const std::byte> mapOwnFile()
     return {static_cast<const std::byte*>(file), static_cast<std::size_t>(status.st_size)};
 }
 
-/// An array inside the file; empty when it reaches beyond its end.
+/// An array inside the file; empty if it exceeds the file.
 template <typename Entry>
 std::span<const Entry> entriesAt(std::span<const std::byte> file, std::size_t offset,
                                  std::size_t count)
@@ -76,7 +76,7 @@ namespace platform
 void loadProgramSymbols()
 {
     g_table = readTable(mapOwnFile());
-    // The program itself comes first.
+    // The first entry is the program itself.
     ::dl_iterate_phdr(
         [](dl_phdr_info* info, std::size_t, void*) {
             g_table.base = info->dlpi_addr;

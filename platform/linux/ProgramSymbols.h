@@ -6,18 +6,18 @@
 namespace platform
 {
 
-/// A function of the program's own file.
+/// A function of the program's executable file.
 struct ProgramSymbol {
-    std::string_view name; ///< as the linker knows it
+    std::string_view name; ///< mangled
     unsigned long offset = 0;
 };
 
-/// Opens the program's own table of functions. The loader knows only those that are exported, which
-/// of a program are none. To be called once, before anything crashes.
+/// Maps the symbol table of the program's file. The dynamic loader knows exported functions only,
+/// and a program exports none. Call it once, from the main thread, before anything crashes.
 void loadProgramSymbols();
 
-/// The function that an address lies in; none outside the program, or when it was stripped. Takes
-/// no lock and allocates nothing.
+/// The function that contains an address. Empty for addresses outside the program and if the
+/// program is stripped. Async-signal-safe.
 [[nodiscard]] std::optional<ProgramSymbol> programSymbol(const void* address);
 
 } // namespace platform

@@ -28,14 +28,14 @@ QString iniKey(QString keyPath, const QString& name)
     return keyPath.replace(u'\\', u'/') + u'/' + name;
 }
 
-/// Tells one content of a file from another.
+/// Identifies one version of a file's content.
 struct FileState {
     QString path;
     std::array<qint64, 5> marks{};
     bool operator==(const FileState&) const = default;
 };
 
-/// Empty when two writes so close together may have left the same marks.
+/// Empty if the last write is so recent that a further one could leave the same state.
 std::optional<FileState> settledState(const QString& path)
 {
     struct stat status = {};
@@ -43,16 +43,16 @@ std::optional<FileState> settledState(const QString& path)
         return FileState{path, {}};
     timespec now = {};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    constexpr time_t kSettlingSeconds = 2;
-    if (now.tv_sec - status.st_mtim.tv_sec < kSettlingSeconds)
+    constexpr time_t SettlingSeconds = 2;
+    if (now.tv_sec - status.st_mtim.tv_sec < SettlingSeconds)
         return std::nullopt;
     return FileState{path,
                      {qint64(status.st_ino), qint64(status.st_size), status.st_mtim.tv_sec,
                       status.st_mtim.tv_nsec, status.st_ctim.tv_nsec}};
 }
 
-/// The file's values as they were last read. Two of them are asked for every second, for which the
-/// file's state is enough to look at.
+/// Cache of the file's values. The program polls two of them every second, and comparing the file's
+/// state is cheaper than reading it. Any thread.
 class RegistryValues
 {
 public:
@@ -78,7 +78,7 @@ private:
             m_values.insert(key, settings.value(key));
     }
 
-    std::mutex m_mutex;
+    std::mutex m_mutex; // guards the members below
     QHash<QString, QVariant> m_values;
     std::optional<FileState> m_state;
 };
@@ -93,7 +93,7 @@ QVariant readRegistry(const QString& keyPath, const QString& name)
     static RegistryValues s_values;
     QVariant value = s_values.value(iniKey(keyPath, name));
 
-    // A file written by hand may hold an unquoted comma, as in an icon reference.
+    // QSettings splits an unquoted value at its commas, for example the icon reference "a.exe,0".
     if (value.typeId() == QMetaType::QStringList)
         return value.toStringList().join(u',');
     return value;
@@ -101,11 +101,11 @@ QVariant readRegistry(const QString& keyPath, const QString& name)
 
 bool writeRegistry(const QString& keyPath, const QString& name, const QVariant& value)
 {
-    // sync() merges with what other processes wrote, under a lock file.
+    // sync() merges with the values of other processes, under a lock file.
     QSettings registry(registryFile(), QSettings::IniFormat);
     registry.setValue(iniKey(keyPath, name), value);
     registry.sync();
-    return registry.status() != QSettings::AccessError; // lines that cannot be read do not matter
+    return registry.status() != QSettings::AccessError; // unreadable lines are no failure to write
 }
 
 } // namespace platform

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 kEntryLimit = 1 << 20; // far above any real entry
+constexpr qint64 EntryLimit = 1 << 20; // bytes; real entries are far smaller
 
 platform::ShortcutTarget failure(const QString& why)
 {
@@ -26,12 +26,12 @@ namespace platform
 ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds)
 {
     QFile file(path);
-    // A pipe of that name would block its reader for good.
+    // Opening a named pipe would block until somebody writes to it.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         return failure(u"not a regular file"_s);
     if (!file.open(QIODevice::ReadOnly))
         return failure(file.errorString());
-    const auto program = programOfDesktopEntry(file.read(kEntryLimit));
+    const auto program = programOfDesktopEntry(file.read(EntryLimit));
     if (!program)
         return failure(u"no program in the desktop entry"_s);
 

@@ -16,10 +16,9 @@ void passOn(int signal, siginfo_t* info, void* context, const struct sigaction& 
         return;
     }
     sigaction(signal, &previous, nullptr);
-    // A fault happens again when its instruction is repeated; a signal that was sent has to be sent
-    // anew.
-    const bool repeatsItself = info->si_code > 0;
-    if (!repeatsItself)
+    // A fault recurs when its instruction is executed again; a signal that was sent does not.
+    const bool isFault = info->si_code > 0;
+    if (!isFault)
         ::tgkill(::getpid(), ::gettid(), signal);
 }
 

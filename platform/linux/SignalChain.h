@@ -5,9 +5,9 @@
 namespace platform
 {
 
-/// Hands a signal that this handler is done with to the one installed before it, on the same stack:
-/// it may be the only one left. Without an earlier handler the system's own action follows as soon
-/// as this handler returns. Safe in a signal handler.
+/// Passes a signal from a handler to the one that was installed before it. The earlier handler runs
+/// on the same stack, because no other may be left. If there was none, the system's default action
+/// takes effect as soon as the calling handler returns. Async-signal-safe.
 void passOn(int signal, siginfo_t* info, void* context, const struct sigaction& previous);
 
 } // namespace platform

@@ -14,9 +14,9 @@
 namespace
 {
 
-constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
+constexpr std::array Signals{SIGTERM, SIGINT, SIGHUP};
 
-// Made once and never closed: a handler may still be writing to it on another thread.
+// Never closed, because a handler on another thread may still write to it.
 int wakeUp()
 {
     static const int fd = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
@@ -55,14 +55,14 @@ public:
         action.sa_handler = onSignal;
         action.sa_flags = SA_RESTART;
         sigemptyset(&action.sa_mask);
-        for (std::size_t i = 0; i < kSignals.size(); ++i)
-            sigaction(kSignals[i], &action, &previous[i]);
+        for (std::size_t i = 0; i < Signals.size(); ++i)
+            sigaction(Signals[i], &action, &previous[i]);
     }
 
     ~Private()
     {
-        for (std::size_t i = 0; i < kSignals.size(); ++i)
-            sigaction(kSignals[i], &previous[i], nullptr);
+        for (std::size_t i = 0; i < Signals.size(); ++i)
+            sigaction(Signals[i], &previous[i], nullptr);
     }
 
     Private(const Private&) = delete;
@@ -70,7 +70,7 @@ public:
 
     std::function<void()> requested;
     QSocketNotifier notifier;
-    std::array<struct sigaction, kSignals.size()> previous{};
+    std::array<struct sigaction, Signals.size()> previous{};
 };
 
 TerminationSignals::TerminationSignals(std::function<void()> requested)

@@ -11,8 +11,8 @@ namespace platform
 
 void nameCurrentThread(const char* name)
 {
-    constexpr std::size_t kLimit = 15; // the kernel's; longer names are refused
-    pthread_setname_np(pthread_self(), std::string(name).substr(0, kLimit).c_str());
+    constexpr std::size_t Limit = 15; // of the kernel, which refuses longer names
+    pthread_setname_np(pthread_self(), std::string(name).substr(0, Limit).c_str());
     ensureAlternateStack();
 }
 

@@ -9,14 +9,14 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr std::array<quint16, 4> kCompiledVersion{VORN_VERSION_NUMBERS};
+constexpr std::array<quint16, 4> CompiledVersion{VORN_VERSION_NUMBERS};
 
 bool isRunningProgram(const QString& path)
 {
     const QString self = QFileInfo(u"/proc/self/exe"_s).canonicalFilePath();
     if (path.contains(u'/'))
         return !self.isEmpty() && QFileInfo(path).canonicalFilePath() == self;
-    // A bare name is the one the program was started under, or its own.
+    // A bare name matches the name the program was started under or the name of its file.
     return path == QFile::decodeName(program_invocation_short_name) ||
            path == QFileInfo(self).fileName();
 }
@@ -30,7 +30,7 @@ std::optional<FileVersions> fileVersions(const QString& path)
 {
     if (!isRunningProgram(path))
         return std::nullopt;
-    return FileVersions{kCompiledVersion, kCompiledVersion};
+    return FileVersions{CompiledVersion, CompiledVersion};
 }
 
 } // namespace platform

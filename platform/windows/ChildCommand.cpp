@@ -16,9 +16,9 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kSliceMs = 50; // how soon a request to stop is seen
+constexpr int SliceMs = 50; // longest delay until a stop request is noticed
 
-/// As the system was set up: GetOEMCP() tells of this program, whose manifest says UTF-8.
+/// The system's OEM code page. GetOEMCP() would return UTF-8 because of our manifest.
 UINT systemCodePage()
 {
     static const UINT s_page = [] {
@@ -42,7 +42,7 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
 {
     const QDeadlineTimer deadline(patience);
     process.start(program, arguments);
-    while (!process.waitForFinished(kSliceMs)) {
+    while (!process.waitForFinished(SliceMs)) {
         if (process.state() == QProcess::NotRunning)
             break;
         if (deadline.hasExpired() || stop.stop_requested() ||
@@ -52,7 +52,7 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
         }
     }
     return process.error() == QProcess::UnknownError ||
-           process.error() == QProcess::Timedout; // the latter from a slice that was too short
+           process.error() == QProcess::Timedout; // set by a slice that ended before the tool did
 }
 
 QString toolOutput(const QByteArray& text)

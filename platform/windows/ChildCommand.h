@@ -11,14 +11,13 @@ class QProcess;
 namespace platform
 {
 
-/// Runs one of the system's command-line tools to its end. False when it could not start, crashed,
-/// did not end in time, or the stop was requested or the calling QThread interrupted meanwhile; it
-/// is killed then.
+/// Runs one of the system's command-line tools and waits for its end. False when it could not
+/// start, crashed, did not end in time, or the stop was requested or the calling QThread
+/// interrupted meanwhile; it is killed then.
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
                 std::chrono::milliseconds patience, const std::stop_token& stop = {});
 
-/// What such a tool printed. They write in the code page of the system, which is not this
-/// program's.
+/// Converts the output of such a tool, which is in the system's OEM code page.
 QString toolOutput(const QByteArray& text);
 
 } // namespace platform

@@ -23,17 +23,17 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// Codes of our own, in the range left to applications.
-constexpr DWORD kUncaughtException = 0xE0564F52;
-constexpr DWORD kAborted = 0xE0564F53;
+// Exception codes in the range reserved for applications.
+constexpr DWORD UncaughtException = 0xE0564F52;
+constexpr DWORD Aborted = 0xE0564F53;
 
-constexpr DWORD kDumpPatienceMs = 10'000;
-constexpr DWORD kLogPatienceMs = 1'000;
+constexpr DWORD DumpPatienceMs = 10'000;
+constexpr DWORD LogPatienceMs = 1'000;
 
 using SignalHandler = void (*)(int);
-// With a handler for one of these the C library keeps the exception from the system's filter.
-constexpr std::array kSignals{SIGSEGV, SIGILL, SIGFPE};
-std::array<SignalHandler, kSignals.size()> g_previous{};
+// If a handler for one of these is set, the C library does not pass the exception to the filter.
+constexpr std::array Signals{SIGSEGV, SIGILL, SIGFPE};
+std::array<SignalHandler, Signals.size()> g_previous{};
 SignalHandler g_previousAbort = SIG_DFL;
 std::terminate_handler g_previousTerminate = nullptr;
 
@@ -68,8 +68,8 @@ QString writeDump(DWORD thread, EXCEPTION_POINTERS* exceptionPointers)
     return "Dump file created successfully at:"_L1 + name;
 }
 
-/// A thread that has waited for the crash does the work: the crashed one may have no stack left,
-/// and may hold the logger's lock. Hence the log also comes after the dump.
+/// Writes the dump and the log lines on a thread of its own, because the crashed thread may have no
+/// stack left and may hold the lock of the logger. For that reason the log lines follow the dump.
 struct Reporter {
     platform::CrashLine writeLine = nullptr;
     HANDLE wake = nullptr;
@@ -90,20 +90,20 @@ struct Reporter {
 };
 Reporter g_report;
 
-// One dump a process, of the first crash: what another thread does meanwhile is its consequence.
+// Only the first crash is dumped; later ones are probably consequences of it.
 LONG GenerateDump(EXCEPTION_POINTERS* exceptionPointers)
 {
-    DWORD nobody = 0;
+    DWORD reporter = 0;
     const DWORD thread = GetCurrentThreadId();
-    if (g_reporter.compare_exchange_strong(nobody, thread)) {
+    if (g_reporter.compare_exchange_strong(reporter, thread)) {
         g_report.thread = thread;
         g_report.exceptionPointers = exceptionPointers;
         SetEvent(g_report.wake);
-    } else if (nobody == thread) { // abort() follows what has been reported
+    } else if (reporter == thread) { // the abort() after a reported crash
         return EXCEPTION_EXECUTE_HANDLER;
     }
-    WaitForSingleObject(g_report.written, kDumpPatienceMs);
-    WaitForSingleObject(g_report.logged, kLogPatienceMs);
+    WaitForSingleObject(g_report.written, DumpPatienceMs);
+    WaitForSingleObject(g_report.logged, LogPatienceMs);
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
@@ -135,14 +135,14 @@ LONG WINAPI onUnhandledException(EXCEPTION_POINTERS* exceptionPointers)
 {
     const LONG result = GenerateDump(exceptionPointers);
     const int signal = signalOf(exceptionPointers->ExceptionRecord->ExceptionCode);
-    for (std::size_t i = 0; i < kSignals.size(); ++i) {
-        if (kSignals[i] == signal)
+    for (std::size_t i = 0; i < Signals.size(); ++i) {
+        if (Signals[i] == signal)
             passOn(signal, g_previous[i]);
     }
     return result;
 }
 
-// For ends of the program that the system does not know as exceptions.
+// Dumps the calling thread, for failures that are no exceptions of the system.
 void dumpHere(DWORD code)
 {
     CONTEXT context{};
@@ -155,10 +155,10 @@ void dumpHere(DWORD code)
     GenerateDump(&pointers);
 }
 
-// With MinGW an uncaught C++ exception ends here and never reaches the filter.
+// With MinGW an uncaught C++ exception ends here and does not reach the filter.
 [[noreturn]] void onTerminate()
 {
-    dumpHere(kUncaughtException);
+    dumpHere(UncaughtException);
     if (g_previousTerminate)
         g_previousTerminate();
     std::abort();
@@ -166,7 +166,7 @@ void dumpHere(DWORD code)
 
 void onAbort(int signal)
 {
-    dumpHere(kAborted);
+    dumpHere(Aborted);
     passOn(signal, g_previousAbort);
 }
 
@@ -176,8 +176,7 @@ void startReporter(platform::CrashLine writeLine)
     g_report.wake = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     g_report.written = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     g_report.logged = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    // It sleeps until a crash and touches nothing that is ever destroyed, hence it can be left
-    // behind.
+    // Detached: it waits until a crash and uses only objects that are never destroyed.
     std::thread([] { g_report.run(); }).detach();
 }
 
@@ -191,8 +190,8 @@ void installCrashHandler(CrashLine writeLine)
     startReporter(writeLine);
     reserveStackForCrash();
     SetUnhandledExceptionFilter(onUnhandledException);
-    for (std::size_t i = 0; i < kSignals.size(); ++i)
-        g_previous[i] = std::signal(kSignals[i], SIG_DFL);
+    for (std::size_t i = 0; i < Signals.size(); ++i)
+        g_previous[i] = std::signal(Signals[i], SIG_DFL);
     g_previousAbort = std::signal(SIGABRT, onAbort);
     g_previousTerminate = std::set_terminate(onTerminate);
 }

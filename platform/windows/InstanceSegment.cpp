@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kHandOverPatienceMs = 1'000;
+constexpr int HandOverPatienceMs = 1'000;
 
 } // namespace
 
@@ -47,7 +47,7 @@ bool InstanceLock::isHeld() const
 
 int handOverPatienceMs()
 {
-    return kHandOverPatienceMs;
+    return HandOverPatienceMs;
 }
 
 } // namespace platform

@@ -2,5 +2,5 @@
 
 void platform::keepLargeBlocks(std::size_t, int)
 {
-    // The heap takes blocks of this size from the system each time, whatever it is told.
+    // The heap always takes blocks of this size from the system; there is no setting for it.
 }

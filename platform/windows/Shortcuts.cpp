@@ -11,7 +11,7 @@ namespace platform
 
 ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds patience)
 {
-    // Inside single quotes PowerShell knows one escape: the doubled quote, for names like O'Brien.
+    // A quote inside a single-quoted PowerShell string is doubled.
     QString quotedPath = path;
     quotedPath.replace(u'\'', u"''"_s);
     const QString script =

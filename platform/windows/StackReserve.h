@@ -3,8 +3,8 @@
 namespace platform
 {
 
-/// Keeps some of the calling thread's stack back, so that the crash handler can still run on it
-/// after an overflow.
+/// Reserves a part of the calling thread's stack so that the crash handler can run after a stack
+/// overflow.
 void reserveStackForCrash();
 
 } // namespace platform

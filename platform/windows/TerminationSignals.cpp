@@ -10,25 +10,25 @@
 namespace
 {
 
-constexpr DWORD kEndPatienceMs = 5'000; // the system itself waits no longer
+constexpr DWORD EndPatienceMs = 5'000; // the system waits no longer than this
 
-// The console calls its handler on a thread of its own, also while the object goes away.
-std::mutex g_mutex;
+// The console calls its handler on a thread of its own, possibly while the object is destroyed.
+std::mutex g_mutex; // guards the two pointers
 QObject* g_receiver = nullptr;
 const std::function<void()>* g_requested = nullptr;
 
 BOOL WINAPI onConsoleEvent(DWORD event)
 {
     {
-        const std::lock_guard lock(g_mutex);
+        const std::scoped_lock lock(g_mutex);
         if (!g_receiver)
             return FALSE;
         QMetaObject::invokeMethod(g_receiver, *g_requested, Qt::QueuedConnection);
     }
-    // Returning from these ends the process at once; it ends by itself when the main thread is
-    // done.
+    // The system ends the process as soon as the handler of these events returns. The process ends
+    // by itself when the main thread has finished.
     if (event == CTRL_CLOSE_EVENT || event == CTRL_LOGOFF_EVENT || event == CTRL_SHUTDOWN_EVENT)
-        Sleep(kEndPatienceMs);
+        Sleep(EndPatienceMs);
     return TRUE;
 }
 
@@ -44,7 +44,7 @@ public:
         : requested(std::move(callback))
     {
         {
-            const std::lock_guard lock(g_mutex);
+            const std::scoped_lock lock(g_mutex);
             g_receiver = &receiver;
             g_requested = &requested;
         }
@@ -54,7 +54,7 @@ public:
     ~Private()
     {
         SetConsoleCtrlHandler(onConsoleEvent, FALSE);
-        const std::lock_guard lock(g_mutex);
+        const std::scoped_lock lock(g_mutex);
         g_receiver = nullptr;
         g_requested = nullptr;
     }

@@ -11,13 +11,13 @@ namespace platform
 
 void reserveStackForCrash()
 {
-    ULONG bytes = 64 * 1024; // writing a dump takes a good part of it
+    ULONG bytes = 64 * 1024; // writing a dump uses most of it
     SetThreadStackGuarantee(&bytes);
 }
 
 void nameCurrentThread(const char* name)
 {
-    // Found at run time: import libraries of older tool chains do not know it.
+    // Resolved at run time because import libraries of older tool chains lack it.
     using SetDescription = HRESULT(WINAPI*)(HANDLE, PCWSTR);
     const auto setDescription = reinterpret_cast<SetDescription>(reinterpret_cast<void*>(
         GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetThreadDescription")));
