@@ -4,7 +4,7 @@
 
 void FrameHeader::parse(const std::array<uchar, HeaderSize>& bytes)
 {
-    frame_idx = qFromLittleEndian<quint32>(bytes.data());
+    frameNumber = qFromLittleEndian<quint32>(bytes.data());
     w = qFromLittleEndian<quint16>(bytes.data() + 4);
     h = qFromLittleEndian<quint16>(bytes.data() + 6);
     len = qFromLittleEndian<qint32>(bytes.data() + 8);

@@ -22,7 +22,7 @@ struct FrameHeader {
     static constexpr std::size_t ViewSize = 12'441'664;
 
     quint8 index = 0;
-    quint32 frame_idx = 0;
+    quint32 frameNumber = 0;
     quint16 w = 0;
     quint16 h = 0;
     qint32 len = 0;

@@ -29,7 +29,7 @@ QVideoFrameFormat frameFormat(const FrameHeader& header)
 void appendHeader(Log::Message& message, const FrameHeader& header)
 {
     message << "index:" << header.index << ", w:" << header.w << ", h:" << header.h
-            << ", len:" << header.len << ", frame_idx:" << header.frame_idx;
+            << ", len:" << header.len << ", frame_idx:" << header.frameNumber;
 }
 
 } // namespace

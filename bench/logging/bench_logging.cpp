@@ -1,6 +1,7 @@
 // Compares a line of our log with a plain line of glog. glog is process-wide, so two child
 // processes write the lines, and the parent runs them in turn.
 #include "app/LogInit.h"
+#include "bench/Quantile.h"
 #include "logging/Log.h"
 
 #include <glog/logging.h>
@@ -9,7 +10,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <string>
@@ -95,13 +95,6 @@ public:
 private:
     QProcess m_process;
 };
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 int compare()
 {

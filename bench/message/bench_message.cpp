@@ -1,3 +1,4 @@
+#include "bench/Quantile.h"
 #include "rig/Fakes.h"
 
 #include <glog/logging.h>
@@ -6,7 +7,6 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace
@@ -37,12 +37,6 @@ double microsecondsEach(Work work)
     for (int i = 0; i < MessagesPerRound; ++i)
         work(volumeMessage(i));
     return double(timer.nsecsElapsed()) / 1000 / MessagesPerRound;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 /// Alternates the two so that both see the same state of the machine.

@@ -1,3 +1,4 @@
+#include "bench/Quantile.h"
 #include "simulator/devices/DeviceTree.h"
 
 #include <QCoreApplication>
@@ -13,7 +14,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <unistd.h>
@@ -36,12 +36,6 @@ void waitFor(int milliseconds)
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 QByteArray procFile(qint64 pid, const char* name)

@@ -1,3 +1,4 @@
+#include "bench/Quantile.h"
 #include "bench/video/FrameSource.h"
 #include "bench/video/MemoryUse.h"
 #include "device/FrameHeader.h"
@@ -34,18 +35,6 @@ constexpr std::size_t DataOffset = 1 + FrameHeader::HeaderSize;
 constexpr std::size_t FirstFrames = 12; // until the memory has been touched once
 
 using Times = std::vector<double>; // microseconds
-
-double quantile(Times times, double part)
-{
-    const auto at = times.begin() + std::ptrdiff_t(part * double(times.size() - 1));
-    std::nth_element(times.begin(), at, times.end());
-    return *at;
-}
-
-double median(const Times& times)
-{
-    return quantile(times, 0.5);
-}
 
 /// Two bare copies of a frame's bytes into warm buffers, one after another.
 class BareCopy

@@ -51,7 +51,7 @@ public:
 
     void putHeader(const FrameHeader& header)
     {
-        framelayout::store({header.index, header.frame_idx, header.w, header.h, header.len},
+        framelayout::store({header.index, header.frameNumber, header.w, header.h, header.len},
                            view());
     }
 

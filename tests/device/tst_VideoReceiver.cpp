@@ -47,7 +47,7 @@ QString invalidLine(const FrameHeader& header)
                       .arg(seen.w)
                       .arg(seen.h)
                       .arg(seen.len)
-                      .arg(seen.frame_idx);
+                      .arg(seen.frameNumber);
 }
 
 /// A receiver whose writer is the test.
