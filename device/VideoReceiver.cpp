@@ -2,6 +2,7 @@
 
 #include "device/FrameHeader.h"
 #include "logging/Log.h"
+#include "threads/Worker.h"
 
 #include <QVideoFrameFormat>
 
@@ -15,7 +16,8 @@ constexpr auto EventName = "vorn_vframe_event_2025_05_19";
 constexpr auto Function = "DeviceControl::RecvSharedMemoryProc";
 constexpr quint64 FramesPerLogLine = 1000;
 
-/// The frames carry no colour description; the writer's is BT.601, and Qt's own guess goes by size.
+/// The frames carry no colour description. The display writes BT.601; Qt would choose by the size
+/// of the picture.
 constexpr auto FrameColorSpace = QVideoFrameFormat::ColorSpace_BT601;
 
 QVideoFrameFormat frameFormat(const FrameHeader& header)
@@ -75,8 +77,8 @@ void VideoReceiver::waitUntilPlaying(const std::stop_token& stop)
 
 void VideoReceiver::run(const std::stop_token& stop)
 {
-    const std::stop_callback interruption(stop, [this] { m_channel->interrupt(); });
     Log::info(Function) << "thread start";
+    const std::stop_callback endWait(stop, [this] { m_channel->interrupt(); });
     while (!stop.stop_requested()) {
         if (!isPlaying()) {
             m_frames.freeUnused();
@@ -125,14 +127,16 @@ void VideoReceiver::waitForFrame(const std::stop_token& stop)
         break;
     case Outcome::Failed:
         Log::error(Function) << "wait [" << EventName << "] failed:" << result.error;
-        waitForStop(stop, m_timing.pause); // or a wait that fails at once would fill the log
+        waitForStop(stop, m_timing.pause); // so that repeated failures do not flood the log
         break;
     case Outcome::Interrupted:
         break;
     }
+    if (!m_channel->isOpen())
+        Log::info(Function) << "detect resources disconnect! reconnect to " << EventName;
 }
 
-/// Fails when the writer has cut the memory short. Opening the channel again then says so.
+/// False when the channel is closed or the writer has cut the memory short, which closes it.
 bool VideoReceiver::read(std::size_t offset, void* target, std::size_t length)
 {
     if (m_channel->copyOut(offset, target, length))
@@ -141,7 +145,7 @@ bool VideoReceiver::read(std::size_t offset, void* target, std::size_t length)
     return false;
 }
 
-/// Reads the header once into a copy, since the writer may change it at any time.
+/// Reads the header once, into a copy, since the writer may change it at any time.
 bool VideoReceiver::readHeader(FrameHeader& header)
 {
     if (!read(0, &header.index, sizeof header.index))
@@ -183,8 +187,8 @@ void VideoReceiver::processFrame()
     m_delivered();
 }
 
-/// The frame's rows may be padded while the shared memory's are not; without padding one block
-/// does. For a picture of odd height the frame may have no room for the last row of chroma.
+/// Rows of the frame can be padded, those in the shared memory are not. Without padding all rows
+/// are copied as one block. A frame of odd height may have no room for the last row of chroma.
 bool VideoReceiver::copyRows(const FrameFactory::Plane& target, std::size_t offset, int bytesPerRow,
                              int rows)
 {

@@ -2,7 +2,6 @@
 
 #include "device/FrameFactory.h"
 #include "platform/FrameChannel.h"
-#include "threads/Worker.h"
 
 #include <QVideoFrame>
 
@@ -11,14 +10,15 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <stop_token>
 
 struct FrameHeader;
 
 /// Receives the display's screen: NV12 frames that another process writes into shared memory and
 /// announces through an event.
 ///
-/// The writer is not trusted: a header that does not describe a frame within the view is reported
-/// and skipped, whatever it says.
+/// The writer is not trusted: a header that does not describe a frame within the view is logged and
+/// the frame is skipped.
 class VideoReceiver
 {
 public:
@@ -37,11 +37,11 @@ public:
                   std::unique_ptr<platform::FrameChannel> channel, Timing timing);
     ~VideoReceiver();
 
-    /// The worker's body: connects, waits for frames and delivers them until the stop is
-    /// requested, which ends each wait at once.
+    /// Body of the video worker: connects, waits for frames and delivers them until the stop is
+    /// requested, which also ends a wait.
     void run(const std::stop_token& stop);
-    /// Whether frames are wanted. While they are not, nothing is opened or read; a wait under way
-    /// still ends with its frame or its line. Any thread.
+    /// Whether frames are wanted. Otherwise nothing is opened or read, except that a wait under way
+    /// ends with its frame or its log line. Any thread.
     void setPlaying(bool playing);
 
 private:
@@ -58,9 +58,11 @@ private:
     const Delivered m_delivered;
     const std::unique_ptr<platform::FrameChannel> m_channel;
     const Timing m_timing;
+
     std::mutex m_mutex;
     std::condition_variable_any m_changed;
-    bool m_playing = false; // under the mutex
+    bool m_playing = false; // guarded by m_mutex
+
     // Video worker only.
     FrameFactory m_frames;
     quint64 m_validFrames = 0;

@@ -18,7 +18,7 @@ using simulator::SetupPicture;
 namespace
 {
 
-/// Lets a receiver take one frame from the shared memory.
+/// Has a receiver take one frame from the shared memory.
 void receive(NV12VideoSource& source, const QSize& size, const QByteArray& data)
 {
     std::stop_source stop;
@@ -36,7 +36,7 @@ void receive(NV12VideoSource& source, const QSize& size, const QByteArray& data)
 
 } // namespace
 
-/// The whole way of a picture, from the shared memory to the pixels of a window.
+/// A picture from the shared memory to the pixels of a window.
 class tst_VideoOutput : public QObject
 {
     Q_OBJECT
@@ -45,8 +45,8 @@ private slots:
     void initTestCase();
     void showsColours_data();
     void showsColours();
-    void survivesShapesOfNoScreen_data();
-    void survivesShapesOfNoScreen();
+    void survivesUnusualShapes_data();
+    void survivesUnusualShapes();
 
 private:
     bool showsPatches(const QSize& size);
@@ -75,7 +75,7 @@ void tst_VideoOutput::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
 
-/// Whether the window shows the known colours of a set-up picture of that size.
+/// Whether the window shows the colour patches of a set-up picture of that size.
 bool tst_VideoOutput::showsPatches(const QSize& size)
 {
     const QSize shown = size.scaled(m_window->size(), Qt::KeepAspectRatio);
@@ -87,10 +87,10 @@ bool tst_VideoOutput::showsPatches(const QSize& size)
         const QPoint middle = SetupPicture::patch(i, size).center();
         const QRgb colour = grabbed.pixel((origin + QPointF(middle) * scale).toPoint() *
                                           grabbed.devicePixelRatio());
-        const QRgb meant = SetupPicture::patchColours().at(i);
-        if (std::abs(qRed(colour) - qRed(meant)) > 3 ||
-            std::abs(qGreen(colour) - qGreen(meant)) > 3 ||
-            std::abs(qBlue(colour) - qBlue(meant)) > 3)
+        const QRgb expected = SetupPicture::patchColours().at(i);
+        if (std::abs(qRed(colour) - qRed(expected)) > 3 ||
+            std::abs(qGreen(colour) - qGreen(expected)) > 3 ||
+            std::abs(qBlue(colour) - qBlue(expected)) > 3)
             return false;
     }
     return true;
@@ -112,14 +112,14 @@ void tst_VideoOutput::showsColours()
     QTRY_VERIFY(showsPatches(size));
 }
 
-void tst_VideoOutput::survivesShapesOfNoScreen_data()
+void tst_VideoOutput::survivesUnusualShapes_data()
 {
     QTest::addColumn<QSize>("size");
     for (const QSize size : {QSize(1, 1), QSize(65535, 126), QSize(126, 65535), QSize(16400, 500)})
         QTest::addRow("%dx%d", size.width(), size.height()) << size;
 }
 
-void tst_VideoOutput::survivesShapesOfNoScreen()
+void tst_VideoOutput::survivesUnusualShapes()
 {
     QFETCH(QSize, size);
     const qsizetype chroma = qsizetype((size.width() + 1) / 2) * 2 * ((size.height() + 1) / 2);
