@@ -72,5 +72,6 @@ void Program::closeChannel()
 void Program::endThreads()
 {
     closeChannel();
+    m_interface->camera().releaseMovements();
     m_deviceControl->endThreads();
 }
