@@ -2,15 +2,14 @@
 
 #include <QString>
 
-/// Who is signed in, as the account client needs to know it. NetworkManager keeps no user state of
-/// its own and asks at the moment of each request. Called on the main thread only.
+/// The signed-in user as the account client needs to know it. The client stores nothing of the user
+/// and asks when it sends a request. Main thread.
 class AccountIdentity
 {
 public:
     virtual ~AccountIdentity() = default;
 
-    /// Account id given by the service. May outlive a sign-out: an empty token is what says
-    /// "nobody".
+    /// Account id given by the service. It may stay after a sign-out; the token does not.
     [[nodiscard]] virtual QString userId() const = 0;
 
     /// Session token given by the service, empty while nobody is signed in.

@@ -7,7 +7,7 @@
 namespace
 {
 
-// Made before the handler is registered, and so destroyed after it has run.
+// Constructed before the handler is registered, and therefore destroyed after it has run.
 std::mutex g_mutex;
 const std::function<void()>* g_work = nullptr;
 

@@ -2,19 +2,19 @@
 
 #include <functional>
 
-/// Gives the process an orderly end when an exit() that is not ours ends it: the library of the
-/// windowing system calls it when its server goes. Nothing on main()'s stack is destroyed then, but
-/// objects of static life would be, while Qt's own threads still use them; so the process ends as
-/// soon as the work is done, with EXIT_FAILURE.
+/// Ends the process in order when a library calls exit(), as the one of the windowing system does
+/// when its server goes. Such an exit() does not destroy the objects on main()'s stack, but it
+/// would destroy static objects while Qt's own threads still use them. The guard therefore does its
+/// work and then ends the process at once, with EXIT_FAILURE.
 ///
-/// Made once in a process, as late as can be: what is of static life and made later is destroyed
-/// before the work is done.
+/// Once in a process. Construct as late as possible: static objects constructed after the guard are
+/// already destroyed when its work is done.
 class ExitGuard
 {
 public:
-    /// @param work  called on the thread that exits, which may be any
+    /// @param work  called on the thread that calls exit(), which may be any
     explicit ExitGuard(std::function<void()> work);
-    /// Waits for work that is being done.
+    /// Waits if the work is under way.
     ~ExitGuard();
     ExitGuard(const ExitGuard&) = delete;
     ExitGuard& operator=(const ExitGuard&) = delete;

@@ -4,6 +4,6 @@
 
 class QQmlContext;
 
-/// Loads an application font and gives its family to QML as the context property `name`. The
-/// default font stays as it is. False, with a log line, when the font cannot be loaded.
+/// Loads an application font and publishes its family to QML as the context property `name`. The
+/// default font does not change. False, with a log line, when the font cannot be loaded.
 bool LoadCustomFont(QQmlContext* context, const QString& path, const QString& name);

@@ -21,7 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-// Generated with the QML module; without a reference the linker would leave it in its library.
+// Generated with the QML module. Without this reference the linker would drop it.
 void qml_register_types_VORNApp();
 
 namespace
@@ -53,7 +53,7 @@ void logProgram(const QString& appPath, const QString& fileName)
     Log::info("main") << "commit:" << sourceRevision();
 }
 
-// A Windows program has no console on which Qt would say why a page does not load.
+// A Windows program has no console, so errors of the pages go to the log.
 void logQmlWarnings(const QList<QQmlError>& warnings)
 {
     for (const QQmlError& warning : warnings)
@@ -102,7 +102,8 @@ int main(int argc, char* argv[])
     program.publish(engine->rootContext());
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &app, [&] {
         Log::info("main") << "VORNApp quit!!!";
-        // The server first: closing it later would delete the socket file of the next instance.
+        // Close the server before the mark of the running instance is released: closing it
+        // afterwards would delete the socket file of the next instance.
         program.windowManager().closeServer();
         instance.release();
     });
@@ -110,7 +111,7 @@ int main(int argc, char* argv[])
     if (!firstFrame.load(program.windowManager())) {
         Log::error("main") << "QQmlApplicationEngine load error";
         QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);
-        engine.reset(); // before the objects that its context names
+        engine.reset(); // before the objects in its context
         return LoadFailure;
     }
     program.openChannel();

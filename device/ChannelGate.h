@@ -5,8 +5,8 @@
 #include <mutex>
 #include <string>
 
-/// Stands between the channel library, which calls back on a thread of its own for as long as the
-/// process lives, and the objects that handle its messages, which do not live that long.
+/// Separates the channel library, which calls back on a thread of its own as long as the process
+/// lives, from the objects that handle its messages and end earlier.
 class ChannelGate
 {
 public:
@@ -14,10 +14,9 @@ public:
 
     explicit ChannelGate(Callback callback);
 
-    /// Hands the message on while the gate is open; afterwards returns 0 at once. Any thread.
+    /// Calls the callback while the gate is open; afterwards returns 0 at once. Any thread.
     int pass(int id, const std::string& msg);
-    /// From here on nothing is handed on. Waits for calls under way; not to be called from within
-    /// one.
+    /// Stops further calls and waits for those under way. Must not be called from within one.
     void close();
 
 private:

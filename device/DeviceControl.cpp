@@ -109,7 +109,7 @@ void DeviceControl::forward(const Part& part, void (Part::*from)(Args...),
 
 void DeviceControl::forwardSignals()
 {
-    connect(&m_display, &DisplayState::connectModeChanged, this, &DeviceControl::showConnectModes);
+    connect(&m_display, &DisplayState::connectModeChanged, this, &DeviceControl::showConnectMode);
     forward(m_display, &DisplayState::volumeReady, &DeviceControl::volumeReady);
     forward(m_display, &DisplayState::volumeChanged, &DeviceControl::volumeChanged);
     forward(m_display, &DisplayState::byodSwitchChanged, &DeviceControl::byodSwitchChanged);
@@ -140,14 +140,15 @@ void DeviceControl::forwardSignals()
     connect(this, &DeviceControl::addTask, &m_tasks.queue(), &TaskQueue::addTask);
 }
 
-/// A display that is replaced reports 0 and 1 within one turn of the event loop. The pages react to
-/// each.
-void DeviceControl::showConnectModes()
+/// Called once for each change. A display that is replaced reports 0 and 1 within one turn of the
+/// event loop, and the pages react to both.
+void DeviceControl::showConnectMode()
 {
-    while (const auto mode = m_display.takeConnectMode()) {
-        m_shownMode = *mode;
-        emit connectModeChanged();
-    }
+    const auto mode = m_display.takeConnectMode();
+    if (!mode)
+        return;
+    m_shownMode = *mode;
+    emit connectModeChanged();
 }
 
 int DeviceControl::DealChannelMsg(int id, const std::string& msg)

@@ -200,7 +200,7 @@ private:
     template <typename Part, typename... Args>
     void forward(const Part& part, void (Part::*from)(Args...), void (DeviceControl::*to)(Args...));
     void forwardSignals();
-    void showConnectModes();
+    void showConnectMode();
     void adoptConfig(const FileInfo& config);
     void saveConfigValue(QLatin1StringView key, bool value);
 

@@ -5,6 +5,14 @@
 #include "device/WindowRequests.h"
 #include "persistence/Keys.h"
 
+namespace
+{
+
+/// Changes of the mode that are kept for the pages. A display that floods loses the oldest ones.
+constexpr std::size_t MaximumModes = 64;
+
+} // namespace
+
 DisplayState::DisplayState(MessageChannel& channel, WindowRequests& windows)
     : m_channel(channel)
     , m_windows(windows)
@@ -35,6 +43,8 @@ void DisplayState::setConnectMode(ConnectMode mode)
         if (!m_connectMode.set(mode))
             return;
         m_modes.push_back(mode);
+        if (m_modes.size() > MaximumModes)
+            m_modes.pop_front();
     }
     emit connectModeChanged();
     if (mode == ConnectMode::None)

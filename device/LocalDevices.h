@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Where a scan of this PC's devices puts its results: 1 when the display's device is present, else
-/// 0.
+/// Receives the results of a scan of this PC's devices: 1 when the display's device is present,
+/// otherwise 0.
 class LocalDeviceStatus
 {
 public:
@@ -20,8 +20,8 @@ class LocalDevices
 public:
     virtual ~LocalDevices() = default;
 
-    /// Reads the rules once, before the first scan; false when the file cannot be opened.
+    /// Reads the rules. Once, before the first scan. False when the file cannot be opened.
     virtual bool ReadJsonConfig(const QString& path) = 0;
-    /// One round; runs on the status worker.
+    /// Scans the devices once. Status worker.
     virtual void checkDevices(LocalDeviceStatus& status) = 0;
 };

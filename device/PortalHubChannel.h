@@ -10,10 +10,10 @@ class PortalHubChannel : public MessageChannel
 {
 public:
     PortalHubChannel() = default;
-    /// Closes the channel; the library itself stays, as it belongs to the process.
+    /// Closes the channel. The library stays loaded.
     ~PortalHubChannel() override;
 
-    /// Registers the receiver of messages, which the library calls on a thread of its own. Once.
+    /// Registers the receiver of messages. The library calls it on a thread of its own. Once.
     void open(ChannelGate::Callback callback);
     /// No message is delivered after this returns.
     void close();
@@ -21,6 +21,6 @@ public:
     void push(const ChannelMessage& message) override;
 
 private:
-    // Shared with the callback that the library keeps until the process ends.
+    // Shared with the callback, which the library keeps until the process ends.
     std::shared_ptr<ChannelGate> m_gate;
 };

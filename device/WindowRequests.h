@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the device link asks of the main window. Any thread.
+/// Requests of the device link to the main window. Any thread.
 class WindowRequests
 {
 public:

@@ -13,20 +13,19 @@
 
 class ProgramControl;
 
-/// Deals with the updater program: keeps it running in the background, and for an upgrade stops it
-/// and starts it again with the path of the application to replace.
+/// Controls the updater program: keeps it running in the background, and for an upgrade ends it and
+/// starts it again with the path of the application to replace.
 ///
-/// start() and timeOut() return at once; their steps run in order on a worker thread, and take as
-/// long as the killing and the pause. After them:
+/// start() and timeOut() return at once. Their steps run in order on a worker thread. The state
+/// after them:
 ///
-///                  isUpdating()   watchdog keeps the background updater
+///                  isUpdating()   watchdog restarts the background updater
 ///     at first     false          yes
 ///     start()      true           no, from before the kill on
 ///     timeOut()    false          yes
 ///
-/// A completed upgrade changes neither: the program quits then. What the updater does, or that it
-/// cannot be killed or started, is logged and otherwise ignored; whoever waits for the upgrade sets
-/// the time-out.
+/// A completed upgrade changes neither, since the program quits then. An updater that cannot be
+/// ended or started is logged and otherwise ignored: the caller sets the time-out of the upgrade.
 class UpgradeControl
 {
 public:
@@ -35,13 +34,13 @@ public:
                    std::chrono::milliseconds pauseAfterKill = std::chrono::seconds(3));
     ~UpgradeControl();
 
-    /// Ends a step under way without waiting for its pause. No step is done after this. Any thread
-    /// but the step's own.
+    /// Ends the worker; a step under way does not complete its pause. Later steps are ignored. Any
+    /// thread but the worker.
     void end();
     void start();
     void timeOut();
-    /// One pass of the once-a-second loop: looks after the updater on the first pass and every
-    /// fifth one after it, unless an upgrade step is running.
+    /// One pass of the once-a-second loop: starts a missing updater on the first pass and on every
+    /// fifth one after it, unless a step of an upgrade is running. One thread.
     void watchdogPass(const std::stop_token& stop = {});
     /// True from the start of an upgrade until its time-out. Any thread.
     [[nodiscard]] bool isUpdating() const { return m_updateStarted; }

@@ -3,11 +3,11 @@
 #include <QString>
 #include <QVariant>
 
-/// The signed-in user's data, kept across restarts as key and value.
+/// The signed-in user's data as keys and values that survive a restart.
 ///
-/// Reading and clearing happen on the main thread, writing on the task thread. Writes are posted
-/// long before they run, so each carries the number of the sign-in it belongs to: clearUserData()
-/// ends that sign-in, and whatever was posted before cannot bring the account back.
+/// The main thread reads and clears, the task thread writes. A write may run long after it was
+/// posted, so it carries the number of its sign-in: clearUserData() ends the sign-in, and writes of
+/// it are dropped from then on.
 class UserSettings
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     /// The stored value, or `defaultValue` when there is none or the store cannot be read.
     virtual QVariant getUserData(const QString& key, const QVariant& defaultValue) = 0;
-    /// Stores one value; a write of an ended sign-in is dropped and counts as done.
+    /// Stores one value. A write of an ended sign-in is dropped and counts as done.
     virtual bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
     /// The same, but a store that another program has locked is no failure yet and is not logged.
     virtual Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;

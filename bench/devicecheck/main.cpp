@@ -1,4 +1,4 @@
-// What a round of the device check costs beyond listing the devices, which nothing can save.
+// Cost of one device-check round beyond the enumeration itself.
 #include "peripherals/DeviceCheck.h"
 #include "platform/DeviceEnumeration.h"
 
@@ -64,7 +64,7 @@ double secondsOf(Body body)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// A round in twenty lists the devices whatever their stamp says, which a median would leave out.
+/// One round in twenty lists the devices even without a change; a median would hide its cost.
 double mean(const std::vector<double>& values)
 {
     return std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());
@@ -85,7 +85,7 @@ int main()
     const int devices = listDevices();
     check.checkDevices(status);
 
-    // Taken in turn, so that both see the same disturbances.
+    // Measured in turn, so that both run under the same load of the machine.
     std::vector<double> bare;
     std::vector<double> round;
     for (int i = 0; i < 2000; ++i) {

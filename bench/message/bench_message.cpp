@@ -21,7 +21,7 @@ std::string volumeMessage(int i)
            std::to_string(i % 2 == 0 ? 30 : 60) + "}";
 }
 
-/// The least that an answer needs: parse the message, change its type, write it again.
+/// The minimum for a reply: parse the message, change its type, serialise it.
 std::string bareReply(const std::string& text)
 {
     QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
@@ -39,7 +39,7 @@ double microsecondsEach(Work work)
     return double(timer.nsecsElapsed()) / 1000 / MessagesPerRound;
 }
 
-/// Alternates the two so that both see the same state of the machine.
+/// Measures both in turn, so that both run under the same load of the machine.
 template <typename Baseline, typename Work>
 void compare(const char* what, Baseline baseline, Work work)
 {

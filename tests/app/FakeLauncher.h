@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// Starts nothing and remembers what it was asked to start.
+/// Records the launches.
 class FakeLauncher : public MeetingLauncher
 {
 public:

@@ -11,8 +11,8 @@
 
 #include <memory>
 
-/// A home of its own for runs of the real program: no file, socket or setting is shared with the
-/// user's or with another test's.
+/// A home folder for runs of the real program, which shares no file, socket or setting with the
+/// user or with another test.
 class ProgramHome
 {
 public:
@@ -35,7 +35,7 @@ public:
         m_environment.insert(QStringLiteral("VORN_PORTALHUB_SOCKET"), socketPath());
     }
 
-    /// For the runs that follow.
+    /// Sets a variable for later runs.
     void set(const QString& variable, const QString& value)
     {
         m_environment.insert(variable, value);
@@ -44,22 +44,22 @@ public:
     QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
     QString path() const { return m_folder.path(); }
 
-    /// Content of the file that stands for the registry.
+    /// Content of the file that stands in for the registry.
     QByteArray registry() const
     {
         QFile file(m_folder.filePath(QStringLiteral("config/VORNApp/registry.ini")));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Starts the program; its log is what it writes to standard error.
+    /// Starts the program. It writes its log to standard error as well.
     std::unique_ptr<QProcess> start(const QString& platform,
                                     const QString& program = QStringLiteral(VORN_PROGRAM)) const
     {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = m_environment;
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
-        // Mesa leaves memory behind in libraries that are unloaded by then, where no suppression
-        // can name it; runs off the screen, which keep away from it, still look for leaks.
+        // Mesa leaks memory in libraries that are unloaded before the report, where a suppression
+        // cannot name them. Runs off the screen do not use Mesa and still look for leaks.
         if (platform == QStringLiteral("offscreen"))
             environment.remove(QStringLiteral("DISPLAY"));
         if (platform == QStringLiteral("xcb"))
@@ -78,7 +78,7 @@ private:
     QProcessEnvironment m_environment;
 };
 
-/// The display's end of the channel. The program connects to it as the last step of its start.
+/// The end of the channel at the display. The program connects to it in the last step of its start.
 class DisplayEnd
 {
 public:
@@ -88,7 +88,7 @@ public:
         m_server.listen(home.socketPath());
     }
 
-    /// Waits until a program has come up; null when none did.
+    /// Waits until a program has started; null when none has.
     QLocalSocket* nextProgram(int patience = 60000)
     {
         if (!m_server.hasPendingConnections())

@@ -22,7 +22,7 @@ void sendSignal(const QProcess& process, int signal)
     ::kill(static_cast<pid_t>(process.processId()), signal);
 }
 
-/// Whole, which Qt Test would cut.
+/// Prints the whole log, which Qt Test would cut.
 void show(const QByteArray& log)
 {
     std::fwrite(log.constData(), 1, std::size_t(log.size()), stderr);
@@ -30,7 +30,7 @@ void show(const QByteArray& log)
 
 } // namespace
 
-/// The real program, started and ended many times.
+/// Starts and ends the real program many times.
 class tst_StartAndQuit : public QObject
 {
     Q_OBJECT
@@ -39,12 +39,12 @@ private slots:
     void oneOfTwoStartsSurvives();
     void quitsCleanlyAHundredTimes();
     void endsWithItsScreen();
-    void outlivesTheReaderOfItsLog();
-    void endsWhileItTellsOfAFailure();
+    void survivesTheEndOfItsLogReader();
+    void endsWhileItShowsAnError();
     void logsItsLifeInOrder();
 };
 
-/// Each round kills the survivor, so that the next one also has a crash's leftovers to clear.
+/// Each round kills the survivor, so that the next one also finds the remains of a crash.
 void tst_StartAndQuit::oneOfTwoStartsSurvives()
 {
     const ProgramHome home;
@@ -52,7 +52,7 @@ void tst_StartAndQuit::oneOfTwoStartsSurvives()
     for (int round = 0; round < 20; ++round) {
         const auto one = home.start(u"offscreen"_s);
         const auto two = home.start(u"offscreen"_s);
-        QVERIFY2(display.nextProgram(), "no instance came up");
+        QVERIFY2(display.nextProgram(), "no instance started");
         QTRY_VERIFY_WITH_TIMEOUT(isRunning(*one) != isRunning(*two), Patience);
         QProcess& survivor = isRunning(*one) ? *one : *two;
         QProcess& other = isRunning(*one) ? *two : *one;
@@ -61,7 +61,8 @@ void tst_StartAndQuit::oneOfTwoStartsSurvives()
         QByteArray log;
         QTRY_VERIFY_WITH_TIMEOUT(
             (log += survivor.readAll()).contains("onNewConnection]VORNApp reopen!"), Patience);
-        QVERIFY2(!log.contains("sharedMemory attach"), "it took leftovers for an instance");
+        QVERIFY2(!log.contains("sharedMemory attach"),
+                 "the remains of a crash were taken for an instance");
         survivor.kill();
         QVERIFY(survivor.waitForFinished(Patience));
     }
@@ -72,12 +73,12 @@ void tst_StartAndQuit::quitsCleanlyAHundredTimes()
     const ProgramHome home;
     DisplayEnd display(home);
     for (int round = 0; round < 100; ++round) {
-        // The window system's own threads and drawing have to end in order too, but start slowly.
+        // The threads of the window system have to end in order as well, but they start slowly.
         const bool isOnScreen = round % 10 == 0;
         const auto program = home.start(isOnScreen ? u"xcb"_s : u"offscreen"_s);
         QLocalSocket* const connection = display.nextProgram();
         QVERIFY(connection);
-        // Messages under way while it quits.
+        // Messages arrive while the program quits.
         for (int i = 0; i < 50; ++i)
             connection->write(
                 "1 {\"cmd\":1,\"type\":2,\"volume\":" + QByteArray::number(i) +
@@ -96,7 +97,7 @@ void tst_StartAndQuit::quitsCleanlyAHundredTimes()
     }
 }
 
-/// The window system's library then ends the process where it stands.
+/// The library of the window system calls exit() when its server goes.
 void tst_StartAndQuit::endsWithItsScreen()
 {
     for (int round = 0; round < 5; ++round) {
@@ -131,7 +132,7 @@ void tst_StartAndQuit::endsWithItsScreen()
     }
 }
 
-void tst_StartAndQuit::outlivesTheReaderOfItsLog()
+void tst_StartAndQuit::survivesTheEndOfItsLogReader()
 {
     const ProgramHome home;
     DisplayEnd display(home);
@@ -147,7 +148,7 @@ void tst_StartAndQuit::outlivesTheReaderOfItsLog()
     QCOMPARE(program->exitCode(), 0);
 }
 
-void tst_StartAndQuit::endsWhileItTellsOfAFailure()
+void tst_StartAndQuit::endsWhileItShowsAnError()
 {
     const ProgramHome home;
     const QString copy = home.path() + "/VORNApp"_L1;

@@ -9,7 +9,7 @@ namespace
 
 constexpr int Patience = 30000;
 
-/// What a command prints, trimmed.
+/// The trimmed output of a command.
 QString output(const QString& program, const QStringList& arguments)
 {
     QProcess process;
@@ -25,7 +25,7 @@ QString xdotool(const QStringList& arguments)
 
 } // namespace
 
-/// The program's window on a real screen with a window manager and a tray, used with the pointer.
+/// Uses the program's window with the pointer, on a real screen with a window manager and a tray.
 class tst_Window : public QObject
 {
     Q_OBJECT
@@ -74,7 +74,7 @@ void tst_Window::cleanup()
     ::kill(static_cast<pid_t>(m_program->processId()), SIGTERM);
     QVERIFY(m_program->waitForFinished(Patience));
     QCOMPARE(m_program->exitCode(), 0);
-    // What a page complains of is logged with its place.
+    // Errors of the pages are logged with their file.
     QVERIFY2(!log().contains("qrc:/"), m_log.constData());
 }
 
@@ -89,7 +89,7 @@ QString tst_Window::mainWindow() const
         .section(u'\n', 0, 0);
 }
 
-/// The icon's own small window, which the tray has taken in.
+/// The small window of the icon, embedded in the tray.
 QString tst_Window::trayWindow() const
 {
     const QString found = xdotool({u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s,
@@ -109,7 +109,7 @@ void tst_Window::click(int x, int y) const
              QString::number(y), u"click"_s, u"1"_s});
 }
 
-/// Showing a hidden window again makes a new one of the window system.
+/// A hidden window that is shown again is a new window of the window system.
 bool tst_Window::isViewable()
 {
     const QString visible = mainWindow();
@@ -119,7 +119,7 @@ bool tst_Window::isViewable()
     return true;
 }
 
-/// A search that meets a window just as it goes finds none at all, hence two in a row.
+/// A search during the closing of a window may find none at all, so two in a row have to find none.
 bool tst_Window::hides()
 {
     return QTest::qWaitFor([this] { return !isViewable() && !isViewable(); }, Patience);
@@ -159,7 +159,7 @@ void tst_Window::hidesToTheTrayAndComesBackByDoubleClick()
 
 void tst_Window::closingByTheSystemHidesToo()
 {
-    // A key pressed before the window has the focus is lost, hence again.
+    // A key pressed before the window has the focus is lost, so it is pressed repeatedly.
     QVERIFY(QTest::qWaitFor(
         [this] {
             xdotool({u"windowactivate"_s, m_window, u"key"_s, u"alt+F4"_s});
@@ -177,7 +177,7 @@ void tst_Window::secondStartBringsItForward()
     QVERIFY(second->waitForFinished(Patience));
     QCOMPARE(second->exitCode(), 0);
     QTRY_VERIFY_WITH_TIMEOUT(isViewable(), Patience);
-    // Staying on top lasts for one turn only.
+    // It stays on top for one turn of the event loop only.
     QTRY_VERIFY_WITH_TIMEOUT(!output(u"xprop"_s, {u"-id"_s, m_window, u"_NET_WM_STATE"_s})
                                   .contains(u"_NET_WM_STATE_ABOVE"_s),
                              Patience);
@@ -193,7 +193,7 @@ void tst_Window::dragMovesIt_data()
 void tst_Window::dragMovesIt()
 {
     QFETCH(double, scale);
-    // Whole pixels of the program's at each of the scales.
+    // Whole device-independent pixels at each of the scales.
     xdotool({u"windowmove"_s, u"--sync"_s, m_window, u"120"_s, u"120"_s});
     xdotool({u"mousemove"_s, u"--sync"_s, u"--window"_s, m_window, QString::number(500 * scale),
              QString::number(20 * scale), u"mousedown"_s, u"1"_s, u"mousemove_relative"_s,

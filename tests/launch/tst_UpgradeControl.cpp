@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// Writes down in one word each what is done to the updater.
+/// Records one word for each call: "kill", "keep", "start", or "wrong" for wrong arguments.
 class RecordedPrograms : public ProgramControl
 {
 public:
@@ -33,13 +33,13 @@ public:
         return note(isUpgrade ? "start" : "wrong", name);
     }
 
-    /// Waits until `word` stands there so many times.
+    /// Waits for this number of calls.
     bool waitFor(const QByteArray& word, int times)
     {
         std::unique_lock lock(m_mutex);
         return m_changed.wait_for(lock, 30s, [&] { return m_words.count(word) >= times; });
     }
-    /// The words, looks of the watchdog that follow each other as one.
+    /// The words in order. Successive calls of the watchdog count as one.
     QString story()
     {
         const std::scoped_lock lock(m_mutex);
@@ -52,7 +52,7 @@ public:
     }
 
 private:
-    // Nothing works, which has to make no difference.
+    // Every call fails, which must make no difference.
     bool note(const char* word, const QString& name)
     {
         const std::scoped_lock lock(m_mutex);
@@ -106,8 +106,8 @@ void tst_UpgradeControl::everyOrderOfStartAndTimeOut_data()
     }
 }
 
-/// The watchdog passes as fast as it can meanwhile. It looks after the updater at first and after a
-/// time-out only, and never comes between a kill and the start that belongs to it.
+/// The watchdog runs without pauses meanwhile. It restarts the updater at first and after a
+/// time-out only, and never between the kill and the start of an upgrade.
 void tst_UpgradeControl::everyOrderOfStartAndTimeOut()
 {
     QFETCH(const QByteArray, order);
@@ -143,7 +143,7 @@ void tst_UpgradeControl::everyOrderOfStartAndTimeOut()
                 control.watchdogPass();
             return programs.looks() > looks;
         };
-        // The last step may still be about to let go of the updater.
+        // The last step may not have released the updater yet.
         if (isUpgrading)
             QVERIFY(!isLookedAfter());
         else
@@ -175,7 +175,7 @@ void tst_UpgradeControl::endingDoesNotWaitForThePause()
         control.start();
         control.timeOut();
         QVERIFY(programs.waitFor("kill"_ba, 1));
-        // The status loop goes on as well.
+        // The watchdog does not wait either.
         timer.start();
         control.watchdogPass();
         QVERIFY(control.isUpdating());
