@@ -20,17 +20,36 @@ auto once(std::function<void(const QVariantList& args)> work)
     };
 }
 
-Outcome saveToStore(UserSettings& store, const QVariantList& args, bool isLastAttempt)
+/// Collects the values of one change and stores them together with the last one.
+class UserDataTask
 {
-    const QString key = args.value(0).toString();
-    const QVariant value = args.value(1);
-    const quint64 signIn = args.size() > 2 ? args.at(2).toULongLong() : store.currentSignIn();
-    if (!isLastAttempt && store.trySaveUserData(key, value, signIn) == UserSettings::Saved::Locked)
-        return Outcome::TryAgain;
-    if (isLastAttempt)
-        store.saveUserData(key, value, signIn);
-    return Outcome::Done;
-}
+public:
+    explicit UserDataTask(UserSettings& store)
+        : m_store(store)
+    {
+    }
+
+    Outcome operator()(const QVariantList& args, bool isLastAttempt)
+    {
+        using OnLock = UserSettings::OnLock;
+        m_values.append({args.value(0).toString(), args.value(1)});
+        if (args.value(3).toBool())
+            return Outcome::Done;
+        const quint64 signIn = args.size() > 2 ? args.at(2).toULongLong() : m_store.currentSignIn();
+        const auto saved =
+            m_store.saveUserData(m_values, signIn, isLastAttempt ? OnLock::Fail : OnLock::Report);
+        if (saved == UserSettings::Saved::Locked) {
+            m_values.removeLast(); // comes again with the next attempt
+            return Outcome::TryAgain;
+        }
+        m_values.clear();
+        return Outcome::Done;
+    }
+
+private:
+    UserSettings& m_store;
+    QList<UserSettings::Value> m_values; // task thread
+};
 
 } // namespace
 
@@ -46,10 +65,7 @@ TaskQueue::Actions standardTasks(FileInfo& fileInfo, UserSettings& userSettings,
         {keys::task::SaveConfig, once([&fileInfo](const QVariantList& args) {
              fileInfo.saveConfig(args.value(0).toString(), args.value(1).toString(), args.value(2));
          })},
-        {keys::task::SaveUserData,
-         [&userSettings](const QVariantList& args, bool isLastAttempt) {
-             return saveToStore(userSettings, args, isLastAttempt);
-         }},
+        {keys::task::SaveUserData, UserDataTask(userSettings)},
         {keys::task::LaunchZoom, once([&launcher](const QVariantList&) { launcher.startZoom(); }),
          Kind::Launch},
         {keys::task::LaunchTeams, once([&launcher](const QVariantList&) { launcher.startTeams(); }),

@@ -12,7 +12,8 @@ class UserSettings;
 /// |------------------------------------|------------------------------------------------------|
 /// | saveRegistry                       | registry path, value name, value                     |
 /// | saveConfig                         | INI file, key, value                                 |
-/// | saveDB                             | key, value, number of the sign-in (absent: current)  |
+/// | saveDB                             | key, value, number of the sign-in (absent: current), |
+/// |                                    | whether further values of this change follow         |
 /// | launchZoom, launchTeams,           | none                                                 |
 /// | launchGoogleMeeting                |                                                      |
 ///

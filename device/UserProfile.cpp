@@ -34,8 +34,13 @@ void UserProfile::restore(UserSettings& store)
     setToken(read(keys::user::Token));
     setUserId(read(keys::user::UserId));
     adoptPicture(read(keys::user::Picture));
-    if (!email().isEmpty())
+    if (!email().isEmpty()) {
         setLogin(true);
+    } else if (!token().isEmpty() || !userId().isEmpty() || !rawPicture().isEmpty()) {
+        // A version that wrote value by value could be killed within a sign-in.
+        clear();
+        setUserId({});
+    }
 }
 
 void UserProfile::setLogin(bool newLogin)
@@ -151,12 +156,13 @@ void UserProfile::saveNames()
     save(keys::user::FirstName, firstName());
     save(keys::user::LastName, lastName());
     save(keys::user::Company, company());
-    save(keys::user::Title, title());
+    save(keys::user::Title, title(), true);
 }
 
-/// The task carries the number of the sign-in, so that it is dropped after a sign-out.
-void UserProfile::save(QLatin1StringView key, const QString& value)
+/// The tasks of one change are committed together, with the last one. They carry the number of the
+/// sign-in, so that they are dropped after a sign-out.
+void UserProfile::save(QLatin1StringView key, const QString& value, bool isLast)
 {
     if (m_store)
-        emit addTask(keys::task::SaveUserData, {key, value, m_store->currentSignIn()});
+        emit addTask(keys::task::SaveUserData, {key, value, m_store->currentSignIn(), !isLast});
 }

@@ -18,8 +18,9 @@ class UserProfile : public QObject, public AccountIdentity
 public:
     UserProfile();
 
-    /// Reads the stored profile; a stored e-mail address counts as signed in. The store, which has
-    /// to outlive this object, is kept for later changes. Once.
+    /// Reads the stored profile. A stored e-mail address counts as signed in; without one, other
+    /// values belong to nobody and are cleared. The store, which has to outlive this object, is
+    /// kept for later changes. Once.
     void restore(UserSettings& store);
 
     bool login() const { return m_login.get(); }
@@ -75,7 +76,7 @@ private:
     void adoptPicture(const QString& picture);
     void adoptAndSavePicture(const QJsonObject& user);
     void adoptNames(const QJsonObject& user);
-    void save(QLatin1StringView key, const QString& value);
+    void save(QLatin1StringView key, const QString& value, bool isLast = false);
     void saveNames();
 
     // Main thread only.

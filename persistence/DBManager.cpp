@@ -229,21 +229,21 @@ QVariant DBManager::getUserData(const QString& key, const QVariant& defaultValue
 bool DBManager::saveUserData(const QString& key, const QVariant& value)
 {
     const std::scoped_lock lock(m_mutex);
-    return report(attemptStore(key, value));
+    return report(attemptStore({{key, value}}));
 }
 
-bool DBManager::saveUserData(const QString& key, const QVariant& value, quint64 signIn)
+UserSettings::Saved DBManager::saveUserData(const QList<Value>& values, quint64 signIn,
+                                            OnLock onLock)
 {
     const std::scoped_lock lock(m_mutex);
-    return report(attemptStore(key, value, signIn));
-}
-
-UserSettings::Saved DBManager::trySaveUserData(const QString& key, const QVariant& value,
-                                               quint64 signIn)
-{
-    const std::scoped_lock lock(m_mutex);
-    const Attempt attempt = attemptStore(key, value, signIn);
-    if (attempt.outcome == Attempt::Outcome::Locked)
+    if (signIn != m_signIn) {
+        for (const Value& value : values)
+            Log::info("DBManager::saveUserData")
+                << "signed out meanwhile, dropped key:" << value.key;
+        return Saved::Done;
+    }
+    const Attempt attempt = attemptStore(values);
+    if (attempt.outcome == Attempt::Outcome::Locked && onLock == OnLock::Report)
         return Saved::Locked;
     return report(attempt) ? Saved::Done : Saved::Failed;
 }
@@ -259,22 +259,30 @@ bool DBManager::clearUserData()
     return report(clearing);
 }
 
-DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value,
-                                           quint64 signIn)
+DBManager::Attempt DBManager::attemptStore(const QList<Value>& values)
 {
-    if (signIn == m_signIn)
-        return attemptStore(key, value);
-    Log::info("DBManager::saveUserData") << "signed out meanwhile, dropped key:" << key;
-    return {};
+    Attempt result = catchUp();
+    if (result.outcome == Attempt::Outcome::Done && values.size() == 1)
+        return attemptInsert(values.first());
+    if (result.outcome == Attempt::Outcome::Done)
+        result = attempt(u"BEGIN IMMEDIATE"_s, {});
+    if (result.outcome != Attempt::Outcome::Done)
+        return result;
+    for (const Value& value : values) {
+        if (result.outcome == Attempt::Outcome::Done)
+            result = attemptInsert(value);
+    }
+    if (result.outcome == Attempt::Outcome::Done)
+        result = attempt(u"COMMIT"_s, {});
+    if (result.outcome != Attempt::Outcome::Done)
+        (void)attempt(u"ROLLBACK"_s, {}); // the failure is reported already
+    return result;
 }
 
-DBManager::Attempt DBManager::attemptStore(const QString& key, const QVariant& value)
+DBManager::Attempt DBManager::attemptInsert(const Value& value)
 {
-    Attempt clearing = catchUp();
-    if (clearing.outcome != Attempt::Outcome::Done)
-        return clearing;
     return attempt(u"INSERT OR REPLACE INTO user_settings (key, value) VALUES (:key, :value)"_s,
-                   {{u"key"_s, key}, {u"value"_s, value}});
+                   {{u"key"_s, value.key}, {u"value"_s, value.value}});
 }
 
 DBManager::Attempt DBManager::catchUp()

@@ -41,8 +41,7 @@ public:
     QVariant getUserData(const QString& key, const QVariant& defaultValue) override;
     /// Stores one value, whichever sign-in it belongs to.
     bool saveUserData(const QString& key, const QVariant& value);
-    bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) override;
-    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override;
+    Saved saveUserData(const QList<Value>& values, quint64 signIn, OnLock onLock) override;
     bool clearUserData() override;
     quint64 currentSignIn() const override { return m_signIn; }
 
@@ -64,8 +63,8 @@ private:
     Attempt attempt(const QString& sql, const QMap<QString, QVariant>& params);
     Attempt attemptOpen(const QString& sql, const QMap<QString, QVariant>& params);
     Attempt run(QSqlQuery& query, const QString& sql, const QMap<QString, QVariant>& params);
-    Attempt attemptStore(const QString& key, const QVariant& value);
-    Attempt attemptStore(const QString& key, const QVariant& value, quint64 signIn);
+    Attempt attemptStore(const QList<Value>& values);
+    Attempt attemptInsert(const Value& value);
     Attempt attemptClear();
     Attempt catchUp();
     void adaptPatience(bool isLocked);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QVariant>
 
@@ -11,16 +12,21 @@
 class UserSettings
 {
 public:
+    struct Value {
+        QString key;
+        QVariant value;
+    };
     enum class Saved { Done, Failed, Locked };
+    /// Handling of a store that another program has locked: reported as Saved::Locked, to be tried
+    /// again, or logged as a failure.
+    enum class OnLock { Report, Fail };
 
     virtual ~UserSettings() = default;
 
     /// The stored value, or `defaultValue` when there is none or the store cannot be read.
     virtual QVariant getUserData(const QString& key, const QVariant& defaultValue) = 0;
-    /// Stores one value. A write of an ended sign-in is dropped and counts as done.
-    virtual bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
-    /// The same, but a store that another program has locked is no failure yet and is not logged.
-    virtual Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) = 0;
+    /// Stores all of the values or none. A write of an ended sign-in is dropped and counts as done.
+    virtual Saved saveUserData(const QList<Value>& values, quint64 signIn, OnLock onLock) = 0;
     /// Removes every value and ends the current sign-in.
     virtual bool clearUserData() = 0;
     /// Number of the current sign-in, to be handed to saveUserData(). Any thread.

@@ -56,31 +56,43 @@ private:
     std::vector<ChannelMessage> m_sent;
 };
 
-class FakeWindows : public WindowRequests
+/// Calls as text. Any thread.
+class CallLog
 {
 public:
-    void askToShow(bool show) override { note(show ? "show" : "hide"); }
-    void askToShowCheckRemote(bool show) override { note(show ? "warn" : "no warning"); }
-
-    /// Calls since the last take.
-    QByteArrayList take()
+    QStringList calls() const
     {
         const std::scoped_lock lock(m_mutex);
-        return std::exchange(m_asked, {});
+        return m_calls;
+    }
+    /// Calls since the last take.
+    QStringList take()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return std::exchange(m_calls, {});
+    }
+
+protected:
+    bool note(const QString& call)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_calls.append(call);
+        return true;
     }
 
 private:
-    void note(const char* what)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_asked.append(what);
-    }
-
-    std::mutex m_mutex;
-    QByteArrayList m_asked;
+    mutable std::mutex m_mutex;
+    QStringList m_calls;
 };
 
-class FakePrograms : public ProgramControl
+class FakeWindows : public WindowRequests, public CallLog
+{
+public:
+    void askToShow(bool show) override { note(show ? u"show"_s : u"hide"_s); }
+    void askToShowCheckRemote(bool show) override { note(show ? u"warn"_s : u"no warning"_s); }
+};
+
+class FakePrograms : public ProgramControl, public CallLog
 {
 public:
     bool killProcess(const QString& name, const std::stop_token&) override
@@ -95,23 +107,6 @@ public:
     {
         return note(u"start "_s + name + u' ' + arguments.join(u' '));
     }
-
-    QStringList calls() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_calls;
-    }
-
-private:
-    bool note(const QString& call)
-    {
-        const std::scoped_lock lock(m_mutex);
-        m_calls.append(call);
-        return true;
-    }
-
-    mutable std::mutex m_mutex;
-    QStringList m_calls;
 };
 
 class MemorySettings : public UserSettings
@@ -121,15 +116,13 @@ public:
     {
         return values.value(key, defaultValue);
     }
-    bool saveUserData(const QString& key, const QVariant& value, quint64 signIn) override
+    Saved saveUserData(const QList<Value>& changed, quint64 signIn, OnLock) override
     {
-        if (signIn == m_signIn)
-            values[key] = value;
-        return true;
-    }
-    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override
-    {
-        return saveUserData(key, value, signIn) ? Saved::Done : Saved::Failed;
+        if (signIn != m_signIn)
+            return Saved::Done;
+        for (const Value& each : changed)
+            values[each.key] = each.value;
+        return Saved::Done;
     }
     bool clearUserData() override
     {
@@ -145,32 +138,13 @@ private:
     std::atomic<quint64> m_signIn = 1;
 };
 
+/// Ignores the display's reports about its camera.
 class FakeCamera : public CameraReports
 {
 public:
-    void setAutoFraming(bool on, Direction direction) override
-    {
-        const std::scoped_lock lock(m_mutex);
-        autoFraming = {on, direction};
-    }
-    void setSmartFraming(bool on, Direction direction) override
-    {
-        const std::scoped_lock lock(m_mutex);
-        smartFraming = {on, direction};
-    }
-    void setCameraSwitch(int sw) override
-    {
-        const std::scoped_lock lock(m_mutex);
-        cameraSwitch = sw;
-    }
-
-    // Read these only while no other thread reports.
-    std::pair<bool, Direction> autoFraming{};
-    std::pair<bool, Direction> smartFraming{};
-    int cameraSwitch = -1;
-
-private:
-    std::mutex m_mutex;
+    void setAutoFraming(bool, Direction) override {}
+    void setSmartFraming(bool, Direction) override {}
+    void setCameraSwitch(int) override {}
 };
 
 /// Reports the three states set by the test in each pass.

@@ -17,16 +17,21 @@ class RecordingStore : public UserSettings
 {
 public:
     QVariant getUserData(const QString&, const QVariant& value) override { return value; }
-    bool saveUserData(const QString&, const QVariant&, quint64) override { return false; }
-    Saved trySaveUserData(const QString& key, const QVariant& value, quint64 signIn) override
+    Saved saveUserData(const QList<Value>& values, quint64 signIn, OnLock onLock) override
     {
-        writes.append({key, value, signIn});
-        return Saved::Failed;
+        QStringList change{QString::number(signIn)};
+        for (const Value& each : values)
+            change += each.key + u'=' + each.value.toString();
+        if (onLock == OnLock::Report && locks-- > 0)
+            return Saved::Locked;
+        writes += change.join(u' ');
+        return Saved::Done;
     }
     bool clearUserData() override { return false; }
     quint64 currentSignIn() const override { return 7; }
 
-    QList<QVariantList> writes;
+    QStringList writes;
+    int locks = 1; // attempts that find the store locked;
 };
 
 } // namespace
@@ -53,7 +58,8 @@ void tst_StandardTasks::passTheirArguments()
     queue.addTask(u"saveRegistry"_s, {key, u"disable_local_dev"_s, true});
     queue.addTask(u"saveConfig"_s, {ini, u"VORNApp/support_launch_teams"_s, false});
     queue.addTask(u"saveDB"_s, {u"email"_s, u"a@b.example"_s});
-    queue.addTask(u"saveDB"_s, {u"email"_s, u"c@d.example"_s, quint64(3)});
+    queue.addTask(u"saveDB"_s, {u"email"_s, u"c@d.example"_s, quint64(3), true});
+    queue.addTask(u"saveDB"_s, {u"title"_s, u"Dr"_s, quint64(3), false});
     // Missing arguments are empty, and a sign-in number that is no number belongs to no sign-in.
     queue.addTask(u"saveRegistry"_s, {});
     queue.addTask(u"saveConfig"_s, {ini});
@@ -66,9 +72,8 @@ void tst_StandardTasks::passTheirArguments()
     QCOMPARE(
         QSettings(ini, QSettings::IniFormat).value(u"VORNApp/support_launch_teams"_s).toString(),
         u"false"_s);
-    QCOMPARE(store.writes, (QList<QVariantList>{{u"email"_s, u"a@b.example"_s, quint64(7)},
-                                                {u"email"_s, u"c@d.example"_s, quint64(3)},
-                                                {u"email"_s, u"x"_s, quint64(0)}}));
+    QTRY_COMPARE(store.writes, (QStringList{u"7 email=a@b.example"_s,
+                                            u"3 email=c@d.example title=Dr"_s, u"0 email=x"_s}));
 }
 
 QTEST_GUILESS_MAIN(tst_StandardTasks)

@@ -16,7 +16,6 @@ class tst_DeviceControl : public QObject
 
 private slots:
     void eachPropertyIsReadWrittenAndSignalledUnderItsName();
-    void readOnlyPropertiesSignalUnderTheirNames();
     void adoptsTheConfigurationAtStart();
     void repliesUnderTheIdOfTheMessage();
     void connectModesReachThePagesInOrder();
@@ -47,23 +46,6 @@ void tst_DeviceControl::eachPropertyIsReadWrittenAndSignalledUnderItsName()
         ++written;
     }
     QCOMPARE(written, 17);
-}
-
-void tst_DeviceControl::readOnlyPropertiesSignalUnderTheirNames()
-{
-    DeviceWorld world;
-    DeviceControl& device = world.start();
-    QSignalSpy version(&device, &DeviceControl::versionChanged);
-    QSignalSpy newVersion(&device, &DeviceControl::newVersionChanged);
-    QSignalSpy lowest(&device, &DeviceControl::k4vLowestVerChanged);
-    QSignalSpy firmware(&device, &DeviceControl::remoteVerChanged);
-    device.setVersion(u"1"_s);
-    device.setNewVersion(u"2"_s);
-    device.setK4vLowestVer(u"3"_s);
-    device.setRemoteVer(u"4"_s);
-    QCOMPARE(version.count() + newVersion.count() + lowest.count() + firmware.count(), 4);
-    QCOMPARE(device.version() + device.newVersion() + device.k4vLowestVer() + device.remoteVer(),
-             u"1234"_s);
 }
 
 void tst_DeviceControl::adoptsTheConfigurationAtStart()

@@ -89,8 +89,8 @@ void tst_DisplayState::aConnectionBringsTheWindowForward()
     DisplayState display(m_channel, m_windows);
     for (const int mode : {1, 3, 2})
         display.setConnectMode(ConnectMode(mode));
-    QCOMPARE(m_windows.take(),
-             (QByteArrayList{"no warning", "show", "warn", "show", "no warning", "show"}));
+    QCOMPARE(m_windows.take(), (QStringList{u"no warning"_s, u"show"_s, u"warn"_s, u"show"_s,
+                                            u"no warning"_s, u"show"_s}));
 }
 
 void tst_DisplayState::aDisconnectionResetsTheDisplay()
@@ -106,7 +106,7 @@ void tst_DisplayState::aDisconnectionResetsTheDisplay()
     display.setConnectMode(ConnectMode::None);
     QCOMPARE(display.byodSwitch(), Unavailable);
     QCOMPARE(display.zoomSwitch(), Unavailable);
-    QCOMPARE(m_windows.take(), QByteArrayList{"no warning"});
+    QCOMPARE(m_windows.take(), QStringList{u"no warning"_s});
     display.setVolumeReady(1);
     QCOMPARE(volumeReady.count(), 2);
 }

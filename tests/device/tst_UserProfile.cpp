@@ -11,16 +11,18 @@
 namespace
 {
 
-/// Performs the posted saveDB tasks and returns their keys.
-QStringList performWrites(const QSignalSpy& tasks, UserSettings& store)
+/// Performs the posted saveDB tasks and returns their keys, separated by blanks. A point marks the
+/// end of a change.
+QString performWrites(const QSignalSpy& tasks, UserSettings& store)
 {
-    QStringList written;
+    QString written;
     for (const QVariantList& task : tasks) {
         const QVariantList args = task[1].toList();
         if (task[0] != keys::task::SaveUserData)
             continue;
-        written += args[0].toString();
-        store.saveUserData(args[0].toString(), args[1], args[2].toULongLong());
+        written += args[0].toString() + (args[3].toBool() ? u' ' : u'.');
+        store.saveUserData({{args[0].toString(), args[1]}}, args[2].toULongLong(),
+                           UserSettings::OnLock::Fail);
     }
     return written;
 }
@@ -34,6 +36,7 @@ class tst_UserProfile : public QObject
 private slots:
     void aSignInSurvivesARestart();
     void aSignOutClearsTheUserAndDropsLateWrites();
+    void valuesWithoutAnOwnerAreCleared();
     void aMalformedSignInKeepsTheProfile();
 };
 
@@ -58,12 +61,12 @@ void tst_UserProfile::aSignInSurvivesARestart()
         u"saveRegistry"_s,
         QVariantList{u"HKEY_CURRENT_USER\\System\\CurrentControlSet\\Control\\VORNApp"_s,
                      u"username"_s, u"a@b.c"_s}}));
-    QCOMPARE(performWrites(tasks, store).join(u' '),
-             u"picture token userId email firstName lastName company title"_s);
+    QCOMPARE(performWrites(tasks, store),
+             u"picture token userId email firstName lastName company title."_s);
     tasks.clear();
     // An edit without a picture keeps the present one.
     profile.updateSuccess({{u"data"_s, QJsonObject{{u"firstName"_s, u"Eve"_s}}}});
-    QCOMPARE(performWrites(tasks, store).join(u' '), u"firstName lastName company title"_s);
+    QCOMPARE(performWrites(tasks, store), u"firstName lastName company title."_s);
 
     UserProfile restarted;
     restarted.restore(store);
@@ -89,6 +92,17 @@ void tst_UserProfile::aSignOutClearsTheUserAndDropsLateWrites()
 
     QVERIFY(!performWrites(tasks, store).isEmpty());
     QVERIFY(store.values.isEmpty());
+}
+
+/// As a version that wrote the values one by one left them when it was killed.
+void tst_UserProfile::valuesWithoutAnOwnerAreCleared()
+{
+    MemorySettings store;
+    store.values = {{u"token"_s, u"T"_s}, {u"userId"_s, u"U"_s}, {u"picture"_s, u"P"_s}};
+    UserProfile profile;
+    profile.restore(store);
+    QCOMPARE(profile.token() + profile.userId() + profile.rawPicture(), QString());
+    QVERIFY(!profile.login() && store.values.isEmpty());
 }
 
 void tst_UserProfile::aMalformedSignInKeepsTheProfile()

@@ -8,12 +8,19 @@
 
 #include <memory>
 
+/// Stores one value of the sign-in; false when that fails.
+inline bool save(UserSettings& store, const QString& key, const QVariant& value, quint64 signIn)
+{
+    return store.saveUserData({{key, value}}, signIn, UserSettings::OnLock::Fail) ==
+           UserSettings::Saved::Done;
+}
+
 /// The task that writes to a store. The store is asked for when the task runs.
 inline TaskQueue::Actions storeTask(std::function<UserSettings&()> store)
 {
     return {{keys::task::SaveUserData, [store = std::move(store)](const QVariantList& args, bool) {
-                 store().saveUserData(args.value(0).toString(), args.value(1),
-                                      args.value(2).toULongLong());
+                 save(store(), args.value(0).toString(), args.value(1),
+                      args.value(2).toULongLong());
                  return TaskQueue::Outcome::Done;
              }}};
 }

@@ -1,4 +1,5 @@
 #include "persistence/DBManager.h"
+#include "tests/persistence/Poster.h"
 
 #include "tests/support/LogCapture.h"
 
@@ -166,12 +167,12 @@ void TestDBManager::endedSignInIsDropped()
 {
     DBManager db(m_path);
     const quint64 before = db.currentSignIn();
-    QVERIFY(db.saveUserData(u"email"_s, u"old"_s, before));
+    QVERIFY(save(db, u"email"_s, u"old"_s, before));
     QVERIFY(db.clearUserData());
     QVERIFY(db.currentSignIn() != before);
-    QVERIFY(db.saveUserData(u"email"_s, u"old"_s, before));
+    QVERIFY(save(db, u"email"_s, u"old"_s, before));
     QCOMPARE(rows(), 0);
-    QVERIFY(db.saveUserData(u"email"_s, u"new"_s, db.currentSignIn()));
+    QVERIFY(save(db, u"email"_s, u"new"_s, db.currentSignIn()));
     QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"new"_s);
 }
 
@@ -232,14 +233,14 @@ void TestDBManager::clearingIsMadeUpFor()
         const Intruder intruder(m_path);
         QVERIFY(!db->clearUserData());
         QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
-        QVERIFY(!db->saveUserData(u"email"_s, u"new"_s, db->currentSignIn()));
+        QVERIFY(!save(*db, u"email"_s, u"new"_s, db->currentSignIn()));
     }
     if (byTheNextRun) {
         db.reset();
         db.emplace(m_path);
     }
     if (beforeAWrite)
-        QVERIFY(db->saveUserData(u"email"_s, u"new"_s, db->currentSignIn()));
+        QVERIFY(save(*db, u"email"_s, u"new"_s, db->currentSignIn()));
     QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
     QCOMPARE(rows(), beforeAWrite ? 1 : 0);
 

@@ -44,7 +44,7 @@ private slots:
     void connectionEndsWithItsThread();
     void threadOutlivesStore();
     void signOutBeatsPendingWrites();
-    void aLockedFileIsReportedWhileItIsLocked();
+    void aChangeWaitsForALockedFileAndIsStoredWhole();
 
 private:
     std::optional<QTemporaryDir> m_dir;
@@ -62,7 +62,7 @@ void TestDBManagerThreads::severalThreadsAtOnce()
         threads.emplace_back([&db, &failed, t] {
             for (int i = 0; i < kWrites; ++i) {
                 const QString key = u"%1-%2"_s.arg(t).arg(i);
-                failed += !db.saveUserData(key, i, db.currentSignIn());
+                failed += !save(db, key, i, db.currentSignIn());
                 failed += db.getUserData(key, -1).toInt() != i;
             }
         });
@@ -133,18 +133,27 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
     }
 }
 
-void TestDBManagerThreads::aLockedFileIsReportedWhileItIsLocked()
+void TestDBManagerThreads::aChangeWaitsForALockedFileAndIsStoredWhole()
 {
     using enum UserSettings::Saved;
     DBManager db(m_path);
     QVERIFY(db.execQuery(u"BEGIN EXCLUSIVE"_s, {})); // another connection than the thread's
     auto saved = Done;
-    const auto save = [&] { saved = db.trySaveUserData(u"a"_s, 1, db.currentSignIn()); };
+    const auto save = [&] {
+        saved = db.saveUserData({{u"a"_s, 1}, {u"b"_s, 2}}, db.currentSignIn(),
+                                UserSettings::OnLock::Report);
+    };
     std::thread(save).join();
     QCOMPARE(saved, Locked);
     QVERIFY(db.execQuery(u"COMMIT"_s, {}));
     std::thread(save).join();
     QCOMPARE(saved, Done);
+
+    // A change is stored whole or not at all.
+    QCOMPARE(db.saveUserData({{u"a"_s, 3}, {QString(), 4}}, db.currentSignIn(),
+                             UserSettings::OnLock::Fail),
+             Failed);
+    QCOMPARE(db.getUserData(u"a"_s, {}).toInt(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestDBManagerThreads)

@@ -1,4 +1,5 @@
 #include "persistence/DBManager.h"
+#include "tests/persistence/Poster.h"
 
 #include "tests/support/LogCapture.h"
 
@@ -34,7 +35,7 @@ private slots:
             QVERIFY(lines[1].startsWith(openError) && lines[1].size() > openError.size());
             QCOMPARE(lines[2], u"E DBManager::getUserData Database not open"_s);
 
-            QVERIFY(!db.saveUserData(u"email"_s, u"a@b.example"_s, db.currentSignIn()));
+            QVERIFY(!save(db, u"email"_s, u"a@b.example"_s, db.currentSignIn()));
             lines = log.take();
             QCOMPARE(lines.size(), 2);
             QVERIFY(lines[0].startsWith(openError));
