@@ -16,14 +16,20 @@ FocusScope {
     readonly property bool autoFraming: camera.autoFraming
     readonly property bool windowShown: Window.visibility !== Window.Hidden && Window.visibility !== Window.Minimized
 
+    // True while the tab follows a report of the display.
+    property bool following: false
+
     function followFraming(): void {
+        panel.following = true;
         panel.currentPage = panel.autoFraming ? panel.page_id_auto_framing : panel.page_id_manual;
+        panel.following = false;
     }
 
     onAutoFramingChanged: followFraming()
-    // When the display reported the framing, the camera object has the same value and sends nothing.
     onCurrentPageChanged: {
-        panel.camera.setAutoFraming(panel.currentPage === panel.page_id_auto_framing);
+        // A report must not be sent back: the display may have changed the framing again since.
+        if (!panel.following)
+            panel.camera.setAutoFraming(panel.currentPage === panel.page_id_auto_framing);
         // Takes the focus from a control that was hidden.
         if (manualPage.activeFocus || autoFramingPage.activeFocus)
             tabBar.currentItem.forceActiveFocus();

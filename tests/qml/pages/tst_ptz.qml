@@ -172,10 +172,11 @@ DisplayTest {
 
     function test_presetsAreAppliedAndSaved(): void {
         elsewhere.forceActiveFocus();
+        mouseClick(test.panel, 20, 440);
+        verify(test.panel.activeFocus, "a press focuses the panel");
         for (let i = 0; i < 3; ++i) {
             mouseClick(test.control("preset" + (i + 1)));
             compare(test.sent(), [test.preset(i, 0)]);
-            verify(test.panel.activeFocus, "a press focuses the panel");
             const save = test.raiseSaveButton("preset" + (i + 1));
             const preset = test.control("preset" + (i + 1));
             compare(test.centreOf(save).x, test.centreOf(preset).x);
@@ -238,6 +239,37 @@ DisplayTest {
         test.answer(13, "autoframestatus", 0);
         verify(test.control("manualPage").visible);
         compare(test.sent(), []);
+    }
+
+    Component {
+        id: standInComponent
+
+        Item {
+            property alias camera: ptz
+
+            // Takes the place of the program's camera object for the panel in this component.
+            QtObject {
+                id: ptz
+
+                property bool autoFraming: false
+                property bool smartFraming: false
+                property var calls: []
+
+                function setAutoFraming(on: bool): void {
+                    calls.push(on);
+                }
+            }
+
+            PTZ {}
+        }
+    }
+
+    // The display may have changed the framing again when the panel follows its report.
+    function test_reportsAreNotSentBack(): void {
+        const camera = createTemporaryObject(standInComponent, test).camera;
+        camera.autoFraming = true;
+        camera.autoFraming = false;
+        compare(camera.calls, []);
     }
 
     function test_opensOnTheTabOfTheDisplay(): void {
