@@ -8,6 +8,9 @@ Item {
     property string imageSource: ""
     property string accessibleName: ""
 
+    // The image cannot be read.
+    signal failed
+
     width: 84
     height: width
 
@@ -20,10 +23,19 @@ Item {
 
         anchors.fill: parent
         source: root.imageSource
+        // A photograph takes seconds and hundreds of megabytes to decode at its full size.
+        sourceSize.width: root.width
+        sourceSize.height: root.height
+        asynchronous: !root.imageSource.startsWith("qrc:")
+        autoTransform: true
         fillMode: Image.PreserveAspectCrop
         // Photographs are many times larger than the circle.
         mipmap: true
         visible: false
+        onStatusChanged: {
+            if (status === Image.Error)
+                root.failed();
+        }
     }
 
     Rectangle {

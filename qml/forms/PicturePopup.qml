@@ -47,6 +47,7 @@ Popup {
         x: 50
         y: 65
         imageSource: popup.defaultPicture
+        onFailed: popup.error = qsTr("The picture cannot be read.")
     }
 
     LatoRegularLabel {

@@ -38,6 +38,18 @@ TestCase {
         }
     }
 
+    CircularImage {
+        id: picture
+
+        imageSource: Qt.resolvedUrl("../../../qml/images/background_1_437x576.png")
+    }
+
+    function test_pictureIsDecodedAtItsShownSize(): void {
+        const image = picture.children[0] as Image;
+        tryCompare(image, "status", Image.Ready);
+        compare([image.implicitWidth, image.implicitHeight], [84, 111]);
+    }
+
     function test_switchIgnoresClicksWhileItMoves(): void {
         const toggle = createTemporaryObject(switchComponent, test) as QuickSwitch;
         const handle = toggle.children[0];
