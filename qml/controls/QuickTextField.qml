@@ -44,6 +44,7 @@ T.TextField {
 
     function reset(): void {
         clear();
+        showPassword = false;
         settle();
     }
 
@@ -64,6 +65,7 @@ T.TextField {
     }
 
     function checkInputComplete(): void {
+        contentValid = true;
         if (text === "")
             fail();
         else
@@ -71,6 +73,7 @@ T.TextField {
     }
 
     function focusChangedCheckInput(): void {
+        contentValid = true;
         if (text === "")
             settle();
         else
@@ -79,7 +82,6 @@ T.TextField {
 
     function checkContent(): void {
         const check = onContentCheck;
-        contentValid = true;
         if (check && !check()) {
             contentValid = false;
             fail();

@@ -247,8 +247,9 @@ TestCase {
         compare(placeholder.text, "Email");
         field.text = "a";
         verify(!placeholder.visible);
+        field.showPassword = true;
         field.reset();
-        verify(placeholder.visible);
+        verify(placeholder.visible && !field.showPassword);
     }
 
     function test_screenReader(): void {
