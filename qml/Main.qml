@@ -22,6 +22,9 @@ Window {
             monitorWindow.requestActivate();
             return;
         }
+        // The system chooses the first place, unless the window does not fit.
+        if (mainWindow.shown || mainWindow.width > Screen.width || mainWindow.height > Screen.height)
+            mainWindow.keepReachable();
         mainWindow.visibility = Window.Windowed;
         mainWindow.visible = true;
         // Staying on top for one turn of the event loop forces the window in front of those of other
@@ -30,6 +33,26 @@ Window {
         mainWindow.raise();
         mainWindow.requestActivate();
         Qt.callLater(dropStayOnTop);
+    }
+
+    // Length of the part of a span that lies between two positions.
+    function partBetween(start: real, length: real, from: real, to: real): real {
+        return Math.max(0, Math.min(start + length, to) - Math.max(start, from));
+    }
+
+    // Moves the window onto a screen when less than half of it can be seen, as after its screen was unplugged. Of a
+    // window that is larger than the screen the title buttons stay visible.
+    function keepReachable(): void {
+        const areas = Array.from(Application.screens, screen => Qt.rect(screen.virtualX, screen.virtualY,
+                                                                        screen.width, screen.height));
+        const visiblePart = area => partBetween(mainWindow.x, mainWindow.width, area.left, area.right)
+                                    * partBetween(mainWindow.y, mainWindow.height, area.top, area.bottom);
+        const area = areas.reduce((best, next) => visiblePart(next) > visiblePart(best) ? next : best);
+        const fits = mainWindow.width <= area.width && mainWindow.height <= area.height;
+        if (fits && visiblePart(area) >= mainWindow.width * mainWindow.height / 2)
+            return;
+        mainWindow.x = Math.min(Math.max(mainWindow.x, area.left), area.right - mainWindow.width);
+        mainWindow.y = Math.max(Math.min(mainWindow.y, area.bottom - mainWindow.height), area.top);
     }
 
     function dropStayOnTop(): void {
