@@ -46,6 +46,7 @@ LoginForm {
             form.accepted();
     }
 
+    errorBelowFields: confirmField.showError && confirmField.errorMessage !== ""
     title: qsTr("Create an Account")
     subline: qsTr("Already have an account?")
     linkText: qsTr("Sign In")

@@ -11,11 +11,14 @@ Item {
     property alias subline: sublineLabel.text
     // Text of the link after the sub-line; no link when empty.
     property alias linkText: link.text
-    property alias submitText: submitLabel.text
+    property alias submitText: submitButton.text
+    property alias busy: submitButton.busy
     property alias submitY: submitButton.y
     property alias submitButton: submitButton
     property alias serverResponse: responseLabel.text
     property alias serverResponseColor: responseLabel.color
+    // True when the lowest field shows an error, which a second line of the service's text would cover.
+    property bool errorBelowFields: false
     // Maximum width of the service's error text.
     property real responseWidth: width - responseLabel.x
 
@@ -66,25 +69,16 @@ Item {
         width: Math.min(implicitWidth, form.responseWidth)
         wrapMode: Text.Wrap
         elide: Text.ElideRight
-        maximumLineCount: 2
+        maximumLineCount: form.errorBelowFields ? 1 : 2
         font.pixelSize: Theme.noteText
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
     }
 
-    QuickButton {
+    SubmitButton {
         id: submitButton
 
         width: 375
-        height: 36
-        radius: Theme.pillRadius
-        onClicked: form.submitted()
-
-        LatoRegularLabel {
-            id: submitLabel
-
-            anchors.centerIn: parent
-            font.pixelSize: Theme.bodyText
-        }
+        onSubmitted: form.submitted()
     }
 }

@@ -11,6 +11,7 @@ Item {
     property alias firstName: firstNameField.text
     property alias lastName: lastNameField.text
     property alias title: titleField.text
+    property alias busy: saveButton.busy
     property alias serverResponse: responseLabel.text
     property alias serverResponseColor: responseLabel.color
 
@@ -144,21 +145,15 @@ Item {
         onClicked: view.canceled()
     }
 
-    QuickButton {
+    SubmitButton {
         id: saveButton
 
         objectName: "saveButton"
         x: 456
         y: 356
         width: 100
-        height: 36
         radius: Theme.pillRadius
-        onClicked: view.saveClicked()
-
-        LatoRegularLabel {
-            anchors.centerIn: parent
-            text: qsTr("Save")
-            font.pixelSize: Theme.bodyText
-        }
+        text: qsTr("Save")
+        onSubmitted: view.saveClicked()
     }
 }

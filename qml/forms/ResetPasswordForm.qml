@@ -23,6 +23,7 @@ LoginForm {
             form.accepted();
     }
 
+    errorBelowFields: emailField.showError
     title: qsTr("Password Reset")
     subline: qsTr("Enter your email below and we'll send you a link to \nreset your password.")
     submitText: qsTr("Send")

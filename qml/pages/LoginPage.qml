@@ -33,38 +33,66 @@ Item {
     readonly property CreateAccountForm createAccountForm: createAccountLoader.item as CreateAccountForm
     readonly property ResetPasswordForm resetPasswordForm: resetPasswordLoader.item as ResetPasswordForm
 
+    // The page whose request was sent last, -1 when none was or the user has left that page.
+    property int awaitedPage: -1
+    // True until that request has ended.
+    property bool busy: false
+
     function signIn(): void {
-        page.serverResponse = "";
-        signInForm.submit();
+        page.submit(signInForm);
     }
 
     function createAccount(): void {
-        page.serverResponse = "";
-        page.createAccountForm.submit();
+        page.submit(page.createAccountForm);
     }
 
     function resetPassword(): void {
+        page.submit(page.resetPasswordForm);
+    }
+
+    function submit(form: var): void {
+        if (page.busy)
+            return;
         page.serverResponse = "";
-        page.resetPasswordForm.submit();
+        form.submit();
     }
 
-    // Ignores a failure when another form is shown or a user has signed in meanwhile.
+    function awaitReply(): void {
+        page.awaitedPage = page.currentPage;
+        page.busy = true;
+    }
+
+    // Texts and replies of earlier requests concern neither another form nor the next user.
+    function forgetRequest(): void {
+        page.serverResponse = "";
+        page.awaitedPage = -1;
+        page.busy = false;
+    }
+
+    // A request that exceeds its time-out fails twice; the last text stays.
     function showFailure(form: int, error: string): void {
-        if (page.currentPage === form && !page.device.login)
-            page.serverResponse = error;
+        if (page.awaitedPage !== form || page.device.login)
+            return;
+        page.busy = false;
+        page.serverResponse = error;
     }
 
-    function goOn(next: int): void {
-        if (!page.device.login)
+    function goOn(form: int, next: int): void {
+        if (page.awaitedPage === form && !page.device.login)
             page.currentPage = next;
     }
 
+    Keys.onEscapePressed: event => {
+        event.accepted = page.currentPage !== page.page_id_sign_in;
+        page.currentPage = page.page_id_sign_in;
+    }
     onVisibleChanged: {
+        page.forgetRequest();
         if (visible)
             signInForm.forceActiveFocus(); // takes it from the hidden main page
     }
     onCurrentPageChanged: {
-        page.serverResponse = "";
+        page.forgetRequest();
         switch (page.currentPage) {
         case page.page_id_sign_in:
             // Takes the focus from the hidden fields.
@@ -96,6 +124,7 @@ Item {
 
         function onLoginSuccess(userData: var): void {
             page.device.loginSuccess(userData);
+            page.forgetRequest();
             page.currentPage = page.page_id_sign_in;
             signInForm.reset();
             signInForm.submitButton.forceActiveFocus();
@@ -104,13 +133,13 @@ Item {
             page.showFailure(page.page_id_sign_in, error);
         }
         function onRegistrationSuccess(): void {
-            page.goOn(page.page_id_verify_account);
+            page.goOn(page.page_id_create_account, page.page_id_verify_account);
         }
         function onRegistrationFailed(error: string): void {
             page.showFailure(page.page_id_create_account, error);
         }
         function onPasswordResetSent(): void {
-            page.goOn(page.page_id_reset_password_complete);
+            page.goOn(page.page_id_reset_password, page.page_id_reset_password_complete);
         }
         function onPasswordResetFailed(error: string): void {
             page.showFailure(page.page_id_reset_password, error);
@@ -141,7 +170,11 @@ Item {
         serverResponse: page.serverResponse
         serverResponseColor: page.serverResponseColor
         onSubmitted: page.signIn()
-        onAccepted: page.service.login(email, password)
+        busy: page.busy
+        onAccepted: {
+            page.awaitReply();
+            page.service.login(email, password);
+        }
         onLinkClicked: page.currentPage = page.page_id_create_account
         onForgotPassword: page.currentPage = page.page_id_reset_password
     }
@@ -160,8 +193,10 @@ Item {
             notCompanyEmail: page.notCompanyEmail
             serverResponse: page.serverResponse
             serverResponseColor: page.serverResponseColor
+            busy: page.busy
             onSubmitted: page.createAccount()
             onAccepted: {
+                page.awaitReply();
                 page.str_email = email;
                 page.service.registerUser(firstName, lastName, email, password);
             }
@@ -195,8 +230,10 @@ Item {
         sourceComponent: ResetPasswordForm {
             serverResponse: page.serverResponse
             serverResponseColor: page.serverResponseColor
+            busy: page.busy
             onSubmitted: page.resetPassword()
             onAccepted: {
+                page.awaitReply();
                 page.str_email = email;
                 page.service.resetPassword(email);
             }

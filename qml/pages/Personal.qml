@@ -14,6 +14,9 @@ Item {
     property color serverResponseColor: Theme.errorRed
     // The last selection of the file dialog, even if it was refused. Save sends this file.
     property string chosenFile: ""
+    // A save was sent from the form that is shown, and has not ended yet.
+    property bool saveSent: false
+    property bool busy: false
     // A picture must have fewer bytes.
     readonly property int pictureLimit: 2097152
 
@@ -49,14 +52,23 @@ Item {
     }
 
     function save(): void {
+        if (page.busy)
+            return;
         page.serverResponse = "";
-        if (edit.check())
-            page.service.profileUpdate(edit.firstName, edit.lastName, edit.company, edit.title,
-                                       page.chosenFile);
+        if (!edit.check())
+            return;
+        page.saveSent = page.busy = true;
+        page.service.profileUpdate(edit.firstName, edit.lastName, edit.company, edit.title, page.chosenFile);
+    }
+
+    // Replies to an earlier save concern neither the form opened later nor the next user.
+    function forgetSave(): void {
+        page.serverResponse = "";
+        page.saveSent = page.busy = false;
     }
 
     onCurrentPageChanged: {
-        page.serverResponse = "";
+        page.forgetSave();
         page.reload();
         if (page.currentPage === page.page_id_personal_edit)
             edit.focusFirstField();
@@ -74,6 +86,7 @@ Item {
         // Must not be saved in the next user's profile.
         function onLoginChanged(): void {
             page.chosenFile = "";
+            page.forgetSave();
         }
     }
 
@@ -81,10 +94,14 @@ Item {
         target: page.service
 
         function onProfileUpdateSuccess(userData: var): void {
-            page.currentPage = page.page_id_personal_info;
+            if (page.saveSent)
+                page.currentPage = page.page_id_personal_info;
             page.device.profileUpdateSuccess(userData);
         }
         function onProfileUpdateFailed(error: string): void {
+            if (!page.saveSent)
+                return;
+            page.busy = false;
             page.serverResponse = error;
         }
         function onProfileRequestSuccess(userData: var): void {
@@ -150,6 +167,7 @@ Item {
             visible: page.currentPage === page.page_id_personal_edit
             imageSource: page.device.userImage
             email: page.device.email
+            busy: page.busy
             serverResponse: page.serverResponse
             serverResponseColor: page.serverResponseColor
             onAvatarClicked: picturePopup.open()

@@ -61,6 +61,50 @@ PageTest {
         deviceControl.setLogin(false);
     }
 
+    function test_formIsSentOnceAndForgottenAfterLeaving(): void {
+        type("email", "ada@example.com");
+        type("password", "wrong");
+        for (let i = 0; i < 3; ++i)
+            keyClick(Qt.Key_Return);
+        submit(formWith("email"));
+        verify(formWith("email").busy);
+        tryVerify(() => page.serverResponse !== "");
+        compare(rig.takeRequests().length, 1);
+        verify(!formWith("email").busy);
+        // The next user does not see the text.
+        page.visible = false;
+        page.visible = true;
+        compare(page.serverResponse, "");
+
+        submit(formWith("email"));
+        click("Forgot Password?");
+        compare(visibleChild("email").text, "");
+        keyClick(Qt.Key_Escape);
+        compare(page.currentPage, page.page_id_sign_in);
+        network.loginFailed("of the form that was left");
+        compare(page.serverResponse, "");
+        network.registrationSuccess();
+        compare(page.currentPage, page.page_id_sign_in);
+    }
+
+    function test_clearedAddressIsNotCalledPrivate(): void {
+        click("Create an account");
+        type("email", "a@gmail.com");
+        keyClick(Qt.Key_Tab);
+        type("email", "");
+        submit(formWith("email"));
+        verify(!shown("Please use a work email address to register."));
+        type("confirmPassword", "x");
+        keyClick(Qt.Key_Return);
+        // The service's text takes the second line only while the field needs no line of its own.
+        const form = formWith("email");
+        form.serverResponse = "A text of the service that is much longer than a single line of this form can hold";
+        const response = visibleText(form.serverResponse);
+        compare(response.lineCount, 1);
+        verify(response.y >= visibleChild("confirmPassword").mapToItem(form, 0, 38).y + 15);
+        compare(form.submitButton.radius, 10);
+    }
+
     // Replies to requests made before a sign-in must not be visible after the sign-out.
     function test_lateRepliesAreIgnored(): void {
         click("Create an account");

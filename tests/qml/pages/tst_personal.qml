@@ -131,10 +131,17 @@ PageTest {
     function test_serviceRefuses(): void {
         openEdit();
         rig.endSessions("ada@example.com");
+        rig.takeRequests();
         click("Save");
+        click("Save");
+        verify(visibleChild("saveButton").busy);
         tryVerify(() => page.serverResponse !== "");
-        verify(shown(page.serverResponse));
+        compare(rig.takeRequests().length, 1);
+        verify(shown(page.serverResponse) && !visibleChild("saveButton").busy);
+        click("Save");
         click("Cancel");
+        compare(page.serverResponse, "");
+        network.profileUpdateFailed("of the form that was left");
         compare(page.serverResponse, "");
     }
 
