@@ -30,6 +30,13 @@ Window {
         monitor.device.monitorPlay(true);
     }
 
+    function followConnectMode(): void {
+        if (monitor.connectMode === 1 && monitor.isPlayed)
+            monitor.currentPage = monitor.page_id_complete;
+        else if (monitor.connectMode === 0 || monitor.connectMode === 1)
+            monitor.close();
+    }
+
     function stop(): void {
         monitor.device.monitorPlay(false);
         monitor.device.setVideoSink(null);
@@ -50,17 +57,20 @@ Window {
         monitor.currentPage = monitor.page_id_monitor;
         frameTimer.restart();
     }
-    onConnectModeChanged: {
-        if (monitor.connectMode === 1 && monitor.isPlayed)
-            monitor.currentPage = monitor.page_id_complete;
-        else if (monitor.connectMode === 0 || monitor.connectMode === 1)
-            monitor.close();
-    }
+    onConnectModeChanged: followConnectMode()
     onVisibilityChanged: {
         if (monitor.visibility === Window.Hidden || monitor.visibility === Window.Minimized)
             pointer.endHold();
     }
     onClosing: pointer.endHold()
+
+    // The mode can change while the window is being created. Deferred, because the creator connects to `closing`
+    // after that.
+    Timer {
+        interval: 0
+        running: true
+        onTriggered: monitor.followConnectMode()
+    }
 
     Timer {
         id: frameTimer

@@ -11,18 +11,15 @@ Row {
     property int stepInterval: 200
     property int timeout: 120000
     readonly property bool running: timer.running
+    // Milliseconds since the first step, -1 before it: a sum of intervals, which follow a monotonic clock.
+    property int elapsed: -1
 
     signal timedOut
-
-    // Current time in milliseconds. A test overrides it.
-    function now(): real {
-        return Date.now();
-    }
 
     function start(): void {
         root.greyed = false;
         root.value = 0;
-        timer.startTime = NaN;
+        root.elapsed = -1;
         timer.restart();
     }
 
@@ -34,9 +31,9 @@ Row {
     function step(): void {
         if (root.value < 99)
             root.value += 1;
-        if (isNaN(timer.startTime)) {
-            timer.startTime = root.now();
-        } else if (root.now() - timer.startTime >= root.timeout) {
+        const isFirst = root.elapsed < 0;
+        root.elapsed = isFirst ? 0 : root.elapsed + root.stepInterval;
+        if (!isFirst && root.elapsed >= root.timeout) {
             timer.stop();
             root.greyed = true;
             root.timedOut();
@@ -73,8 +70,6 @@ Row {
 
     Timer {
         id: timer
-
-        property real startTime: NaN
 
         interval: root.stepInterval
         repeat: true

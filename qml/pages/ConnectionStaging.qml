@@ -11,6 +11,8 @@ Item {
     required property bool camConnected
     // True while the connecting face is shown.
     required property bool active
+    // True while the user can see the stages.
+    property bool watched: true
 
     property bool showMicConnected: false
     property bool showSpkConnected: false
@@ -29,18 +31,18 @@ Item {
     property int blinkOffInterval: 650
     property int completeInterval: 2000
     property int tickInterval: 500
-    // Accepts a timer event that is slightly early, so that it does not cost a whole interval.
-    property int tickTolerance: 50
 
+    readonly property bool waiting: active && !connectComplete
+    // When nothing blinks, one timer event per second is enough.
+    readonly property bool slow: !watched || connectTimeout
     readonly property bool blinking: blinkTimer.running
+    // Milliseconds waited for the next device and for all devices, -1 before the first tick. They are sums of timer
+    // intervals, which follow a monotonic clock.
+    property int deviceWait: -1
+    property int totalWait: -1
 
     // All devices have been shown for `completeInterval`.
     signal finished
-
-    // Current time in milliseconds. A test overrides it.
-    function now(): real {
-        return Date.now();
-    }
 
     // The display was disconnected; the next connection starts from the beginning.
     function reset(): void {
@@ -52,21 +54,20 @@ Item {
     }
 
     function showNext(): void {
+        if (staging.deviceWait >= 0)
+            staging.deviceWait += staging.tickInterval;
         const first = staging.micConnected && !staging.showMicConnected;
         const second = staging.showMicConnected && staging.spkConnected && !staging.showSpkConnected;
         const third = staging.showMicConnected && staging.showSpkConnected && staging.camConnected
                       && !staging.showCamConnected;
         if (!first && !second && !third)
             return;
-        if (isNaN(stagingTimer.startTime)) {
-            stagingTimer.startTime = staging.now();
-            return;
-        }
-        const waited = staging.now() - stagingTimer.startTime;
-        if (waited + staging.tickTolerance < staging.deviceShowInterval + staging.firstShowInterval)
+        if (staging.deviceWait < 0)
+            staging.deviceWait = 0;
+        if (staging.deviceWait < staging.deviceShowInterval + staging.firstShowInterval)
             return;
         staging.firstShowInterval = 0;
-        stagingTimer.startTime = NaN;
+        staging.deviceWait = -1;
         if (first)
             staging.showMicConnected = true;
         else if (second)
@@ -76,12 +77,10 @@ Item {
     }
 
     function blink(): void {
+        const elapsed = staging.blinkState ? staging.blinkOnInterval : staging.blinkOffInterval;
+        staging.totalWait = staging.totalWait < 0 ? 0 : staging.totalWait + elapsed;
         staging.blinkState = !staging.blinkState;
-        blinkTimer.interval = staging.blinkState ? staging.blinkOnInterval : staging.blinkOffInterval;
-        if (isNaN(blinkTimer.startTime)) {
-            blinkTimer.startTime = staging.now();
-            staging.connectTimeout = false;
-        } else if (staging.now() - blinkTimer.startTime >= staging.connectionTimeout) {
+        if (staging.totalWait > 0 && staging.totalWait >= staging.connectionTimeout) {
             staging.connectTimeout = true;
             staging.status = qsTr("Connection failed. Please reconnect the device.");
             return;
@@ -107,6 +106,11 @@ Item {
         if (!camConnected)
             showCamConnected = false;
     }
+    onWaitingChanged: {
+        staging.deviceWait = staging.totalWait = -1;
+        if (staging.waiting)
+            staging.connectTimeout = false;
+    }
     onConnectCompleteChanged: {
         if (connectComplete)
             completeTimer.restart();
@@ -115,27 +119,35 @@ Item {
     Timer {
         id: stagingTimer
 
-        property real startTime: NaN
-
         interval: staging.tickInterval
         repeat: true
         triggeredOnStart: true
-        running: staging.active && !staging.connectComplete
-        onRunningChanged: startTime = NaN
+        running: staging.waiting && !staging.slow
         onTriggered: staging.showNext()
     }
 
     Timer {
         id: blinkTimer
 
-        property real startTime: NaN
-
-        interval: staging.blinkOffInterval
+        interval: staging.blinkState ? staging.blinkOnInterval : staging.blinkOffInterval
         repeat: true
         triggeredOnStart: true
-        running: staging.active && !staging.connectComplete
-        onRunningChanged: startTime = NaN
+        running: staging.waiting && !staging.slow
         onTriggered: staging.blink()
+    }
+
+    // Replaces the two timers above while nothing blinks: two ticks and a whole blink at a time.
+    Timer {
+        interval: 2 * staging.tickInterval
+        repeat: true
+        running: staging.waiting && staging.slow
+        onTriggered: {
+            for (let i = 0; i < 2; ++i) {
+                staging.showNext();
+                if (!staging.connectTimeout)
+                    staging.blink();
+            }
+        }
     }
 
     Timer {

@@ -38,6 +38,9 @@ Item {
 
     // The object that stores the monitor window in `monitorWindow`.
     property var mainWindow: Window.window
+    property url monitorSource: "../Monitor.qml"
+    property bool monitorFailed: false
+    readonly property bool windowShown: Window.visibility !== Window.Hidden && Window.visibility !== Window.Minimized
 
     function handleConnectModeChanged(mode: int): void {
         if (mode === 1) {
@@ -56,8 +59,7 @@ Item {
             return page.connectedColor;
         if (page.connectTimeout)
             return page.timeoutColor;
-        // Not while the page is hidden: each change draws the window.
-        const blinks = connecting && page.visible && staging.blinking;
+        const blinks = connecting && staging.blinking;
         return blinks && page.blinkState ? page.connectedColor : page.defaultColor;
     }
 
@@ -76,24 +78,36 @@ Item {
 
     function startSetup(): void {
         page.device.startSetupBarOOBE();
-        page.showMonitorWindow();
-        page.currentPage = page.page_id_oobe_setuping;
+        page.monitorFailed = !page.showMonitorWindow();
+        if (!page.monitorFailed)
+            page.currentPage = page.page_id_oobe_setuping;
     }
 
-    function showMonitorWindow(): void {
+    // Returns false, with a warning in the log, when the window cannot be created.
+    function showMonitorWindow(): bool {
         if (page.mainWindow.monitorWindow) {
             page.mainWindow.monitorWindow.raise();
             page.mainWindow.monitorWindow.requestActivate();
-            return;
+            return true;
         }
-        const component = Qt.createComponent("../Monitor.qml");
-        if (component.status === Component.Error) {
-            console.warn(component.errorString());
-            return;
+        const component = Qt.createComponent(page.monitorSource);
+        const monitor = component.status === Component.Ready ? component.createObject(null) : null;
+        if (!monitor) {
+            console.warn("The monitor window cannot be created: " + component.errorString());
+            return false;
         }
-        const monitor = component.createObject(null);
         page.mainWindow.monitorWindow = monitor;
         monitor.closing.connect(() => page.dropMonitorWindow());
+        return true;
+    }
+
+    // Gives the focus to the control of the current face, unless another visible control has it.
+    function focusFace(): void {
+        const holder = Window.activeFocusItem;
+        if (!page.visible || holder?.visible && holder.enabled && holder.activeFocusOnTab)
+            return;
+        const buttons = [goButton, zoomButton, teamsButton, googleButton, setupButton];
+        (buttons.find(button => button.visible) ?? page).forceActiveFocus();
     }
 
     function dropMonitorWindow(): void {
@@ -102,7 +116,22 @@ Item {
         page.handleConnectModeChanged(page.connectMode);
     }
 
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Meetings")
     onConnectModeChanged: handleConnectModeChanged(connectMode)
+    onCurrentPageChanged: {
+        page.monitorFailed = false;
+        focusTimer.restart();
+    }
+    onVisibleChanged: focusTimer.restart()
+
+    // Deferred until the face is visible.
+    Timer {
+        id: focusTimer
+
+        interval: 0
+        onTriggered: page.focusFace()
+    }
 
     ConnectionStaging {
         id: staging
@@ -111,6 +140,7 @@ Item {
         spkConnected: page.vornSpkConnect
         camConnected: page.vornCamConnect
         active: page.currentPage === page.page_id_connecting
+        watched: page.visible && page.windowShown
         onFinished: page.currentPage = page.page_id_connected
     }
 
@@ -206,6 +236,8 @@ Item {
             }
 
             FaceButton {
+                id: goButton
+
                 objectName: "goButton"
                 y: 364
                 width: 163
@@ -230,6 +262,8 @@ Item {
                 spacing: 60
 
                 LauncherButton {
+                    id: zoomButton
+
                     objectName: "launchZoom"
                     text: qsTr("ZOOM")
                     visible: page.device.supportLaunchZoom
@@ -237,6 +271,8 @@ Item {
                 }
 
                 LauncherButton {
+                    id: teamsButton
+
                     objectName: "launchTeams"
                     text: qsTr("Teams")
                     visible: page.device.supportLaunchTeams
@@ -244,6 +280,8 @@ Item {
                 }
 
                 LauncherButton {
+                    id: googleButton
+
                     objectName: "launchGoogle"
                     text: qsTr("Google\n  Meet")
                     visible: page.device.supportLaunchGoogle
@@ -269,11 +307,22 @@ Item {
             }
 
             FaceButton {
+                id: setupButton
+
                 objectName: "startSetupButton"
                 y: 318
                 width: 160
                 text: qsTr("Start Setup")
                 onClicked: page.startSetup()
+            }
+
+            FaceLabel {
+                y: setupButton.y + setupButton.height + 20
+                text: qsTr("The monitor window cannot be opened.")
+                font.pixelSize: Theme.noteText
+                color: page.timeoutColor
+                visible: page.monitorFailed
+                Accessible.role: Accessible.AlertMessage
             }
         }
 

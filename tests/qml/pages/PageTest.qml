@@ -40,7 +40,6 @@ TestCase {
     function shortenStaging(): void {
         const staging = test.search(test.page, item => item.firstShowDelay !== undefined);
         staging.tickInterval = 5;
-        staging.tickTolerance = 1;
         staging.deviceShowInterval = staging.firstShowDelay = staging.firstShowInterval = staging.completeInterval = 20;
         staging.blinkOnInterval = staging.blinkOffInterval = 5;
     }

@@ -64,10 +64,10 @@ PageTest {
         rig.plug(true, true, true);
         rig.report(0, '{"cmd":0,"type":2,"seq":1,"isReady":1}');
         tryVerify(() => visibleChild("goButton"));
-        tabTo("Go");
+        tryVerify(() => focusItem().accessibleName === "Go");
         keyClick(Qt.Key_Return);
         rig.takeTasks();
-        tabTo("ZOOM");
+        tryVerify(() => focusItem().accessibleName === "ZOOM");
         keyClick(Qt.Key_Return);
         compare(rig.takeTasks(), ["launchZoom"]);
     }

@@ -124,6 +124,13 @@ PageTest {
     function test_setUpOpensOneMonitorWindow(): void {
         rig.report(0, '{"cmd":0,"type":2,"seq":1,"isReady":2}');
         tryCompare(page, "currentPage", page.page_id_oobe_detected);
+        const source = page.monitorSource;
+        page.monitorSource = "missing.qml";
+        ignoreWarning(/The monitor window cannot be created/);
+        mouseClick(findChild(page, "startSetupButton"));
+        compare(page.currentPage, page.page_id_oobe_detected);
+        verify(shown("The monitor window cannot be opened."));
+        page.monitorSource = source;
         mouseClick(findChild(page, "startSetupButton"));
         compare(page.currentPage, page.page_id_oobe_setuping);
         const monitor = windowHolder.monitorWindow;

@@ -132,7 +132,16 @@ DisplayTest {
             tryVerify(() => test.visibleFace() === "failedFace");
         }
         test.answer(0, "isReady", data.mode);
-        compare(test.closed, 1);
+        tryCompare(test, "closed", 1);
+    }
+
+    function test_windowCreatedAfterTheSetUpCloses(): void {
+        test.monitor.close();
+        tryVerify(() => test.monitor === null);
+        test.answer(0, "isReady", 0);
+        tryCompare(deviceControl, "connectMode", 0);
+        test.create();
+        tryCompare(test, "closed", 2);
     }
 
     // The datagram for a position given in pixels of the picture.

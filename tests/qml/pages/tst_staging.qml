@@ -7,7 +7,7 @@ import "../../../qml/pages"
 TestCase {
     id: test
 
-    property real time: 1000
+    property real time: 0
     property bool mic: true
     property bool spk: true
     property bool cam: true
@@ -19,10 +19,6 @@ TestCase {
     ConnectionStaging {
         id: staging
 
-        // The test calls the ticks.
-        tickInterval: 100000
-        blinkOnInterval: 100000
-        blinkOffInterval: 100000
         micConnected: test.mic
         spkConnected: test.spk
         camConnected: test.cam
@@ -30,18 +26,15 @@ TestCase {
         onShowMicConnectedChanged: test.shownAt.push(test.time)
         onShowSpkConnectedChanged: test.shownAt.push(test.time)
         onShowCamConnectedChanged: test.shownAt.push(test.time)
-
-        function now(): real {
-            return test.time;
-        }
     }
 
     function runFor(milliseconds: real): void {
         const end = test.time + milliseconds;
         while (test.time < end) {
-            test.time += 500;
-            staging.showNext();
-            if (test.time % 1000 === 0)
+            test.time += 50;
+            if (test.time % 500 === 0)
+                staging.showNext();
+            if (test.time % 1000 === 0 || test.time % 1000 === 650)
                 staging.blink();
         }
     }
@@ -52,6 +45,22 @@ TestCase {
         test.mic = test.spk = test.cam = true;
         test.shownAt = [];
         test.time = 0;
+    }
+
+    function wakeUps(): var {
+        return Array.from(staging.resources).filter(timer => timer.running && timer.repeat).map(timer => timer.interval);
+    }
+
+    function test_timersRestWhileNothingBlinks(): void {
+        start();
+        compare(wakeUps().length, 2);
+        staging.watched = false;
+        compare(wakeUps(), [1000]);
+        staging.watched = true;
+        test.cam = false;
+        runFor(31000);
+        verify(staging.connectTimeout);
+        compare(wakeUps(), [1000]);
     }
 
     // Starts the timers, whose first tick comes at once.
