@@ -15,7 +15,6 @@ class tst_NV12VideoSource : public QObject
 private slots:
     void sinksComeAndGo();
     void slowSinkGetsTheNewestFrame();
-    void endsWhileFramesFlow();
 
 private:
     static QVideoFrame frame(int width)
@@ -75,23 +74,6 @@ void tst_NV12VideoSource::slowSinkGetsTheNewestFrame()
     source.setVideoSink(nullptr);
     QCoreApplication::processEvents();
     QCOMPARE(shown.last(), 1000);
-}
-
-void tst_NV12VideoSource::endsWhileFramesFlow()
-{
-    for (int i = 0; i < 200; ++i) {
-        QVideoSink sink;
-        auto source = std::make_unique<NV12VideoSource>();
-        source->setVideoSink(&sink);
-        std::thread worker([&] {
-            for (int k = 1; k < 50; ++k)
-                source->pushFrame(frame(2 * k));
-        });
-        QCoreApplication::processEvents();
-        worker.join(); // the program's worker ends before the source, too
-        source.reset();
-        QCoreApplication::processEvents();
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_NV12VideoSource)

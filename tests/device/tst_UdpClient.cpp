@@ -10,6 +10,33 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace
+{
+
+/// A bound client and a peer that got two bytes from it.
+struct Link {
+    Link()
+    {
+        if (!peer.bind(QHostAddress::LocalHost) || !client.bind(0))
+            qFatal("no port is free");
+        client.send("\x01\xab", 2, peer.localPort(), QHostAddress(QHostAddress::LocalHost));
+        if (!peer.waitForReadyRead() || (received = peer.receiveDatagram()).data() != "\x01\xab")
+            qFatal("the peer got no datagram");
+    }
+
+    void send(const QByteArray& data, int count)
+    {
+        for (; count > 0; --count)
+            peer.writeDatagram(data, received.senderAddress(), quint16(received.senderPort()));
+    }
+
+    QUdpSocket peer;
+    UdpClient client;
+    QNetworkDatagram received;
+};
+
+} // namespace
+
 class tst_UdpClient : public QObject
 {
     Q_OBJECT
@@ -31,24 +58,16 @@ void tst_UdpClient::pointerDatagramIsExact()
 
 void tst_UdpClient::exchangesDatagrams()
 {
-    QUdpSocket peer;
-    QVERIFY(peer.bind(QHostAddress::LocalHost));
     LogCapture log;
-    UdpClient client;
-    QVERIFY(client.bind(0));
-    client.send("\x01\xab", 2, peer.localPort(), QHostAddress(QHostAddress::LocalHost));
-    QTRY_VERIFY(peer.hasPendingDatagrams());
-    const QNetworkDatagram received = peer.receiveDatagram();
-    QCOMPARE(received.data(), QByteArray("\x01\xab"));
-    QVERIFY(
-        log.contains(u"I UdpClient::send send to 127.0.0.1:%1 [01 AB ]"_s.arg(peer.localPort())));
-
-    peer.writeDatagram("first", received.senderAddress(), quint16(received.senderPort()));
-    peer.writeDatagram("", received.senderAddress(), quint16(received.senderPort()));
+    Link link;
+    QVERIFY(log.contains(
+        u"I UdpClient::send send to 127.0.0.1:%1 [01 AB ]"_s.arg(link.peer.localPort())));
+    link.send("first", 1);
+    link.send("", 1);
     QByteArrayList datagrams;
     const auto taken = [&] {
         QNetworkDatagram datagram;
-        if (client.waitForDatagram(datagram, 0ms))
+        if (link.client.waitForDatagram(datagram, 0ms))
             datagrams.append(datagram.data());
         return datagrams;
     };
@@ -57,28 +76,18 @@ void tst_UdpClient::exchangesDatagrams()
 
 void tst_UdpClient::survivesAFlood()
 {
-    QUdpSocket peer;
-    QVERIFY(peer.bind(QHostAddress::LocalHost));
-    UdpClient client;
-    QVERIFY(client.bind(0));
-    client.send("x", 1, peer.localPort(), QHostAddress(QHostAddress::LocalHost));
-    QTRY_VERIFY(peer.hasPendingDatagrams());
-    const QNetworkDatagram address = peer.receiveDatagram();
-    const auto send = [&](const QByteArray& data, int count) {
-        for (; count > 0; --count)
-            peer.writeDatagram(data, address.senderAddress(), quint16(address.senderPort()));
-    };
+    Link link;
     QNetworkDatagram datagram;
     const auto take = [&] {
         int count = 0;
-        while (client.waitForDatagram(datagram, 0ms))
+        while (link.client.waitForDatagram(datagram, 0ms))
             ++count;
         return count;
     };
     // Each turn of the event loop sends more than is read, so the socket is never empty.
     int received = 0;
     for (int turn = 0; turn < 60; ++turn) {
-        send("flood", 100);
+        link.send("flood", 100);
         QCoreApplication::processEvents();
         const int count = take();
         QVERIFY2(count <= 64, qPrintable(u"%1 in turn %2"_s.arg(count).arg(turn)));
@@ -88,7 +97,7 @@ void tst_UdpClient::survivesAFlood()
 
     LogCapture log;
     for (int turn = 0; turn < 10; ++turn) {
-        send("flood", 100);
+        link.send("flood", 100);
         QCoreApplication::processEvents();
     }
     for (int turn = 0; turn < 10; ++turn) { // until the socket is empty
@@ -96,7 +105,7 @@ void tst_UdpClient::survivesAFlood()
         QCoreApplication::processEvents();
     }
     const auto isLater = [&] {
-        send("later", 1);
+        link.send("later", 1);
         take();
         return datagram.data() == "later";
     };
