@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kBytesPerPixel = 4;
+constexpr int BytesPerPixel = 4;
 
 bool startsWithDrive(QStringView path)
 {
@@ -20,7 +20,7 @@ bool startsWithDrive(QStringView path)
            path[0].isLetter();
 }
 
-// The URL is put together part by part, since in a file's name "?" and "#" separate nothing.
+// Builds the URL from its parts, because "?" and "#" are ordinary characters of a file name.
 QString localFile(const QString& host, const QString& path)
 {
     QUrl url;
@@ -30,7 +30,7 @@ QString localFile(const QString& host, const QString& path)
     return url.toLocalFile();
 }
 
-// Vector pictures have no decoded size to judge them by, and drawing one can take for ever.
+// A vector picture has no decoded size to check, and drawing one can take unlimited time.
 bool isRaster(const QByteArray& format)
 {
     return !format.isEmpty() && !format.startsWith("svg");
@@ -38,12 +38,12 @@ bool isRaster(const QByteArray& format)
 
 QImage load(const QString& path)
 {
-    // Opening a pipe blocks until somebody writes to it; devices never end.
+    // Opening a pipe blocks until another process writes to it; devices never end.
     if (!QFileInfo(path).isFile())
         return {};
     QFile file(path);
-    // Some formats are read into memory whole before they are looked at.
-    if (!file.open(QIODevice::ReadOnly) || file.size() > ImageFile::kMaxFileSize)
+    // Some decoders read the whole file into memory first.
+    if (!file.open(QIODevice::ReadOnly) || file.size() > ImageFile::MaxFileSize)
         return {};
 
     QImageReader reader(&file);
@@ -51,7 +51,7 @@ QImage load(const QString& path)
     if (!isRaster(reader.format()))
         return {};
     const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > ImageFile::kMaxDecodedSize / kBytesPerPixel)
+    if (qint64{size.width()} * size.height() > ImageFile::MaxDecodedSize / BytesPerPixel)
         return {};
     return reader.read();
 }
@@ -69,23 +69,23 @@ namespace ImageFile
 
 QString normaliseImagePath(const QString& imagePath)
 {
-    constexpr auto filePrefix = "file:///"_L1;
-    constexpr auto sharePrefix = "file://"_L1;
-    constexpr auto resourcePrefix = "qrc:/"_L1;
+    constexpr auto FilePrefix = "file:///"_L1;
+    constexpr auto SharePrefix = "file://"_L1;
+    constexpr auto ResourcePrefix = "qrc:/"_L1;
 
-    if (imagePath.startsWith(filePrefix)) {
-        const QString path = localFile({}, imagePath.sliced(filePrefix.size() - 1));
+    if (imagePath.startsWith(FilePrefix)) {
+        const QString path = localFile({}, imagePath.sliced(FilePrefix.size() - 1));
         const QString withoutSlash = path.sliced(path.startsWith(u'/') ? 1 : 0);
         return startsWithDrive(withoutSlash) ? withoutSlash : path;
     }
-    if (imagePath.startsWith(sharePrefix)) {
-        const QString hostAndPath = imagePath.sliced(sharePrefix.size());
+    if (imagePath.startsWith(SharePrefix)) {
+        const QString hostAndPath = imagePath.sliced(SharePrefix.size());
         const auto slash = hostAndPath.indexOf(u'/');
         return slash < 0 ? imagePath
                          : localFile(hostAndPath.first(slash), hostAndPath.sliced(slash));
     }
-    if (imagePath.startsWith(resourcePrefix))
-        return u':' + imagePath.sliced(resourcePrefix.size() - 1);
+    if (imagePath.startsWith(ResourcePrefix))
+        return u':' + imagePath.sliced(ResourcePrefix.size() - 1);
     return imagePath;
 }
 

@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QTimer>
 #include <QUrlQuery>
 
 #include <utility>
@@ -19,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr auto kFormType = "application/x-www-form-urlencoded"_L1;
-constexpr auto kJsonType = "application/json"_L1;
+constexpr auto FormType = "application/x-www-form-urlencoded"_L1;
+constexpr auto JsonType = "application/json"_L1;
 
 QString encodeCredential(const QString& text)
 {
@@ -28,7 +27,7 @@ QString encodeCredential(const QString& text)
         text.toUtf8().toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals));
 }
 
-// Qt would also read, and write, local files through such a request.
+// With a file URL Qt would read or write a local file instead.
 QUrl webAddress(const QString& text)
 {
     const QUrl url(text);
@@ -46,11 +45,6 @@ QUrl withQuery(const QString& address, std::initializer_list<std::pair<QString, 
     return url;
 }
 
-bool isSafeRedirect(const QUrl& from, const QUrl& to)
-{
-    return to.host() == from.host() && (to.scheme() == "https"_L1 || to.scheme() == from.scheme());
-}
-
 QNetworkRequest withContentType(const QUrl& url, QLatin1StringView contentType)
 {
     QNetworkRequest request(url);
@@ -61,7 +55,7 @@ QNetworkRequest withContentType(const QUrl& url, QLatin1StringView contentType)
 void authorise(QNetworkRequest& request, const QString& token)
 {
     QByteArray value = token.toUtf8();
-    value.replace('\r', "").replace('\n', ""); // a line break would begin another header
+    value.replace('\r', "").replace('\n', ""); // a line break would start another header
     request.setRawHeader("x-token"_ba, value);
     request.setRawHeader("accept"_ba, "*/*"_ba);
 }
@@ -74,12 +68,12 @@ QByteArray compactJson(const QJsonObject& object)
 } // namespace
 
 NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity)
-    : NetworkManager(baseUrl, identity, Limits())
+    : NetworkManager(baseUrl, identity, RequestGuard::Limits())
 {
 }
 
 NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
-                               Limits limits)
+                               const RequestGuard::Limits& limits)
     : m_identity(identity)
     , m_networkAccess(new QNetworkAccessManager(this))
     , m_limits(limits)
@@ -97,14 +91,7 @@ NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& id
 
 NetworkManager::~NetworkManager()
 {
-    const auto replies = m_activeRequests.keys();
-    for (QNetworkReply* reply : replies) {
-        reply->disconnect(this); // aborting would report a failure to the pages
-        if (reply->isRunning())
-            reply->abort();
-        reply->deleteLater();
-    }
-    m_activeRequests.clear();
+    qDeleteAll(findChildren<RequestGuard*>()); // before the access manager that they use
 }
 
 void NetworkManager::login(const QString& email, const QString& password)
@@ -114,19 +101,16 @@ void NetworkManager::login(const QString& email, const QString& password)
 
     const QUrl url = withQuery(m_loginUrl, {{u"username"_s, encodeCredential(email)},
                                             {u"password"_s, encodeCredential(password)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kFormType), QByteArray());
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, FormType), QByteArray());
     Log::info("NetworkManager::login") << "send:" << url.toString();
 
-    startRequestTimer(reply, [this] { emit loginFailed(tr("Login request timed out.")); });
-    handleResponse(
-        reply,
-        [this, number = ++m_latestLogin](const QJsonObject& object) {
-            if (number == m_latestLogin)
-                emit loginSuccess(object);
-            else // it would undo what has happened since, a sign-out too
-                Log::info("NetworkManager::login") << "another sign-in followed, dropped";
-        },
-        [this](const QString& message) { emit loginFailed(message); });
+    const auto onSuccess = [this, number = ++m_latestLogin](const QJsonObject& object) {
+        if (number == m_latestLogin)
+            emit loginSuccess(object);
+        else // The program may have been signed in and out since.
+            Log::info("NetworkManager::login") << "another sign-in followed, dropped";
+    };
+    watch(reply, onSuccess, &NetworkManager::loginFailed, tr("Login request timed out."));
 }
 
 void NetworkManager::registerUser(const QString& firstName, const QString& lastName,
@@ -142,14 +126,12 @@ void NetworkManager::registerUser(const QString& firstName, const QString& lastN
                                          {"lastName"_L1, lastName},
                                          {"email"_L1, encodeCredential(email)},
                                          {"password"_L1, encodeCredential(password)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kJsonType), json);
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, JsonType), json);
     Log::info("NetworkManager::registerUser") << "send:" << url.toString() << " json:" << json;
 
-    startRequestTimer(reply,
-                      [this] { emit registrationFailed(tr("Registration request timed out.")); });
-    handleResponse(
+    watch(
         reply, [this](const QJsonObject&) { emit registrationSuccess(); },
-        [this](const QString& message) { emit registrationFailed(message); });
+        &NetworkManager::registrationFailed, tr("Registration request timed out."));
 }
 
 void NetworkManager::resetPassword(const QString& email)
@@ -157,14 +139,12 @@ void NetworkManager::resetPassword(const QString& email)
     Log::info("NetworkManager::resetPassword") << "email:" << email;
 
     const QUrl url = withQuery(m_forgotPasswordUrl, {{u"email"_s, encodeCredential(email)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, kFormType), QByteArray());
+    QNetworkReply* reply = m_networkAccess->post(withContentType(url, FormType), QByteArray());
     Log::info("NetworkManager::resetPassword") << "send:" << url.toString();
 
-    startRequestTimer(
-        reply, [this] { emit passwordResetFailed(tr("Password reset request timed out.")); });
-    handleResponse(
+    watch(
         reply, [this](const QJsonObject&) { emit passwordResetSent(); },
-        [this](const QString& message) { emit passwordResetFailed(message); });
+        &NetworkManager::passwordResetFailed, tr("Password reset request timed out."));
 }
 
 void NetworkManager::profileUpdate(const QString& firstName, const QString& lastName,
@@ -185,7 +165,7 @@ void NetworkManager::profileUpdate(const QString& firstName, const QString& last
     }
 
     const QUrl url = profileUrl(userId);
-    QNetworkRequest request = withContentType(url, kJsonType);
+    QNetworkRequest request = withContentType(url, JsonType);
     authorise(request, token);
     const QString picture =
         imagePath.isEmpty() ? m_identity.rawPicture() : loadImageToBase64(imagePath);
@@ -203,12 +183,10 @@ void NetworkManager::profileUpdate(const QString& firstName, const QString& last
     QNetworkReply* reply = m_networkAccess->put(request, json);
     Log::info("NetworkManager::profileUpdate") << "send:" << url.toString() << " json:" << json;
 
-    startRequestTimer(
-        reply, [this] { emit profileUpdateFailed(tr("Profile update request timed out.")); });
-    handleResponse(reply, unlessUserChanged([this](const QJsonObject& object) {
-                       emit profileUpdateSuccess(object);
-                   }),
-                   [this](const QString& message) { emit profileUpdateFailed(message); });
+    watch(reply, unlessUserChanged([this](const QJsonObject& object) {
+              emit profileUpdateSuccess(object);
+          }),
+          &NetworkManager::profileUpdateFailed, tr("Profile update request timed out."));
 }
 
 void NetworkManager::requestUserProfile()
@@ -230,12 +208,10 @@ void NetworkManager::requestUserProfile()
     QNetworkReply* reply = m_networkAccess->get(request);
     Log::info("NetworkManager::requestUserProfile") << "send:" << url.toString();
 
-    startRequestTimer(reply,
-                      [this] { emit profileRequestFailed(tr("Profile request timed out.")); });
-    handleResponse(reply, unlessUserChanged([this](const QJsonObject& object) {
-                       emit profileRequestSuccess(object);
-                   }),
-                   [this](const QString& message) { emit profileRequestFailed(message); });
+    watch(reply, unlessUserChanged([this](const QJsonObject& object) {
+              emit profileRequestSuccess(object);
+          }),
+          &NetworkManager::profileRequestFailed, tr("Profile request timed out."));
 }
 
 int NetworkManager::imageSize(const QString& imagePath)
@@ -270,7 +246,7 @@ QString NetworkManager::loadImageToBase64(const QString& imagePath)
 
 QUrl NetworkManager::profileUrl(const QString& userId) const
 {
-    // An id is one path segment: its slashes, question marks and percent signs are data.
+    // Slashes, question marks and percent signs of an id belong to its one path segment.
     const QByteArray segment = QUrl::toPercentEncoding(userId, "!$&'()*+,;=:@");
     return webAddress(m_baseUrl + "/nc/users/"_L1 + QString::fromLatin1(segment));
 }
@@ -287,72 +263,48 @@ NetworkManager::SuccessCallback NetworkManager::unlessUserChanged(SuccessCallbac
     };
 }
 
-void NetworkManager::startRequestTimer(QNetworkReply* reply, TimeoutCallback onTimeout)
+void NetworkManager::watch(QNetworkReply* reply, SuccessCallback onSuccess, FailureSignal failed,
+                           const QString& timeoutText)
 {
-    auto* timer = new QTimer(this);
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, [this, reply, onTimeout = std::move(onTimeout)] {
-        if (!m_activeRequests.contains(reply))
-            return;
-        reply->abort(); // reports the broken connection before it returns
-        onTimeout();
-        cleanupRequest(reply);
-    });
-    m_activeRequests.insert(reply, timer);
-    timer->start(m_limits.requestTimeout);
-}
-
-void NetworkManager::handleResponse(QNetworkReply* reply, SuccessCallback onSuccess,
-                                    FailureCallback onFailure)
-{
-    guardReply(reply);
-    connect(reply, &QNetworkReply::finished, this,
-            [this, reply, onSuccess = std::move(onSuccess), onFailure = std::move(onFailure)] {
-                finishRequest(reply, onSuccess, onFailure);
+    auto* guard = new RequestGuard(reply, m_limits, this);
+    connect(guard, &RequestGuard::timedOut, this,
+            [this, failed, timeoutText] { emit(this->*failed)(timeoutText); });
+    connect(guard, &RequestGuard::finished, this,
+            [this, guard, onSuccess = std::move(onSuccess), failed] {
+                guard->deleteLater();
+                QJsonObject object;
+                const std::optional<QString> failure = decodeReply(*guard, object);
+                if (!failure)
+                    onSuccess(object);
+                else
+                    emit(this->*failed)(failure->isEmpty() ? tr("Unknown error occurred.")
+                                                           : *failure);
             });
 }
 
-void NetworkManager::finishRequest(QNetworkReply* reply, const SuccessCallback& onSuccess,
-                                   const FailureCallback& onFailure)
+/// Returns the text of the failure, or nothing and the reply's object on success.
+std::optional<QString> NetworkManager::decodeReply(RequestGuard& guard, QJsonObject& object) const
 {
-    if (!m_activeRequests.contains(reply)) {
-        Log::error("NetworkManager::handleResponse") << "activeRequests not contains reply";
-        return;
-    }
-    QJsonObject object;
-    const std::optional<QString> failure = decodeReply(reply, object);
-    if (!failure)
-        onSuccess(object);
-    else
-        onFailure(failure->isEmpty() ? tr("Unknown error occurred.") : *failure);
-    cleanupRequest(reply);
-}
+    constexpr auto Function = "NetworkManager::handleResponse";
+    const QByteArray body = guard.takeBody();
+    Log::info(Function) << "response:" << body;
 
-/// Returns the failure's text, or nothing and the reply's object on success.
-std::optional<QString> NetworkManager::decodeReply(QNetworkReply* reply, QJsonObject& object) const
-{
-    constexpr auto function = "NetworkManager::handleResponse";
-    // Of a reply that was cut off nothing counts, whatever part of it had arrived.
-    const bool cutOff = reply->error() == QNetworkReply::OperationCanceledError;
-    const QByteArray body = cutOff ? QByteArray() : reply->readAll();
-    Log::info(function) << "response:" << body;
-
-    if (body.isEmpty() && reply->error() != QNetworkReply::NoError) {
-        Log::error(function) << "Connection to server failed. error:" << reply->errorString();
+    if (body.isEmpty() && guard.hasError()) {
+        Log::error(Function) << "Connection to server failed. error:" << guard.errorText();
         return tr("Connection to server failed.");
     }
     if (body.isEmpty()) {
-        Log::error(function) << "Empty response from server.";
+        Log::error(Function) << "Empty response from server.";
         return tr("Empty response from server.");
     }
 
     ReplyBody decoded = decodeReplyBody(body);
     switch (decoded.kind) {
     case ReplyBody::Kind::NotJson:
-        Log::error(function) << "JSON parse error: " << decoded.parseError;
+        Log::error(Function) << "JSON parse error: " << decoded.parseError;
         return tr("Invalid JSON response: %1").arg(decoded.parseError);
     case ReplyBody::Kind::NotJsonObject:
-        Log::warning(function) << "Response is not a JSON object";
+        Log::warning(Function) << "Response is not a JSON object";
         return tr("Invalid response format.");
     case ReplyBody::Kind::Refused:
         return decoded.message.value_or(tr("Request failed with unknown reason."));
@@ -361,40 +313,4 @@ std::optional<QString> NetworkManager::decodeReply(QNetworkReply* reply, QJsonOb
     }
     object = std::move(decoded.object);
     return {};
-}
-
-/// Keeps a reply within bounds while it arrives.
-void NetworkManager::guardReply(QNetworkReply* reply)
-{
-    // Bounds what Qt's own thread reads ahead. Well above the largest body: that thread may stop
-    // somewhat short of this size, and a body that is too long has to be noticed before it does.
-    reply->setReadBufferSize(2 * m_limits.bodySize);
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
-        if (reply->bytesAvailable() <= m_limits.bodySize)
-            return;
-        Log::error("NetworkManager::handleResponse")
-            << "response exceeds " << m_limits.bodySize << " bytes";
-        reply->abort();
-    });
-    connect(reply, &QNetworkReply::redirected, this, [reply](const QUrl& target) {
-        // The reply's own address is the target already.
-        if (isSafeRedirect(reply->request().url(), target)) {
-            emit reply->redirectAllowed();
-            return;
-        }
-        Log::error("NetworkManager::handleResponse") << "redirection refused:" << target.toString();
-        reply->abort();
-    });
-}
-
-void NetworkManager::cleanupRequest(QNetworkReply* reply)
-{
-    if (!m_activeRequests.contains(reply))
-        return;
-    QTimer* timer = m_activeRequests.take(reply);
-    if (timer) {
-        timer->stop();
-        timer->deleteLater();
-    }
-    reply->deleteLater();
 }

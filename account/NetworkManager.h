@@ -1,7 +1,8 @@
 #pragma once
 
+#include "account/RequestGuard.h"
+
 #include <QJsonObject>
-#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -12,40 +13,33 @@
 class AccountIdentity;
 class QNetworkAccessManager;
 class QNetworkReply;
-class QTimer;
 
 /// The account service's client, and the program's only HTTP client: sign-in, registration,
 /// password reset, reading and editing the profile. Published to QML as `network`.
 ///
-/// Each request ends in its success signal or its failure signal. One that outlives the time-out
-/// fails twice, first for the broken connection, then for the time-out: pages show the text they
-/// got last. A profile that arrives when another user, or none, is signed in than the one who asked
-/// is dropped; so is the success of a sign-in that another one was asked for after.
+/// Each request ends in its success signal or its failure signal. A request that runs into the
+/// time-out emits two failures: the broken connection, then the time-out. Pages show the later one.
+/// A profile is dropped when its user is no longer signed in at the time it arrives. A sign-in
+/// superseded by a later one reports no success.
 ///
-/// Main thread only. E-mail and password travel as Base64url text in the request; to keep them and
-/// the token from anybody else, redirections are followed only to the same host and never from
-/// HTTPS to HTTP. Certificates are checked and the system's proxies used.
+/// Main thread only. E-mail and password are sent as Base64url text. So that they and the token
+/// reach no other server, redirections are followed only to the same host and never from HTTPS to
+/// HTTP. Certificates are checked, and the system's proxies are used.
 class NetworkManager : public QObject
 {
     Q_OBJECT
 
 public:
-    struct Limits {
-        /// Milliseconds from sending a request to the end of its reply.
-        int requestTimeout = 30000;
-        /// Largest reply body read, in bytes after decompression; a longer one is cut off and
-        /// counts as a broken connection. A picture that is sent comes back with each sign-in, so
-        /// one whose text takes more than three quarters of this is not sent.
-        qint64 bodySize = 64LL * 1024 * 1024;
-    };
-
     /// @param baseUrl  HTTP or HTTPS address of the service without a trailing slash. With any
-    /// other value every request fails as if the server could not be reached.
-    /// @param identity  outlives this object.
+    ///                 other value every request fails as if the server could not be reached.
+    /// @param identity  must outlive this object
+    /// @param limits  A reply outside them counts as a broken connection. A picture comes back with
+    ///                each sign-in, so one whose text takes more than three quarters of the body
+    ///                size is not sent.
     NetworkManager(const QString& baseUrl, const AccountIdentity& identity);
-    NetworkManager(const QString& baseUrl, const AccountIdentity& identity, Limits limits);
-
-    /// Aborts the requests in flight; they emit nothing any more.
+    NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
+                   const RequestGuard::Limits& limits);
+    /// Aborts the requests in flight without a signal.
     ~NetworkManager() override;
 
     Q_INVOKABLE void login(const QString& email, const QString& password);
@@ -54,8 +48,7 @@ public:
     Q_INVOKABLE void resetPassword(const QString& email);
 
     /// Sends the picture file at `imagePath` (a URL or a path), or the present picture if that is
-    /// empty. Does nothing while nobody is signed in. Encoding a picture takes its time, up to
-    /// seconds for the largest.
+    /// empty. Does nothing without a sign-in. Encoding the largest pictures takes seconds.
     Q_INVOKABLE void profileUpdate(const QString& firstName, const QString& lastName,
                                    const QString& company, const QString& title,
                                    const QString& imagePath);
@@ -78,27 +71,21 @@ signals:
 
 private:
     using SuccessCallback = std::function<void(const QJsonObject& object)>;
-    using FailureCallback = std::function<void(const QString& message)>;
-    using TimeoutCallback = std::function<void()>;
+    using FailureSignal = void (NetworkManager::*)(const QString& error);
 
     [[nodiscard]] QUrl profileUrl(const QString& userId) const;
     [[nodiscard]] QString loadImageToBase64(const QString& imagePath);
     [[nodiscard]] SuccessCallback unlessUserChanged(SuccessCallback onSuccess) const;
 
-    void startRequestTimer(QNetworkReply* reply, TimeoutCallback onTimeout);
-    void handleResponse(QNetworkReply* reply, SuccessCallback onSuccess, FailureCallback onFailure);
-    void finishRequest(QNetworkReply* reply, const SuccessCallback& onSuccess,
-                       const FailureCallback& onFailure);
-    [[nodiscard]] std::optional<QString> decodeReply(QNetworkReply* reply,
+    void watch(QNetworkReply* reply, SuccessCallback onSuccess, FailureSignal failed,
+               const QString& timeoutText);
+    [[nodiscard]] std::optional<QString> decodeReply(RequestGuard& guard,
                                                      QJsonObject& object) const;
-    void guardReply(QNetworkReply* reply);
-    void cleanupRequest(QNetworkReply* reply);
 
     const AccountIdentity& m_identity;
     QNetworkAccessManager* m_networkAccess; // child
-    QMap<QNetworkReply*, QTimer*> m_activeRequests;
     quint64 m_latestLogin = 0;
-    const Limits m_limits;
+    const RequestGuard::Limits m_limits;
     const QString m_baseUrl;
     const QString m_loginUrl;
     const QString m_registerUrl;

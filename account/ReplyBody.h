@@ -6,23 +6,22 @@
 
 #include <optional>
 
-/// What the account service's reply body says. The HTTP status plays no part: the service explains
-/// a refusal in the body, whatever the status.
+/// A decoded reply body of the account service. The HTTP status is not considered: the service
+/// gives the reason of a refusal in the body, whatever the status.
 struct ReplyBody {
     enum class Kind {
         Success,       ///< `object` is the whole reply
-        Refused,       ///< the service said no, in `message` if it gave a reason
-        NotJson,       ///< `parseError` tells why
+        Refused,       ///< the service refused the request; `message` is the reason, if any
+        NotJson,       ///< `parseError` is the reason
         NotJsonObject, ///< valid JSON of another shape
     };
 
     Kind kind = Kind::NotJson;
     QJsonObject object;
-    /// The service's reason: absent when the reply has no such member, empty when it is not a
-    /// string.
+    /// The "message" member: absent if the reply has none, empty if it is not a string.
     std::optional<QString> message;
     QString parseError;
 };
 
-/// Decodes a non-empty reply body. Pure; takes any bytes.
+/// Decodes a reply body. Accepts any bytes, depends on nothing else.
 [[nodiscard]] ReplyBody decodeReplyBody(const QByteArray& body);

@@ -3,10 +3,10 @@
 #include <QList>
 #include <QNetworkProxyFactory>
 
-/// Proxies as the system is set up, for one QNetworkAccessManager. Qt's switch for the same is
-/// global to the process and would also reach the sockets that talk to local companion programs.
+/// The proxies of the system's settings, for one QNetworkAccessManager. Qt's own switch for this is
+/// global to the process and would also affect the sockets to local companion programs.
 ///
-/// This computer itself is never reached through a proxy, whatever the settings say.
+/// This computer is reached directly, whatever the settings say.
 class SystemProxy : public QNetworkProxyFactory
 {
 public:

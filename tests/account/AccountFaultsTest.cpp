@@ -17,7 +17,7 @@ constexpr int kShortTimeout = 250;
 constexpr int kPatience = 30'000;
 
 /// With a body size that an endless reply reaches soon.
-NetworkManager::Limits limits(int requestTimeout)
+RequestGuard::Limits limits(int requestTimeout)
 {
     return {requestTimeout, 8LL * 1024 * 1024};
 }

@@ -92,9 +92,8 @@ private:
     }
 };
 
-/// Whether a manager holds no request any more: its timers and replies are gone, not just stopped.
+/// Whether a manager holds no request any more: its guards are gone, with their timers and replies.
 inline bool isIdle(const NetworkManager& network)
 {
-    return network.findChildren<QTimer*>(Qt::FindDirectChildrenOnly).isEmpty() &&
-           network.findChildren<QNetworkReply*>().isEmpty();
+    return network.findChildren<RequestGuard*>().isEmpty();
 }
