@@ -23,12 +23,12 @@ QString settingsFile(const QString& name)
 Program::Program(const QString& executablePath)
 {
     m_fileInfo.emplace(settingsFile(u"config.ini"_s));
-    m_meetings.emplace([this] { return m_fileInfo->googleMeetingUrl(); });
+    m_programs.emplace(m_fileInfo->googleMeetingUrl());
     m_windowManager.emplace();
     m_deviceControl.emplace(deviceServices(executablePath));
     m_interface.emplace(m_fileInfo->serverUrl(), m_profile, settingsFile(u"userdata.db"_s),
                         m_channel);
-    m_deviceControl->start(standardTasks(*m_fileInfo, m_interface->database(), *m_meetings),
+    m_deviceControl->start(standardTasks(*m_fileInfo, m_interface->database(), *m_programs),
                            m_interface->database(), m_interface->camera());
     qmlRegisterUncreatableType<CameraControl>("VORNApp", 1, 0, "CameraControl", QString());
 }
@@ -44,7 +44,7 @@ DeviceControl::Services Program::deviceServices(const QString& executablePath)
             .profile = m_profile,
             .channel = m_channel,
             .windows = *m_windowManager,
-            .programs = m_programs,
+            .programs = *m_programs,
             .registryValue = installedVersionValue,
             .localDevices = std::make_unique<DeviceCheck>(),
             .rulesPath = settingsFile(u"config.json"_s),

@@ -4,8 +4,7 @@
 #include "app/WindowManager.h"
 #include "device/DeviceControl.h"
 #include "device/PortalHubChannel.h"
-#include "launch/SystemMeetingLauncher.h"
-#include "launch/SystemProgramControl.h"
+#include "launch/ProcessManager.h"
 #include "persistence/FileInfo.h"
 
 #include <QQmlContext>
@@ -37,10 +36,9 @@ private:
     DeviceControl::Services deviceServices(const QString& executablePath);
 
     PortalHubChannel m_channel;
-    SystemProgramControl m_programs;
     UserProfile m_profile;
     std::optional<FileInfo> m_fileInfo;
-    std::optional<SystemMeetingLauncher> m_meetings;
+    std::optional<ProcessManager> m_programs;
     std::optional<WindowManager> m_windowManager;
     std::optional<Interface> m_interface;
     // Made before the interface, but ends first, since its threads write to the user's settings.

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Starts the meeting applications of this PC. Operations block; they run on the task thread.
+/// Starts the meeting applications of this PC. The operations block; they run on the task thread.
 class MeetingLauncher
 {
 public:
@@ -8,6 +8,6 @@ public:
 
     virtual bool startZoom() = 0;
     virtual bool startTeams() = 0;
-    /// Inverted: true when the address could not be opened.
+    /// Opens the Google Meet page in the user's browser. Returns true when that failed.
     virtual bool openGoogleMeeting() = 0;
 };

@@ -17,28 +17,30 @@
 
 #include <future>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-constexpr std::chrono::seconds kCommandPatience{30};
-// The main thread ends a companion program on its way out, when nobody should have to wait.
-constexpr std::chrono::milliseconds kMainThreadPatience{1'500};
-constexpr std::chrono::seconds kShortcutPatience{3};
-// Short, because the main thread may be waiting for this one to end.
-constexpr std::chrono::seconds kOpenPatience{1};
+constexpr std::chrono::seconds CommandPatience{30};
+// The main thread ends a companion program during the quit, which must not take long.
+constexpr std::chrono::milliseconds MainThreadPatience{1'500};
+constexpr std::chrono::seconds ShortcutPatience{3};
+// Short, because the main thread may be waiting for the calling thread to end.
+constexpr std::chrono::seconds OpenPatience{1};
 
-constexpr char16_t kZoomUninstallKey[] =
-    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\ZoomUMX";
-constexpr char16_t kTeamsAppPathKey[] =
-    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\ms-teams.exe";
-constexpr char16_t kTeamsUrlHandlerKey[] =
-    u"HKEY_CURRENT_USER\\SOFTWARE\\Classes\\TeamsURL\\shell\\open\\command";
+constexpr QLatin1StringView ZoomUninstallKey{
+    "HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\ZoomUMX"};
+constexpr QLatin1StringView TeamsAppPathKey{
+    "HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\ms-teams.exe"};
+constexpr QLatin1StringView TeamsUrlHandlerKey{
+    "HKEY_CURRENT_USER\\SOFTWARE\\Classes\\TeamsURL\\shell\\open\\command"};
 
-const QString kZoomShortcutTitle = u"Zoom Workplace"_s;
-const QString kZoomPackageTitle = u"Zoom"_s; // the entry of Zoom's own Linux packages
+constexpr QLatin1StringView ZoomShortcutTitle{"Zoom Workplace"};
+/// Title of the entry that Zoom's own Linux packages install.
+constexpr QLatin1StringView ZoomPackageTitle{"Zoom"};
 
 bool isExistingPath(const QString& path)
 {
@@ -51,8 +53,8 @@ bool isMainThread()
     return application && QThread::currentThread() == application->thread();
 }
 
-// The desktop's services may be asked on the main thread only. Whoever ends the program waits there
-// for this thread, so the answer is awaited for a bounded time and then given up.
+// The desktop services may be called on the main thread only. At the end of the program the main
+// thread waits for the calling thread, so the wait for the answer is bounded.
 bool openInBrowser(const QUrl& address)
 {
     QCoreApplication* const application = QCoreApplication::instance();
@@ -66,58 +68,63 @@ bool openInBrowser(const QUrl& address)
     QMetaObject::invokeMethod(
         application, [address, promise] { promise->set_value(QDesktopServices::openUrl(address)); },
         Qt::QueuedConnection);
-    return opened.wait_for(kOpenPatience) == std::future_status::ready && opened.get();
+    return opened.wait_for(OpenPatience) == std::future_status::ready && opened.get();
 }
 
 } // namespace
 
+ProcessManager::ProcessManager(QString googleMeetingUrl)
+    : m_googleMeetingUrl(std::move(googleMeetingUrl))
+{
+}
+
 bool ProcessManager::startProcess(const QString& path)
 {
-    constexpr auto kFunction = "ProcessManager::startProcess";
-    Log::info(kFunction) << "path:" << path;
+    constexpr auto Function = "ProcessManager::startProcess";
+    Log::info(Function) << "path:" << path;
     if (!QProcess::startDetached(path, {})) {
-        Log::error(kFunction) << "started process failed:";
+        Log::error(Function) << "started process failed:";
         return false;
     }
-    Log::info(kFunction) << "started process success";
+    Log::info(Function) << "started process success";
     return true;
 }
 
 bool ProcessManager::startProcess(const QString& name, const QStringList& arguments)
 {
-    constexpr auto kFunction = "ProcessManager::startProcess";
+    constexpr auto Function = "ProcessManager::startProcess";
     const bool started =
         QProcess::startDetached(platform::programBesideApplication(name), arguments);
-    const QString what = name + u' ' + arguments.value(0) + u' ' + arguments.value(1);
+    const QString call = name + u' ' + arguments.value(0) + u' ' + arguments.value(1);
     if (started)
-        Log::info(kFunction) << "started process success, " << what;
+        Log::info(Function) << "started process success, " << call;
     else
-        Log::error(kFunction) << "started process failed, " << what;
+        Log::error(Function) << "started process failed, " << call;
     return started;
 }
 
 bool ProcessManager::killProcess(const QString& name, const std::stop_token& stop)
 {
-    constexpr auto kFunction = "ProcessManager::killProcess";
+    constexpr auto Function = "ProcessManager::killProcess";
     const auto outcome = platform::killByImageName(
-        name, isMainThread() ? kMainThreadPatience : kCommandPatience, stop);
+        name, isMainThread() ? MainThreadPatience : CommandPatience, stop);
     if (!outcome.finished) {
-        Log::error(kFunction) << "kill " << name << " Failed to execute taskkill command!";
+        Log::error(Function) << "kill " << name << " Failed to execute taskkill command!";
         return false;
     }
     if (outcome.exitCode != 0) {
-        Log::error(kFunction) << name << " killed failed:" << outcome.errorText;
+        Log::error(Function) << name << " killed failed:" << outcome.errorText;
         return false;
     }
-    Log::error(kFunction) << name << " killed success";
+    Log::error(Function) << name << " killed success";
     return true;
 }
 
 void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token& stop)
 {
-    const auto outcome = platform::isImageRunning(name, kCommandPatience, stop);
+    const auto outcome = platform::isImageRunning(name, CommandPatience, stop);
     if (!outcome.finished) {
-        // The text is fixed, whatever program was asked for.
+        // The text names the updater, whatever `name` is.
         Log::error("ProcessManager::keepProcessAlive")
             << R"(error!!! process.start("tasklist", QStringList() << "/FI" << )"
                R"("IMAGENAME eq PatchPilot.exe");)";
@@ -129,11 +136,11 @@ void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token
 
 bool ProcessManager::readPathFromRegist(const QString& key, const QString& valueName, QString& path)
 {
-    constexpr auto kFunction = "ProcessManager::readPathFromRegist";
+    constexpr auto Function = "ProcessManager::readPathFromRegist";
     const QString value = platform::readRegistry(key, valueName).toString();
-    Log::info(kFunction) << "REG:" << key << "\\" << valueName << ", value:" << value;
+    Log::info(Function) << "REG:" << key << "\\" << valueName << ", value:" << value;
     if (value.isEmpty()) {
-        Log::error(kFunction) << "value not exist!";
+        Log::error(Function) << "value not exist!";
         return false;
     }
 
@@ -143,16 +150,16 @@ bool ProcessManager::readPathFromRegist(const QString& key, const QString& value
     path = match.hasMatch() ? match.captured(1) : value;
     if (isExistingPath(path))
         return true;
-    Log::error(kFunction) << "path:" << path << " not exist!";
+    Log::error(Function) << "path:" << path << " not exist!";
     return false;
 }
 
 bool ProcessManager::findTeamsPath(const QString& folder, const QString& fileName, QString& path)
 {
-    constexpr auto kFunction = "ProcessManager::findTeamsPath";
+    constexpr auto Function = "ProcessManager::findTeamsPath";
     const QDir directory(folder);
     if (!directory.exists()) {
-        Log::error(kFunction) << "dir:" << directory.absolutePath() << " not exist!";
+        Log::error(Function) << "dir:" << directory.absolutePath() << " not exist!";
         return false;
     }
     const QFileInfo file(directory, fileName);
@@ -160,25 +167,24 @@ bool ProcessManager::findTeamsPath(const QString& folder, const QString& fileNam
         path = file.absoluteFilePath();
         return true;
     }
-    Log::error(kFunction) << "path:" << directory.absolutePath() << "/" << fileName
-                          << " not exist!";
+    Log::error(Function) << "path:" << directory.absolutePath() << "/" << fileName << " not exist!";
     return false;
 }
 
 bool ProcessManager::findZoomShortcut(QString& shortcut)
 {
-    constexpr auto kFunction = "ProcessManager::findZoomShortcut";
-    Log::info(kFunction) << "findZoomShortcut";
-    const QString fileName = platform::shortcutFileName(kZoomShortcutTitle);
+    constexpr auto Function = "ProcessManager::findZoomShortcut";
+    Log::info(Function) << "findZoomShortcut";
+    const QString fileName = platform::shortcutFileName(ZoomShortcutTitle);
 
     const QString folder = platform::startMenuFolder() + "/Zoom"_L1;
     if (!QFileInfo(folder).isDir()) {
-        Log::error(kFunction) << "zoomAppDir:" << folder << " not exist!";
+        Log::error(Function) << "zoomAppDir:" << folder << " not exist!";
     } else if (const QFileInfo file(QDir(folder), fileName); file.exists()) {
         shortcut = file.absoluteFilePath();
         return true;
     } else {
-        Log::error(kFunction) << "shortcut:" << folder << "/" << fileName << " not exist!";
+        Log::error(Function) << "shortcut:" << folder << "/" << fileName << " not exist!";
     }
 
     const QString desktop = platform::desktopFolder();
@@ -186,28 +192,28 @@ bool ProcessManager::findZoomShortcut(QString& shortcut)
         shortcut = file.absoluteFilePath();
         return true;
     }
-    Log::error(kFunction) << "desktopShortcut:" << desktop << "/" << fileName << " not exist!";
+    Log::error(Function) << "desktopShortcut:" << desktop << "/" << fileName << " not exist!";
 
-    shortcut = platform::packagedShortcut({kZoomShortcutTitle, kZoomPackageTitle});
+    shortcut = platform::packagedShortcut({ZoomShortcutTitle, ZoomPackageTitle});
     return !shortcut.isEmpty();
 }
 
 bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
 {
-    constexpr auto kFunction = "ProcessManager::getShortcutTarget";
-    const auto result = platform::shortcutTarget(shortcut, kShortcutPatience);
+    constexpr auto Function = "ProcessManager::getShortcutTarget";
+    const auto result = platform::shortcutTarget(shortcut, ShortcutPatience);
     if (!result.finished) {
-        Log::error(kFunction) << "Process failed or timeout:" << result.processError;
+        Log::error(Function) << "Process failed or timeout:" << result.processError;
         return false;
     }
     if (result.exitCode != 0) {
-        Log::error(kFunction) << "Script failed with code:" << result.exitCode;
-        Log::error(kFunction) << "Error output:" << result.errorOutput;
+        Log::error(Function) << "Script failed with code:" << result.exitCode;
+        Log::error(Function) << "Error output:" << result.errorOutput;
         return false;
     }
     const QString output = result.output.trimmed();
     if (!isExistingPath(output)) {
-        Log::error(kFunction) << "output:" << output << " not exist!";
+        Log::error(Function) << "output:" << output << " not exist!";
         return false;
     }
     target = output;
@@ -216,20 +222,19 @@ bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
 
 bool ProcessManager::findZoomPath(QString& path)
 {
-    constexpr auto kFunction = "ProcessManager::findZoomPath";
-    Log::info(kFunction) << "findZoomPath";
+    constexpr auto Function = "ProcessManager::findZoomPath";
+    Log::info(Function) << "findZoomPath";
     QString shortcut;
     if (!findZoomShortcut(shortcut))
         return false;
-    Log::info(kFunction) << "zoomShortcut:" << shortcut;
+    Log::info(Function) << "zoomShortcut:" << shortcut;
     return getShortcutTarget(shortcut, path);
 }
 
 bool ProcessManager::startZoom()
 {
     QString path;
-    if (readPathFromRegist(QString::fromUtf16(kZoomUninstallKey), u"DisplayIcon"_s, path) &&
-        startProcess(path))
+    if (readPathFromRegist(ZoomUninstallKey, u"DisplayIcon"_s, path) && startProcess(path))
         return true;
     path.clear();
     return findZoomPath(path) && startProcess(path);
@@ -237,10 +242,9 @@ bool ProcessManager::startZoom()
 
 bool ProcessManager::startTeams()
 {
-    for (const auto* key : {kTeamsAppPathKey, kTeamsUrlHandlerKey}) {
+    for (const auto key : {TeamsAppPathKey, TeamsUrlHandlerKey}) {
         QString path;
-        if (readPathFromRegist(QString::fromUtf16(key),
-                               QString::fromUtf16(platform::DefaultValueName), path) &&
+        if (readPathFromRegist(key, QString::fromUtf16(platform::DefaultValueName), path) &&
             startProcess(path))
             return true;
     }
@@ -257,7 +261,7 @@ bool ProcessManager::startTeamsIn(const QString& folder, const QString& fileName
            startProcess(path);
 }
 
-bool ProcessManager::openGoogleMeeting(const QString& address)
+bool ProcessManager::openGoogleMeeting()
 {
-    return !openInBrowser(QUrl(address));
+    return !openInBrowser(QUrl(m_googleMeetingUrl));
 }

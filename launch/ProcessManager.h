@@ -1,32 +1,34 @@
 #pragma once
 
-#include <QObject>
+#include "launch/MeetingLauncher.h"
+#include "launch/ProgramControl.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <stop_token>
 
-/// Every dealing with other programs on this PC: starting them, ending them by image name, keeping
-/// them alive, and finding where Zoom and Teams are installed. Stateless; any
-/// thread. The operations block their caller, of which the main thread can afford killProcess()
-/// only. "true" means success, and every failure is logged.
-class ProcessManager : public QObject
+/// The other programs of this PC: starts them, ends them by image name, restarts those that are
+/// missing, and finds where Zoom and Teams are installed.
+///
+/// Any thread. Every operation blocks its caller; on the main thread only killProcess() is short
+/// enough. True means success. Every failure is logged.
+class ProcessManager final : public ProgramControl, public MeetingLauncher
 {
-    Q_OBJECT
-
 public:
+    /// @param googleMeetingUrl  page that a Google Meet meeting starts with
+    explicit ProcessManager(QString googleMeetingUrl);
+
     /// Starts the executable at this path, detached, without arguments.
     static bool startProcess(const QString& path);
-    /// Starts the program of this name beside the application, detached. The log names two
-    /// arguments.
-    static bool startProcess(const QString& name, const QStringList& arguments);
-    /// Ends every process of this image name; at most 30 s, on the main thread 1.5 s.
-    static bool killProcess(const QString& name, const std::stop_token& stop = {});
-    /// Starts the program of this name beside the application unless it is running; at most 30 s.
-    static void keepProcessAlive(const QString& name, const std::stop_token& stop = {});
+    bool startProcess(const QString& name, const QStringList& arguments) override;
+    /// At most 30 s, on the main thread 1.5 s.
+    bool killProcess(const QString& name, const std::stop_token& stop) override;
+    /// At most 30 s.
+    void keepProcessAlive(const QString& name, const std::stop_token& stop) override;
 
-    /// Path of the existing executable that a registry value names, stripped of the decorations
-    /// such values carry: quotes and arguments of a command line, the index of an icon.
+    /// Path of an existing executable that a registry value names. Quotes and arguments of a
+    /// command line and the index of an icon are removed.
     static bool readPathFromRegist(const QString& key, const QString& valueName, QString& path);
     static bool findZoomPath(QString& path);
     static bool findZoomShortcut(QString& shortcut);
@@ -34,11 +36,12 @@ public:
     static bool getShortcutTarget(const QString& shortcut, QString& target);
     static bool findTeamsPath(const QString& folder, const QString& fileName, QString& path);
 
-    static bool startZoom();
-    static bool startTeams();
-    /// Opens the address in the user's browser. Inverted: true when it could not be opened.
-    static bool openGoogleMeeting(const QString& address);
+    bool startZoom() override;
+    bool startTeams() override;
+    bool openGoogleMeeting() override;
 
 private:
     static bool startTeamsIn(const QString& folder, const QString& fileName);
+
+    const QString m_googleMeetingUrl;
 };

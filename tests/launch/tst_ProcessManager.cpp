@@ -17,17 +17,17 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-const QString kZoomKey =
+const QString ZoomKey =
     u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\ZoomUMX"_s;
-const QString kTeamsKey =
+const QString TeamsKey =
     u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\ms-teams.exe"_s;
-const QString kTeamsUrlKey =
+const QString TeamsUrlKey =
     u"HKEY_CURRENT_USER\\SOFTWARE\\Classes\\TeamsURL\\shell\\open\\command"_s;
-const QString kDefault = u"Default"_s;
+const QString DefaultName = u"Default"_s;
 
 } // namespace
 
-/// Every folder that the programs are looked for in is a fresh one of this test.
+/// Each test function has its own home folder, in which every program is looked for.
 class tst_ProcessManager : public QObject
 {
     Q_OBJECT
@@ -36,34 +36,33 @@ private slots:
     void init();
     void cleanup();
 
-    void startsAPath();
+    void startsAProgramByPath();
     void startsAProgramBesideTheApplication();
     void killsByName();
-    void keepsAProgramAlive();
+    void restartsAMissingProgram();
     void readsPathsFromTheRegistry_data();
     void readsPathsFromTheRegistry();
-    void looksForTheZoomShortcut_data();
-    void looksForTheZoomShortcut();
-    void resolvesShortcuts();
+    void findsTheZoomShortcutInOrder_data();
+    void findsTheZoomShortcutInOrder();
     void startsZoom_data();
     void startsZoom();
-    void startsTheFirstTeamsThatWill();
-    void logsWhereTeamsIsNot();
+    void startsTheFirstTeamsThatCanBeStarted();
 
 private:
     [[nodiscard]] QString path(const QString& name) const { return m_home->filePath(name); }
     QString write(const QString& name, const QByteArray& text) const;
-    // A program that notes how it was called; `waits` until it is killed.
+    // Installs a program that records its calls; with `waits` it runs until it is killed.
     QString install(const QString& name, bool waits = false);
-    // A file that is there but cannot be started.
+    // Installs a file that cannot be started.
     QString installBroken(const QString& name) const { return write(name, "not a program"); }
-    // How the programs were called: name and number of arguments, then the arguments.
+    // The recorded calls: name, number of arguments, then each argument in brackets.
     [[nodiscard]] QStringList calls() const;
 
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<LogCapture> m_log;
+    ProcessManager m_programs{QString()};
     QByteArray m_path;
-    QString m_waiting; // a program that may still run
+    QString m_waiting; // name of a program that may still run
 };
 
 void tst_ProcessManager::init()
@@ -84,7 +83,7 @@ void tst_ProcessManager::cleanup()
     m_log.reset();
     qputenv("PATH", m_path);
     if (!m_waiting.isEmpty())
-        ProcessManager::killProcess(std::exchange(m_waiting, {}));
+        m_programs.killProcess(std::exchange(m_waiting, {}), {});
 }
 
 QString tst_ProcessManager::write(const QString& name, const QByteArray& text) const
@@ -116,7 +115,7 @@ QStringList tst_ProcessManager::calls() const
     return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
-void tst_ProcessManager::startsAPath()
+void tst_ProcessManager::startsAProgramByPath()
 {
     const QString program = install(u"some folder/program"_s);
     QVERIFY(ProcessManager::startProcess(program));
@@ -138,13 +137,13 @@ void tst_ProcessManager::startsAProgramBesideTheApplication()
     const QString beside = install(QCoreApplication::applicationDirPath() + u'/' + name);
     install(u"bin/"_s + name + "-in-path"_L1);
 
-    const bool started = ProcessManager::startProcess(name + ".exe"_L1, {u"update"_s, u"/x y"_s});
+    const bool started = m_programs.startProcess(name + ".exe"_L1, {u"update"_s, u"/x y"_s});
     QVERIFY(started);
     QTRY_COMPARE(calls(), QStringList{name + " 2 [update] [/x y]"_L1});
     QVERIFY(QFile::remove(beside));
-    QVERIFY(ProcessManager::startProcess(name + "-in-path.exe"_L1, {u"a"_s, QString()}));
+    QVERIFY(m_programs.startProcess(name + "-in-path.exe"_L1, {u"a"_s, QString()}));
     QTRY_COMPARE(calls().value(1), name + "-in-path 2 [a] []"_L1);
-    QVERIFY(!ProcessManager::startProcess(name + ".exe"_L1, {u"a"_s, u"b"_s}));
+    QVERIFY(!m_programs.startProcess(name + ".exe"_L1, {u"a"_s, u"b"_s}));
 
     const QString function = u" ProcessManager::startProcess started process "_s;
     QCOMPARE(m_log->take(),
@@ -160,10 +159,10 @@ void tst_ProcessManager::killsByName()
     QTRY_COMPARE(calls().size(), 1);
     m_log->take();
 
-    QVERIFY(ProcessManager::killProcess(name + ".exe"_L1));
+    QVERIFY(m_programs.killProcess(name + ".exe"_L1, {}));
     QCOMPARE(m_log->take(),
              QStringList{u"E ProcessManager::killProcess "_s + name + ".exe killed success"_L1});
-    QVERIFY(!ProcessManager::killProcess(name + ".exe"_L1));
+    QVERIFY(!m_programs.killProcess(name + ".exe"_L1, {}));
     const QStringList lines = m_log->take();
     QCOMPARE(lines.size(), 1);
     QVERIFY(lines.first().startsWith(u"E ProcessManager::killProcess "_s + name +
@@ -171,23 +170,23 @@ void tst_ProcessManager::killsByName()
     QVERIFY(!lines.first().endsWith(u':'));
 }
 
-void tst_ProcessManager::keepsAProgramAlive()
+void tst_ProcessManager::restartsAMissingProgram()
 {
     const QString name = u"vorn-test-alive-%1"_s.arg(QCoreApplication::applicationPid());
     install(u"bin/"_s + name, true);
 
-    ProcessManager::keepProcessAlive(name + ".exe"_L1);
-    QTRY_COMPARE(calls(), QStringList{name + " 2 [] []"_L1}); // two empty arguments
+    m_programs.keepProcessAlive(name + ".exe"_L1, {});
+    QTRY_COMPARE(calls(), QStringList{name + " 2 [] []"_L1});
     QCOMPARE(m_log->take().size(), 1);
 
-    ProcessManager::keepProcessAlive(name + ".exe"_L1);
+    m_programs.keepProcessAlive(name + ".exe"_L1, {});
     QVERIFY(m_log->take().isEmpty());
     QCOMPARE(calls().size(), 1);
 
-    QVERIFY(ProcessManager::killProcess(name));
-    ProcessManager::keepProcessAlive(name + ".exe"_L1);
+    QVERIFY(m_programs.killProcess(name, {}));
+    m_programs.keepProcessAlive(name + ".exe"_L1, {});
     QTRY_COMPARE(calls().size(), 2);
-    QVERIFY(ProcessManager::killProcess(name));
+    QVERIFY(m_programs.killProcess(name, {}));
 }
 
 void tst_ProcessManager::readsPathsFromTheRegistry_data()
@@ -208,28 +207,28 @@ void tst_ProcessManager::readsPathsFromTheRegistry()
     QFETCH(QString, value);
     QFETCH(QString, expected);
     const QString begin =
-        u"I ProcessManager::readPathFromRegist REG:"_s + kTeamsUrlKey + u"\\Default, value:"_s;
+        u"I ProcessManager::readPathFromRegist REG:"_s + TeamsUrlKey + u"\\Default, value:"_s;
     QString found;
-    QVERIFY(!ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QVERIFY(!ProcessManager::readPathFromRegist(TeamsUrlKey, DefaultName, found));
     QCOMPARE(m_log->take(),
              (QStringList{begin, u"E ProcessManager::readPathFromRegist value not exist!"_s}));
 
-    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, value));
-    QVERIFY(!ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QVERIFY(platform::writeRegistry(TeamsUrlKey, DefaultName, value));
+    QVERIFY(!ProcessManager::readPathFromRegist(TeamsUrlKey, DefaultName, found));
     QCOMPARE(found, expected);
     QCOMPARE(m_log->take(),
              (QStringList{begin + value, u"E ProcessManager::readPathFromRegist path:"_s +
                                              expected + " not exist!"_L1}));
 
     const QString existing = write(u"here"_s, "");
-    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, existing));
-    QVERIFY(ProcessManager::readPathFromRegist(kTeamsUrlKey, kDefault, found));
+    QVERIFY(platform::writeRegistry(TeamsUrlKey, DefaultName, existing));
+    QVERIFY(ProcessManager::readPathFromRegist(TeamsUrlKey, DefaultName, found));
     QCOMPARE(found, existing);
 }
 
-void tst_ProcessManager::looksForTheZoomShortcut_data()
+void tst_ProcessManager::findsTheZoomShortcutInOrder_data()
 {
-    QTest::addColumn<QStringList>("existing"); // below the home folder, in the order of preference
+    QTest::addColumn<QStringList>("existing"); // below the home folder, by preference
     QTest::addColumn<int>("errors");
     const QString menu = u"data/applications/Zoom/Zoom Workplace.desktop"_s;
     const QString desktop = u"Desktop/Zoom Workplace.desktop"_s;
@@ -242,7 +241,7 @@ void tst_ProcessManager::looksForTheZoomShortcut_data()
     QTest::newRow("none") << QStringList{} << 2;
 }
 
-void tst_ProcessManager::looksForTheZoomShortcut()
+void tst_ProcessManager::findsTheZoomShortcutInOrder()
 {
     QFETCH(QStringList, existing);
     QFETCH(int, errors);
@@ -261,7 +260,7 @@ void tst_ProcessManager::looksForTheZoomShortcut()
                                 path(u"Desktop/Zoom Workplace.desktop not exist!"_s)};
     QCOMPARE(m_log->take(), lines.first(1 + errors));
 
-    // The folder alone is not enough.
+    // A menu folder without the shortcut.
     QDir().mkpath(path(u"data/applications/Zoom"_s));
     if (errors > 0) {
         ProcessManager::findZoomShortcut(shortcut);
@@ -269,30 +268,6 @@ void tst_ProcessManager::looksForTheZoomShortcut()
                  u'E' + function + "shortcut:"_L1 +
                      path(u"data/applications/Zoom/Zoom Workplace.desktop not exist!"_s));
     }
-}
-
-void tst_ProcessManager::resolvesShortcuts()
-{
-    const QString function = u"E ProcessManager::getShortcutTarget "_s;
-    const QString program = install(u"opt/my zoom"_s);
-    const QString good =
-        write(u"good.desktop"_s, "[Desktop Entry]\nExec=\"" + program.toUtf8() + "\" %U\n");
-    QString target;
-    QVERIFY(ProcessManager::getShortcutTarget(good, target));
-    QCOMPARE(target, program);
-    QVERIFY(m_log->take().isEmpty());
-
-    target.clear();
-    const QString stale = write(u"stale.desktop"_s, "[Desktop Entry]\nExec=/opt/gone %U\n");
-    QVERIFY(!ProcessManager::getShortcutTarget(stale, target));
-    QVERIFY(target.isEmpty());
-    QCOMPARE(m_log->take(), QStringList{function + "output:/opt/gone not exist!"_L1});
-
-    QVERIFY(!ProcessManager::getShortcutTarget(write(u"bad.desktop"_s, "?"), target));
-    const QStringList lines = m_log->take();
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines.first(), function + "Script failed with code:1"_L1);
-    QVERIFY(lines.last().startsWith(function + "Error output:"_L1));
 }
 
 void tst_ProcessManager::startsZoom_data()
@@ -315,56 +290,42 @@ void tst_ProcessManager::startsZoom()
     install(u"zoom/good"_s);
     installBroken(u"zoom/broken"_s);
     if (!registered.isEmpty())
-        QVERIFY(platform::writeRegistry(kZoomKey, u"DisplayIcon"_s, path(u"zoom/"_s + registered)));
+        QVERIFY(platform::writeRegistry(ZoomKey, u"DisplayIcon"_s, path(u"zoom/"_s + registered)));
     if (hasShortcut)
         write(u"Desktop/Zoom Workplace.desktop"_s,
               "[Desktop Entry]\nExec=" + install(u"zoom/shortcut"_s).toUtf8() + '\n');
 
-    QCOMPARE(ProcessManager::startZoom(), !started.isEmpty());
+    QCOMPARE(m_programs.startZoom(), !started.isEmpty());
     if (!started.isEmpty())
         QTRY_COMPARE(calls(), QStringList{started});
 }
 
-void tst_ProcessManager::startsTheFirstTeamsThatWill()
+void tst_ProcessManager::startsTheFirstTeamsThatCanBeStarted()
 {
-    QVERIFY(!ProcessManager::startTeams());
+    QVERIFY(!m_programs.startTeams());
 
-    // Every candidate is there; each in turn turns out not to start.
+    QCOMPARE(m_log->take().filter(u"findTeamsPath dir:"_s).size(), 3);
+
+    // Every candidate exists. Each in turn is replaced by a file that does not start.
     const QStringList candidates{
         u"registered/one"_s, u"registered/two"_s, u"data/Microsoft/WindowsApps/ms-teams"_s,
         u"data/Microsoft/Teams/current/Teams"_s, u"data/Microsoft/Teams/previous/Teams"_s};
     for (const QString& candidate : candidates)
         install(candidate);
-    QVERIFY(platform::writeRegistry(kTeamsKey, kDefault, path(candidates[0])));
-    QVERIFY(platform::writeRegistry(kTeamsUrlKey, kDefault, path(candidates[1])));
+    QVERIFY(platform::writeRegistry(TeamsKey, DefaultName, path(candidates[0])));
+    QVERIFY(platform::writeRegistry(TeamsUrlKey, DefaultName, path(candidates[1])));
     m_log->take();
 
     for (qsizetype broken = 0; broken < candidates.size(); ++broken) {
-        QVERIFY(ProcessManager::startTeams());
+        QVERIFY(m_programs.startTeams());
         const QString expected =
             u"I ProcessManager::startProcess path:"_s + path(candidates[broken]);
         QCOMPARE(m_log->take().filter(u"startProcess path:"_s).last(), expected);
-        QTRY_COMPARE(calls().size(), broken + 1); // it has read its file
+        QTRY_COMPARE(calls().size(), broken + 1); // the shell has read its file
         QFile::remove(path(candidates[broken]));
         installBroken(candidates[broken]);
     }
-    QVERIFY(!ProcessManager::startTeams());
-}
-
-void tst_ProcessManager::logsWhereTeamsIsNot()
-{
-    const QString function = u"E ProcessManager::findTeamsPath "_s;
-    const QString folder = path(u"data/Microsoft/Teams/current"_s);
-    QString found;
-    QVERIFY(!ProcessManager::findTeamsPath(folder, u"Teams"_s, found));
-    QCOMPARE(m_log->take(), QStringList{function + "dir:"_L1 + folder + " not exist!"_L1});
-
-    QDir().mkpath(folder);
-    QVERIFY(!ProcessManager::findTeamsPath(folder, u"Teams"_s, found));
-    QCOMPARE(m_log->take(), QStringList{function + "path:"_L1 + folder + "/Teams not exist!"_L1});
-    const QString program = install(u"data/Microsoft/Teams/current/Teams"_s);
-    QVERIFY(ProcessManager::findTeamsPath(folder + "/../current"_L1, u"Teams"_s, found));
-    QCOMPARE(QFileInfo(found).canonicalFilePath(), QFileInfo(program).canonicalFilePath());
+    QVERIFY(!m_programs.startTeams());
 }
 
 QTEST_GUILESS_MAIN(tst_ProcessManager)

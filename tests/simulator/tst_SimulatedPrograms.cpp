@@ -1,4 +1,4 @@
-#include "launch/SystemProgramControl.h"
+#include "launch/ProcessManager.h"
 #include "launch/UpgradeControl.h"
 #include "persistence/InstalledVersions.h"
 #include "platform/Processes.h"
@@ -63,7 +63,7 @@ private:
     }
 
     std::unique_ptr<QTemporaryDir> m_home;
-    SystemProgramControl m_programs;
+    ProcessManager m_programs{QString()};
     std::unique_ptr<UpgradeControl> m_upgrade;
     const QString m_update = u"update "_s + QCoreApplication::applicationFilePath();
 };
