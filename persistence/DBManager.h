@@ -1,41 +1,32 @@
 #pragma once
 
+#include "persistence/SqlConnections.h"
 #include "persistence/UserSettings.h"
 
 #include <QMap>
-#include <QSqlDatabase>
 #include <QString>
 #include <QVariant>
 
 #include <atomic>
 #include <mutex>
 
-class QSqlQuery;
-class QThread;
-
 /// The user's data in the SQLite database userdata.db.
 ///
-/// Any thread may call every operation except the constructor and the destructor, which belong to
-/// the main thread and have to run while the application object lives. The main thread works on
-/// Qt's default connection; every other thread gets a connection of its own on first use, closed
-/// when that thread ends, since Qt forbids sharing one. Failures are logged and returned, never
-/// thrown.
+/// Any thread, except for the constructor and the destructor, which run on the main thread while
+/// the application object lives. Failures are logged and returned, never thrown.
 ///
-/// Another program may have the file locked. The main thread waits a second for it, and no more
-/// until it has got it once; a write on another thread is tried for three seconds, unless the
-/// thread is asked to end. A clearing that fails is noted in a file beside the database and made up
-/// for before anything else is read or written, if need be by the next run.
+/// A sign-out whose deletion fails is noted in a file beside the database, and the deletion is made
+/// before anything else is read or written, if necessary by the next run.
 class DBManager : public UserSettings
 {
 public:
     /// Opens the database file, creating file and table where they are missing.
     explicit DBManager(const QString& path);
-    ~DBManager() override;
     Q_DISABLE_COPY_MOVE(DBManager)
 
     /// Opens the calling thread's connection unless it is open.
     bool openDatabase();
-    /// Runs one statement; each entry of `params` is bound to the placeholder ":" + its key.
+    /// Runs one statement; each entry of `params` is bound to the placeholder ":" + key.
     bool execQuery(const QString& sql, const QMap<QString, QVariant>& params);
 
     QVariant getUserData(const QString& key, const QVariant& defaultValue) override;
@@ -46,38 +37,21 @@ public:
     quint64 currentSignIn() const override { return m_signIn; }
 
 private:
-    struct Attempt {
-        enum class Outcome { Done, NotOpen, Locked, Failed };
-        Outcome outcome = Outcome::Done;
-        QString sql;
-        QString error;
-    };
+    using Result = SqlConnections::Result;
 
     void initialize();
-    bool open();
-    [[nodiscard]] bool isOnMainThread() const;
-    QString connectionName() const;
-    QSqlDatabase connection() const;
     [[nodiscard]] QString clearingNote() const;
 
-    Attempt attempt(const QString& sql, const QMap<QString, QVariant>& params);
-    Attempt attemptOpen(const QString& sql, const QMap<QString, QVariant>& params);
-    Attempt run(QSqlQuery& query, const QString& sql, const QMap<QString, QVariant>& params);
-    Attempt attemptStore(const QList<Value>& values);
-    Attempt attemptInsert(const Value& value);
-    Attempt attemptClear();
-    Attempt catchUp();
-    void adaptPatience(bool isLocked);
-    static bool report(const Attempt& attempt);
+    Result store(const QList<Value>& values);
+    Result clear();
+    Result clearIfDue();
     void noteClearing();
 
-    const quint64 m_id;
-    const QThread* const m_mainThread;
-    QString m_dbPath;
-    /// One operation at a time: "still the same sign-in?" and the write that follows are one step,
-    /// and the connections of two threads never find the file locked by each other.
+    // Guards all of the below: comparing the sign-in and writing are one step, and the connections
+    // of two threads never find the file locked by each other.
     std::mutex m_mutex;
+    SqlConnections m_connections;
+    QString m_dbPath;
     bool m_clearingIsDue = false;
-    bool m_isMainPatient = true;
-    std::atomic<quint64> m_signIn{1};
+    std::atomic<quint64> m_signIn{1}; // read without the lock
 };

@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QSettings>
 
-#include <atomic>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -17,12 +16,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int kDefaultInterval = 5000;
-constexpr int kLongestInterval = 24 * 60 * 60 * 1000;
-// A real file has a dozen lines. QSettings would load whatever size it finds.
-constexpr qint64 kLargestConfig = 1 << 20;
-
-std::atomic<FileInfo*> s_instance{nullptr};
+constexpr int DefaultInterval = 5000;
+constexpr int LongestInterval = 24 * 60 * 60 * 1000;
+// A real file has about a dozen lines, and QSettings loads a file of any size.
+constexpr qint64 LargestConfig = 1 << 20;
 
 void logKept(const QString& key)
 {
@@ -34,26 +31,11 @@ void logKept(const QString& key)
 FileInfo::FileInfo(QString configPath)
     : m_configPath(std::move(configPath))
     , m_k4vLowestVer(keys::DefaultLowestFirmware)
-    , m_useRemoteDeviceInterval(kDefaultInterval)
+    , m_useRemoteDeviceInterval(DefaultInterval)
     , m_serverUrl(QStringLiteral(VORN_ACCOUNT_URL))
     , m_googleMeetingUrl(keys::DefaultGoogleMeetingUrl)
 {
-    FileInfo* none = nullptr;
-    s_instance.compare_exchange_strong(none, this);
     readConfig();
-}
-
-FileInfo::~FileInfo()
-{
-    FileInfo* self = this;
-    s_instance.compare_exchange_strong(self, nullptr);
-}
-
-FileInfo& FileInfo::instance()
-{
-    FileInfo* const instance = s_instance;
-    Q_ASSERT_X(instance, "FileInfo::instance", "no configuration has been read");
-    return *instance;
 }
 
 void FileInfo::readConfig()
@@ -64,15 +46,15 @@ void FileInfo::readConfig()
         return;
     }
     const QFileInfo info(m_configPath);
-    if (!info.isFile() && !info.isDir()) { // reading a pipe would hold up the start
+    if (!info.isFile() && !info.isDir()) { // reading a pipe would block the start
         Log::error("FileInfo::FileInfo") << m_configPath << " is not a file, ignored";
         return;
     }
     if (file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        const QByteArray content = file.read(kLargestConfig + 1);
-        if (content.size() > kLargestConfig) {
+        const QByteArray content = file.read(LargestConfig + 1);
+        if (content.size() > LargestConfig) {
             Log::error("FileInfo::FileInfo")
-                << m_configPath << " is larger than " << kLargestConfig << " bytes, ignored";
+                << m_configPath << " is larger than " << LargestConfig << " bytes, ignored";
             return;
         }
         Log::info("FileInfo::FileInfo") << m_configPath << '\n' << content;
@@ -98,7 +80,7 @@ void FileInfo::readConfig()
 void FileInfo::readString(const QSettings& settings, const QString& key, QString& member) const
 {
     const QVariant value = settings.value(key, member);
-    // An unquoted comma makes a list of what was meant as one text.
+    // QSettings splits a text at unquoted commas.
     if (value.typeId() == QMetaType::QStringList)
         member = value.toStringList().join(u',');
     else if (value.canConvert<QString>())
@@ -122,7 +104,7 @@ void FileInfo::readInterval(const QSettings& settings, const QString& key, int& 
 {
     bool isNumber = false;
     const int interval = settings.value(key, member).toInt(&isNumber);
-    if (isNumber && interval > 0 && interval <= kLongestInterval)
+    if (isNumber && interval > 0 && interval <= LongestInterval)
         member = interval;
     else
         logKept(key);
@@ -154,7 +136,7 @@ void FileInfo::saveRegistry(const QString& registryPath, const QString& name,
         Log::error("FileInfo::saveRegistry") << "path or name missing";
         return;
     }
-    // The program that reads the registry expects numbers; Qt would store a boolean as text.
+    // The program that reads the registry expects numbers, and Qt stores a boolean as text.
     const bool isBool = value.typeId() == QMetaType::Bool;
     if (!platform::writeRegistry(registryPath, name, isBool ? QVariant(value.toInt()) : value))
         Log::error("FileInfo::saveRegistry") << "cannot write " << registryPath;

@@ -7,25 +7,21 @@ class QSettings;
 
 /// The installation's configuration.
 ///
-/// Reads config.ini once, while it is constructed on the main thread; afterwards the values do not
-/// change, so getters may be called from any thread. A value changed at run time is written to the
-/// file through saveConfig() and takes effect here at the next start.
+/// Reads config.ini once, in the constructor on the main thread. After that no member changes, so
+/// any thread may call the getters. A value that is changed at run time is written to the file by
+/// saveConfig(), and the getters return it after the next start.
 class FileInfo
 {
 public:
-    /// @param configPath  config.ini; without the file, or where a value of it makes no sense, the
-    ///                    built-in defaults stay in force and the log says so
+    /// @param configPath  config.ini. Where the file or a value is missing or unusable, the default
+    ///                    is kept and the log says so.
     explicit FileInfo(QString configPath);
-    ~FileInfo();
     Q_DISABLE_COPY_MOVE(FileInfo)
-
-    /// The program's configuration: the first object that was constructed and still lives.
-    static FileInfo& instance();
 
     const QString& configPath() const { return m_configPath; }
     /// Oldest firmware of the display that this program supports.
     const QString& k4vLowestVer() const { return m_k4vLowestVer; }
-    /// Least time between two writes of the remote-device selection, in milliseconds, above 0.
+    /// Shortest time between two writes of the remote-device selection, in milliseconds, above 0.
     int useRemoteDeviceInterval() const { return m_useRemoteDeviceInterval; }
     bool useRemoteDevice() const { return m_useRemoteDevice; }
     bool supportLaunchZoom() const { return m_supportLaunchZoom; }
@@ -35,10 +31,10 @@ public:
     const QString& serverUrl() const { return m_serverUrl; }
     const QString& googleMeetingUrl() const { return m_googleMeetingUrl; }
 
-    /// Writes one value to an INI file and logs what the file then holds. Task thread.
+    /// Writes one value to an INI file, reads it back and logs it. Task thread.
     void saveConfig(const QString& iniPath, const QString& key, const QVariant& value) const;
-    /// Writes one value to the registry and logs what the registry then holds; booleans are stored
-    /// as the integers 0 and 1. Task thread.
+    /// Writes one value to the registry, reads it back and logs it. Booleans are stored as the
+    /// integers 0 and 1. Task thread.
     void saveRegistry(const QString& registryPath, const QString& name,
                       const QVariant& value) const;
 
@@ -59,8 +55,7 @@ private:
     QString m_googleMeetingUrl;
 };
 
-/// File version of an executable as "1.2.3.4"; empty when it carries none.
+/// File version of an executable as "1.2.3.4"; empty when it has none.
 QString readFileVersion(const QString& path);
-/// Product version of an executable without its fourth part, as "1.2.3"; empty when it carries
-/// none.
+/// Product version of an executable without its fourth part, as "1.2.3"; empty when it has none.
 QString readProductVersion(const QString& path);

@@ -25,7 +25,7 @@ inline TaskQueue::Actions storeTask(std::function<UserSettings&()> store)
              }}};
 }
 
-/// Posts to a queue on a thread of its own, as the device state does.
+/// Owns a queue and its thread and posts to it, as the device control does.
 class Poster : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ public:
 
 signals:
     void addTask(QString task, QVariantList args);
-    /// A task "drained" was reached; emitted on the poster's own thread.
+    /// The queue has run a task "drained". Emitted on the thread of this object.
     void drained();
 
 private:

@@ -1,4 +1,4 @@
-// Posts a long stream of database writes, to be killed in the middle of it.
+// Posts a long stream of database writes, during which the test kills this program.
 //
 //     write_stream <userdata.db> <prefix>
 //

@@ -15,24 +15,22 @@
 
 using namespace Qt::StringLiterals;
 
-class TestDBManager : public QObject
+class tst_DBManager : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void survivesRestart();
-    void keepsEveryType();
-    void sameKeyKeepsOneRow();
-    void clearLeavesNoTrace();
-    void endedSignInIsDropped();
-    void unusableFileIsLogged_data();
-    void unusableFileIsLogged();
-    void clearingIsMadeUpFor_data();
-    void clearingIsMadeUpFor();
-    void otherUsersCannotRead();
-    void failedStatementIsLogged();
+    void keepsValuesAcrossARestart();
+    void leavesNoTraceOfClearedValues();
+    void dropsWritesOfAnEndedSignIn();
+    void logsAnUnusableFile_data();
+    void logsAnUnusableFile();
+    void makesUpForAFailedClearing_data();
+    void makesUpForAFailedClearing();
+    void keepsOtherUsersOut();
+    void logsAFailedStatement();
 
 private:
     std::optional<QTemporaryDir> m_dir;
@@ -42,23 +40,23 @@ private:
 namespace
 {
 
-/// Another program that has the file locked.
-class Intruder
+/// Locks the file as another program would.
+class FileLock
 {
 public:
-    explicit Intruder(const QString& path)
+    explicit FileLock(const QString& path)
     {
-        QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"intruder"_s);
+        QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"lock"_s);
         db.setDatabaseName(path);
         if (!db.open() || !QSqlQuery(db).exec(u"BEGIN EXCLUSIVE"_s))
             qFatal("cannot lock the database");
     }
-    ~Intruder()
+    ~FileLock()
     {
-        QSqlDatabase::database(u"intruder"_s).close();
-        QSqlDatabase::removeDatabase(u"intruder"_s);
+        QSqlDatabase::database(u"lock"_s).close();
+        QSqlDatabase::removeDatabase(u"lock"_s);
     }
-    Q_DISABLE_COPY_MOVE(Intruder)
+    Q_DISABLE_COPY_MOVE(FileLock)
 };
 
 int rows()
@@ -88,60 +86,35 @@ QString randomText(int length)
 
 } // namespace
 
-void TestDBManager::init()
+void tst_DBManager::init()
 {
-    // Qt warns about a connection that is still in use, or used from the wrong thread.
+    // Qt warns about a connection that is still in use or used on the wrong thread.
     QTest::failOnWarning(QRegularExpression(u"."_s));
     m_dir.emplace();
     m_path = m_dir->filePath(u"userdata.db"_s);
 }
 
-void TestDBManager::survivesRestart()
+void tst_DBManager::keepsValuesAcrossARestart()
 {
+    const QString text = u"naïve 日本 😀 'quoted\"; --"_s + QChar(0) + u"after"_s;
     LogCapture log;
     {
         DBManager db(m_path);
         QCOMPARE(log.take(), QStringList{u"I DBManager::DBManager m_dbPath:"_s + m_path});
         QCOMPARE(db.getUserData(u"email"_s, u"none"_s), QVariant(u"none"_s));
-        QVERIFY(db.saveUserData(u"email"_s, u"a@b.example"_s));
+        QVERIFY(db.saveUserData(u"email"_s, u"first"_s));
+        QVERIFY(db.saveUserData(u"email"_s, text));
+        QVERIFY(db.saveUserData(u"nothing"_s, QVariant()));
         QCOMPARE(log.take(), QStringList{u"I DBManager::getUserData key:email"_s});
+        QCOMPARE(rows(), 2);
     }
     QVERIFY(QSqlDatabase::connectionNames().isEmpty());
     DBManager db(m_path);
-    QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"a@b.example"_s);
-}
-
-void TestDBManager::keepsEveryType()
-{
-    DBManager db(m_path);
-    const QString text = u"naïve 日本 😀 'quoted\"; --"_s + QChar(0) + u"after"_s;
-    const QByteArray bytes("\0\xff\x01", 3);
-    QVERIFY(db.saveUserData(text, text));
-    QVERIFY(db.saveUserData(u"empty"_s, u""_s));
-    QVERIFY(db.saveUserData(u"number"_s, Q_INT64_C(-9'000'000'000)));
-    QVERIFY(db.saveUserData(u"real"_s, 0.1));
-    QVERIFY(db.saveUserData(u"flag"_s, true));
-    QVERIFY(db.saveUserData(u"bytes"_s, bytes));
-    QVERIFY(db.saveUserData(u"nothing"_s, QVariant()));
-    QCOMPARE(db.getUserData(text, {}), QVariant(text));
-    QCOMPARE(db.getUserData(u"empty"_s, u"default"_s), QVariant(u""_s));
-    QCOMPARE(db.getUserData(u"number"_s, {}), QVariant(Q_INT64_C(-9'000'000'000)));
-    QCOMPARE(db.getUserData(u"real"_s, {}), QVariant(0.1));
-    QVERIFY(db.getUserData(u"flag"_s, {}).toBool());
-    QCOMPARE(db.getUserData(u"bytes"_s, {}), QVariant(bytes));
+    QCOMPARE(db.getUserData(u"email"_s, {}), QVariant(text));
     QVERIFY(db.getUserData(u"nothing"_s, u"default"_s).isNull());
 }
 
-void TestDBManager::sameKeyKeepsOneRow()
-{
-    DBManager db(m_path);
-    QVERIFY(db.saveUserData(u"title"_s, u"first"_s));
-    QVERIFY(db.saveUserData(u"title"_s, u"second"_s));
-    QCOMPARE(db.getUserData(u"title"_s, {}).toString(), u"second"_s);
-    QCOMPARE(rows(), 1);
-}
-
-void TestDBManager::clearLeavesNoTrace()
+void tst_DBManager::leavesNoTraceOfClearedValues()
 {
     DBManager db(m_path);
     const QString replaced = randomText(2000);
@@ -163,7 +136,7 @@ void TestDBManager::clearLeavesNoTrace()
     QCOMPARE(db.getUserData(u"token"_s, u"none"_s), QVariant(u"none"_s));
 }
 
-void TestDBManager::endedSignInIsDropped()
+void tst_DBManager::dropsWritesOfAnEndedSignIn()
 {
     DBManager db(m_path);
     const quint64 before = db.currentSignIn();
@@ -176,7 +149,7 @@ void TestDBManager::endedSignInIsDropped()
     QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"new"_s);
 }
 
-void TestDBManager::unusableFileIsLogged_data()
+void tst_DBManager::logsAnUnusableFile_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("firstError");
@@ -190,7 +163,7 @@ void TestDBManager::unusableFileIsLogged_data()
                                     << u"E DBManager::getUserData Query failed:"_s;
 }
 
-void TestDBManager::unusableFileIsLogged()
+void tst_DBManager::logsAnUnusableFile()
 {
     QFETCH(const QString, file);
     QFETCH(const QString, firstError);
@@ -214,7 +187,7 @@ void TestDBManager::unusableFileIsLogged()
     QCOMPARE(garbageFile.readAll(), garbage);
 }
 
-void TestDBManager::clearingIsMadeUpFor_data()
+void tst_DBManager::makesUpForAFailedClearing_data()
 {
     QTest::addColumn<bool>("byTheNextRun");
     QTest::addColumn<bool>("beforeAWrite");
@@ -223,14 +196,14 @@ void TestDBManager::clearingIsMadeUpFor_data()
     QTest::newRow("before the next write") << false << true;
 }
 
-void TestDBManager::clearingIsMadeUpFor()
+void tst_DBManager::makesUpForAFailedClearing()
 {
     QFETCH(const bool, byTheNextRun);
     QFETCH(const bool, beforeAWrite);
     std::optional<DBManager> db(m_path);
     QVERIFY(db->saveUserData(u"token"_s, u"secret"_s));
     {
-        const Intruder intruder(m_path);
+        const FileLock lock(m_path);
         QVERIFY(!db->clearUserData());
         QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
         QVERIFY(!save(*db, u"email"_s, u"new"_s, db->currentSignIn()));
@@ -244,7 +217,7 @@ void TestDBManager::clearingIsMadeUpFor()
     QCOMPARE(db->getUserData(u"token"_s, u"none"_s).toString(), u"none"_s);
     QCOMPARE(rows(), beforeAWrite ? 1 : 0);
 
-    // Once, and not again.
+    // The clearing is made only once.
     QVERIFY(db->saveUserData(u"email"_s, u"newer"_s));
     db.reset();
     db.emplace(m_path);
@@ -252,19 +225,19 @@ void TestDBManager::clearingIsMadeUpFor()
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{u"userdata.db"_s});
 }
 
-void TestDBManager::otherUsersCannotRead()
+void tst_DBManager::keepsOtherUsersOut()
 {
     if (QSysInfo::kernelType() == u"winnt")
-        return; // Folders decide there.
+        return; // There the folder decides.
     QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly)); // as an older version may have left it
+    QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
     const DBManager db(m_path);
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     QVERIFY(!(QFile::permissions(m_path) & others));
 }
 
-void TestDBManager::failedStatementIsLogged()
+void tst_DBManager::logsAFailedStatement()
 {
     DBManager db(m_path);
     LogCapture log;
@@ -276,5 +249,5 @@ void TestDBManager::failedStatementIsLogged()
     QVERIFY(lines[0].endsWith(u" - Query:DELETE FROM nowhere"));
 }
 
-QTEST_GUILESS_MAIN(TestDBManager)
+QTEST_GUILESS_MAIN(tst_DBManager)
 #include "tst_DBManager.moc"

@@ -27,7 +27,7 @@ int rows()
 
 } // namespace
 
-class TestDBManagerThreads : public QObject
+class tst_DBManagerThreads : public QObject
 {
     Q_OBJECT
 
@@ -35,64 +35,47 @@ private slots:
     void init()
     {
         m_dir.emplace();
-        // From here on: Windows may keep the last test's folder a little longer.
+        // Only now: on Windows, removing the folder of the last test may warn.
         QTest::failOnWarning(QRegularExpression(u"."_s));
         m_path = m_dir->filePath(u"userdata.db"_s);
     }
 
-    void severalThreadsAtOnce();
-    void connectionEndsWithItsThread();
-    void threadOutlivesStore();
-    void signOutBeatsPendingWrites();
-    void aChangeWaitsForALockedFileAndIsStoredWhole();
+    void servesSeveralThreadsAtOnce();
+    void removesTheConnectionsOfAnEndedThread();
+    void signOutDropsPendingWrites();
+    void storesAChangeWholeOnceTheFileIsUnlocked();
 
 private:
     std::optional<QTemporaryDir> m_dir;
     QString m_path;
 };
 
-void TestDBManagerThreads::severalThreadsAtOnce()
+void tst_DBManagerThreads::servesSeveralThreadsAtOnce()
 {
-    constexpr int kThreads = 3;
-    constexpr int kWrites = 30;
+    constexpr int Threads = 3;
+    constexpr int Writes = 30;
     DBManager db(m_path);
     std::atomic<int> failed{0};
     std::vector<std::thread> threads;
-    for (int t = 0; t < kThreads; ++t)
+    for (int t = 0; t < Threads; ++t)
         threads.emplace_back([&db, &failed, t] {
-            for (int i = 0; i < kWrites; ++i) {
+            for (int i = 0; i < Writes; ++i) {
                 const QString key = u"%1-%2"_s.arg(t).arg(i);
                 failed += !save(db, key, i, db.currentSignIn());
                 failed += db.getUserData(key, -1).toInt() != i;
             }
         });
-    for (int i = 0; i < kWrites; ++i) {
+    for (int i = 0; i < Writes; ++i) {
         failed += !db.saveUserData(u"main"_s, i);
         failed += db.getUserData(u"main"_s, -1).toInt() != i;
     }
     for (std::thread& thread : threads)
         thread.join();
     QCOMPARE(failed.load(), 0);
-    QCOMPARE(rows(), kThreads * kWrites + 1);
+    QCOMPARE(rows(), Threads * Writes + 1);
 }
 
-void TestDBManagerThreads::connectionEndsWithItsThread()
-{
-    DBManager db(m_path);
-    const qsizetype before = QSqlDatabase::connectionNames().size();
-    qsizetype during = 0;
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
-        db.saveUserData(u"a"_s, 1);
-        db.saveUserData(u"b"_s, 1);
-        during = QSqlDatabase::connectionNames().size();
-    }));
-    thread->start();
-    QVERIFY(thread->wait());
-    QCOMPARE(during, before + 1);
-    QCOMPARE(QSqlDatabase::connectionNames().size(), before);
-}
-
-void TestDBManagerThreads::threadOutlivesStore()
+void tst_DBManagerThreads::removesTheConnectionsOfAnEndedThread()
 {
     std::unique_ptr<DBManager> db;
     {
@@ -110,18 +93,18 @@ void TestDBManagerThreads::threadOutlivesStore()
     QVERIFY(QSqlDatabase::connectionNames().isEmpty());
 }
 
-void TestDBManagerThreads::signOutBeatsPendingWrites()
+void tst_DBManagerThreads::signOutDropsPendingWrites()
 {
-    constexpr int kRounds = 100;
+    constexpr int Rounds = 100;
     DBManager db(m_path);
     Poster poster(storeTask([&db]() -> UserSettings& { return db; }));
     QSignalSpy drained(&poster, &Poster::drained);
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < Rounds; ++round) {
         const quint64 signIn = db.currentSignIn();
         const int posted = QRandomGenerator::global()->bounded(1, 7);
         for (int i = 0; i < posted; ++i)
             emit poster.addTask(u"saveDB"_s, {u"key%1"_s.arg(i), round, signIn});
-        // Let the writer get anywhere between its first and its last write.
+        // Reads delay the sign-out until somewhere between the first and the last write.
         for (int i = QRandomGenerator::global()->bounded(0, posted); i > 0; --i)
             db.getUserData(u"key0"_s, {});
         QVERIFY(db.clearUserData());
@@ -133,11 +116,11 @@ void TestDBManagerThreads::signOutBeatsPendingWrites()
     }
 }
 
-void TestDBManagerThreads::aChangeWaitsForALockedFileAndIsStoredWhole()
+void tst_DBManagerThreads::storesAChangeWholeOnceTheFileIsUnlocked()
 {
     using enum UserSettings::Saved;
     DBManager db(m_path);
-    QVERIFY(db.execQuery(u"BEGIN EXCLUSIVE"_s, {})); // another connection than the thread's
+    QVERIFY(db.execQuery(u"BEGIN EXCLUSIVE"_s, {})); // on the connection of the main thread
     auto saved = Done;
     const auto save = [&] {
         saved = db.saveUserData({{u"a"_s, 1}, {u"b"_s, 2}}, db.currentSignIn(),
@@ -156,5 +139,5 @@ void TestDBManagerThreads::aChangeWaitsForALockedFileAndIsStoredWhole()
     QCOMPARE(db.getUserData(u"a"_s, {}).toInt(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestDBManagerThreads)
+QTEST_GUILESS_MAIN(tst_DBManagerThreads)
 #include "tst_DBManagerThreads.moc"

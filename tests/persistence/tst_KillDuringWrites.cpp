@@ -12,32 +12,32 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr char kTaskLine[] = " saveDB\n";
+constexpr char TaskLine[] = " saveDB\n";
 
 } // namespace
 
-/// What the log shows as done survives a crash at any moment.
-class TestKillDuringWrites : public QObject
+/// A write that the log shows as done survives a crash at any moment.
+class tst_KillDuringWrites : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyLoggedWriteIsThere();
+    void keepsEveryLoggedWrite();
 
 private:
-    static int writesLoggedBeforeDeath(const QString& path, const QString& prefix);
+    static int writesLoggedBeforeTheKill(const QString& path, const QString& prefix);
     static void verifyDatabase(const QString& path, const QString& prefix, int writes);
 };
 
-/// A task's line appears once the task before it is done, so the last line proves nothing yet.
-int TestKillDuringWrites::writesLoggedBeforeDeath(const QString& path, const QString& prefix)
+/// The line of a task is written before the task runs, so the last one does not count.
+int tst_KillDuringWrites::writesLoggedBeforeTheKill(const QString& path, const QString& prefix)
 {
     QProcess child;
     child.setReadChannel(QProcess::StandardError);
     child.start(QStringLiteral(WRITE_STREAM), {path, prefix});
     QByteArray log;
     const int enough = QRandomGenerator::global()->bounded(2, 7);
-    while (log.count(kTaskLine) < enough && child.waitForReadyRead(10'000))
+    while (log.count(TaskLine) < enough && child.waitForReadyRead(10'000))
         log += child.readAll();
     const QDeadlineTimer moment(QRandomGenerator::global()->bounded(20));
     while (!moment.hasExpired() && child.state() == QProcess::Running) {
@@ -49,10 +49,10 @@ int TestKillDuringWrites::writesLoggedBeforeDeath(const QString& path, const QSt
     log += child.readAll();
     if (child.exitStatus() != QProcess::CrashExit)
         qCritical("the writer ended by itself: %s", log.constData());
-    return int(log.count(kTaskLine)) - 1;
+    return int(log.count(TaskLine)) - 1;
 }
 
-void TestKillDuringWrites::verifyDatabase(const QString& path, const QString& prefix, int writes)
+void tst_KillDuringWrites::verifyDatabase(const QString& path, const QString& prefix, int writes)
 {
     QSqlDatabase db = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"check"_s);
     db.setDatabaseName(path);
@@ -68,14 +68,14 @@ void TestKillDuringWrites::verifyDatabase(const QString& path, const QString& pr
     QVERIFY2(found >= writes, qPrintable(u"%1 of %2 writes found"_s.arg(found).arg(writes)));
 }
 
-void TestKillDuringWrites::everyLoggedWriteIsThere()
+void tst_KillDuringWrites::keepsEveryLoggedWrite()
 {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"userdata.db"_s);
     for (int round = 0; round < 50; ++round) {
         const QString prefix = u"round%1-"_s.arg(round);
-        const int writes = writesLoggedBeforeDeath(path, prefix);
-        QVERIFY2(writes >= 1, "the writer did not get going");
+        const int writes = writesLoggedBeforeTheKill(path, prefix);
+        QVERIFY2(writes >= 1, "the writer did not start");
         verifyDatabase(path, prefix, writes);
         QSqlDatabase::removeDatabase(u"check"_s);
         if (QTest::currentTestFailed())
@@ -83,5 +83,5 @@ void TestKillDuringWrites::everyLoggedWriteIsThere()
     }
 }
 
-QTEST_GUILESS_MAIN(TestKillDuringWrites)
+QTEST_GUILESS_MAIN(tst_KillDuringWrites)
 #include "tst_KillDuringWrites.moc"
