@@ -4,12 +4,10 @@
 #include "account/NetworkManager.h"
 
 #include <QEventLoop>
-#include <QJsonDocument>
-#include <QNetworkReply>
 #include <QStringList>
 #include <QTimer>
 
-/// The signed-in user, as a test says.
+/// A signed-in user that the test sets.
 class FakeIdentity : public AccountIdentity
 {
 public:
@@ -22,7 +20,7 @@ public:
     QString m_rawPicture;
 };
 
-/// Everything a NetworkManager reports, in order: "signal" or "signal: text".
+/// The signals of a NetworkManager in order, as "signal" or "signal: text".
 class SignalRecorder : public QObject
 {
     Q_OBJECT
@@ -30,24 +28,28 @@ class SignalRecorder : public QObject
 public:
     explicit SignalRecorder(const NetworkManager& network)
     {
+        using namespace Qt::StringLiterals;
         using N = NetworkManager;
-        onObject(network, &N::loginSuccess, QStringLiteral("loginSuccess"));
-        onText(network, &N::loginFailed, QStringLiteral("loginFailed"));
-        onNothing(network, &N::registrationSuccess, QStringLiteral("registrationSuccess"));
-        onText(network, &N::registrationFailed, QStringLiteral("registrationFailed"));
-        onNothing(network, &N::passwordResetSent, QStringLiteral("passwordResetSent"));
-        onText(network, &N::passwordResetFailed, QStringLiteral("passwordResetFailed"));
-        onObject(network, &N::profileUpdateSuccess, QStringLiteral("profileUpdateSuccess"));
-        onText(network, &N::profileUpdateFailed, QStringLiteral("profileUpdateFailed"));
-        onObject(network, &N::profileRequestSuccess, QStringLiteral("profileRequestSuccess"));
-        onText(network, &N::profileRequestFailed, QStringLiteral("profileRequestFailed"));
+        const auto watch = [this, &network](auto signal, QLatin1StringView name) {
+            connect(&network, signal, this,
+                    [this, name](const auto&... value) { record(name, value...); });
+        };
+        watch(&N::loginSuccess, "loginSuccess"_L1);
+        watch(&N::loginFailed, "loginFailed"_L1);
+        watch(&N::registrationSuccess, "registrationSuccess"_L1);
+        watch(&N::registrationFailed, "registrationFailed"_L1);
+        watch(&N::passwordResetSent, "passwordResetSent"_L1);
+        watch(&N::passwordResetFailed, "passwordResetFailed"_L1);
+        watch(&N::profileUpdateSuccess, "profileUpdateSuccess"_L1);
+        watch(&N::profileUpdateFailed, "profileUpdateFailed"_L1);
+        watch(&N::profileRequestSuccess, "profileRequestSuccess"_L1);
+        watch(&N::profileRequestFailed, "profileRequestFailed"_L1);
     }
 
-    /// Waits for that many reports in all; false after a minute.
+    /// Waits until there are `count` events in all; false after a minute.
     [[nodiscard]] bool waitForEvents(qsizetype count)
     {
-        // Unlike a polling wait, an event loop lets large bodies pass at full speed.
-        QEventLoop loop;
+        QEventLoop loop; // does not slow down large bodies as polling would
         connect(this, &SignalRecorder::recorded, &loop, [&] {
             if (events.size() >= count)
                 loop.quit();
@@ -65,34 +67,23 @@ signals:
     void recorded();
 
 private:
-    template <typename Signal>
-    void onObject(const NetworkManager& network, Signal signal, const QString& name)
-    {
-        connect(&network, signal, this, [this, name](const QJsonObject& object) {
-            lastObject = object;
-            record(name);
-        });
-    }
-    template <typename Signal>
-    void onText(const NetworkManager& network, Signal signal, const QString& name)
-    {
-        connect(&network, signal, this,
-                [this, name](const QString& text) { record(name + QStringLiteral(": ") + text); });
-    }
-    template <typename Signal>
-    void onNothing(const NetworkManager& network, Signal signal, const QString& name)
-    {
-        connect(&network, signal, this, [this, name] { record(name); });
-    }
-
     void record(const QString& event)
     {
         events.append(event);
         emit recorded();
     }
+    void record(const QString& name, const QString& text)
+    {
+        record(name + QStringLiteral(": ") + text);
+    }
+    void record(const QString& name, const QJsonObject& object)
+    {
+        lastObject = object;
+        record(name);
+    }
 };
 
-/// Whether a manager holds no request any more: its guards are gone, with their timers and replies.
+/// Whether no request is left: the guards with their replies and timers are deleted.
 inline bool isIdle(const NetworkManager& network)
 {
     return network.findChildren<RequestGuard*>().isEmpty();

@@ -32,7 +32,7 @@ QByteArray pictureBytes(const char* format)
     return bytes;
 }
 
-// A bitmap header that announces 50,000 x 50,000 pixels, with nothing behind it.
+// A bitmap header that announces 50,000 x 50,000 pixels, without the pixels.
 QByteArray bitmapBomb()
 {
     QByteArray bytes = pictureBytes("BMP");
@@ -41,7 +41,7 @@ QByteArray bitmapBomb()
     return bytes;
 }
 
-// The same as a PNG: width and height stand at fixed places, followed by the header's checksum.
+// The same as a PNG, with the checksum of the header.
 QByteArray pngBomb()
 {
     QByteArray bytes = pictureBytes("PNG");
@@ -66,90 +66,61 @@ QByteArray formatOf(const QByteArray& bytes)
 
 } // namespace
 
-class ImageFileTest : public QObject
+class tst_ImageFile : public QObject
 {
     Q_OBJECT
 
 private slots:
     void normalisesPaths_data();
     void normalisesPaths();
-    void findsFilesByUrl();
     void encodes_data();
     void encodes();
-    void refusesWhatIsNoFile();
-    void reportsWhatCannotBeEncoded();
+    void refusesWhatIsNoPictureFile();
+    void reportsAPictureThatCannotBeEncoded();
 
 private:
     QTemporaryDir m_folder;
 };
 
-void ImageFileTest::normalisesPaths_data()
+void tst_ImageFile::normalisesPaths_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("path");
     const auto row = [](const char* given, const char* path) {
         QTest::newRow(given) << QString::fromUtf8(given) << QString::fromUtf8(path);
     };
-    row("file:///C:/a.png", "C:/a.png");
     row("file:///C:/a b%20c.png", "C:/a b c.png");
-    row("file:///home/x/100%25.png", "/home/x/100%.png");
     row("file:///home/x/100%.png", "/home/x/100%.png");
-    row("file:///home/x/a%2520b.png", "/home/x/a%20b.png");
-    row("file:///home/x/a#b?c%23.png", "/home/x/a#b?c#.png");
-    row("file:///home/x/\xc3\xa4%C3%A4.png", "/home/x/\xc3\xa4\xc3\xa4.png");
-    row("file:///", "/");
+    row("file:///home/x/a%2520b#c?d%23%C3%A4.png", "/home/x/a%20b#c?d#\xc3\xa4.png");
     row("file://server/share/a%20b.png", "//server/share/a b.png");
     row("file://server", "file://server");
     row("FILE:///C:/a.png", "FILE:///C:/a.png");
     row("qrc:/images/x.png", ":/images/x.png");
-    row("QRC:/images/x.png", "QRC:/images/x.png");
     row("C:/100%25 #1.png", "C:/100%25 #1.png");
     row("", "");
 }
 
-void ImageFileTest::normalisesPaths()
+void tst_ImageFile::normalisesPaths()
 {
     QFETCH(const QString, given);
     const QString path = ImageFile::normaliseImagePath(given);
     QTEST(path, "path");
 }
 
-void ImageFileTest::findsFilesByUrl()
-{
-    const QByteArray content = pictureBytes("PNG");
-    for (const QString& name :
-         {u"plain.png"_s, u"two words.png"_s, u"100%25 %.png"_s, u"a#b?.png"_s}) {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly))
-            continue; // a name this system does not allow
-        file.write(content);
-        file.close();
-        // As a file dialog hands it over, and as a URL spelt out in full.
-        const QUrl url = QUrl::fromLocalFile(file.fileName());
-        for (const QString& text : {url.toString(), url.toString(QUrl::FullyEncoded)})
-            QCOMPARE(ImageFile::size(ImageFile::normaliseImagePath(text)), content.size());
-    }
-    QCOMPARE(ImageFile::size(ImageFile::normaliseImagePath(u"file:///gone/x.png"_s)), 0);
-}
-
-void ImageFileTest::encodes_data()
+void tst_ImageFile::encodes_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("format"); // empty: refused
     const QByteArray png = pictureBytes("PNG");
     const QByteArray jpeg = pictureBytes("JPG");
-    QTest::newRow("png") << u"a.png"_s << png << "PNG"_ba;
     QTest::newRow("upper-case jpeg") << u"a.JPEG"_s << jpeg << "JPG"_ba;
     QTest::newRow("jpg") << u"a.jpg"_s << jpeg << "JPG"_ba;
     QTest::newRow("bmp") << u"a.bmp"_s << pictureBytes("BMP") << "PNG"_ba;
     QTest::newRow("png named jpg") << u"lie.jpg"_s << png << "JPG"_ba;
     QTest::newRow("jpeg named png") << u"lie.png"_s << jpeg << "PNG"_ba;
-    QTest::newRow("no ending") << u"face"_s << png << "PNG"_ba;
     QTest::newRow("text named png") << u"text.png"_s << "not a picture"_ba << QByteArray();
-    QTest::newRow("empty") << u"empty.png"_s << QByteArray() << QByteArray();
     QTest::newRow("truncated png") << u"cut.png"_s << png.first(png.size() / 2) << QByteArray();
-    QTest::newRow("truncated jpeg head") << u"cut.jpg"_s << jpeg.first(64) << QByteArray();
     QTest::newRow("png bomb") << u"bomb.png"_s << pngBomb() << QByteArray();
     QTest::newRow("bitmap bomb") << u"bomb.bmp"_s << bitmapBomb() << QByteArray();
     QTest::newRow("truncated jpeg body")
@@ -159,7 +130,7 @@ void ImageFileTest::encodes_data()
         << R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>)"_ba << QByteArray();
 }
 
-void ImageFileTest::encodes()
+void tst_ImageFile::encodes()
 {
     QFETCH(const QString, name);
     QFETCH(const QByteArray, content);
@@ -176,12 +147,12 @@ void ImageFileTest::encodes()
         QCOMPARE(QImage::fromData(encoded.bytes).size(), QSize(64, 48));
 }
 
-void ImageFileTest::refusesWhatIsNoFile()
+void tst_ImageFile::refusesWhatIsNoPictureFile()
 {
     QCOMPARE(ImageFile::encode(m_folder.filePath(u"gone.png"_s)).status, Status::NotLoaded);
     QCOMPARE(ImageFile::encode(m_folder.path()).status, Status::NotLoaded);
     QCOMPARE(ImageFile::encode({}).status, Status::NotLoaded);
-    // A good picture with an endless tail: a hole, which takes no room on the disk.
+    // A good picture followed by a hole of 5 GB, which takes no room on the disk.
     QFile file(m_folder.filePath(u"endless.png"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(pictureBytes("PNG"));
@@ -194,7 +165,7 @@ void ImageFileTest::refusesWhatIsNoFile()
 #endif
 }
 
-void ImageFileTest::reportsWhatCannotBeEncoded()
+void tst_ImageFile::reportsAPictureThatCannotBeEncoded()
 {
     // Wider than a JPEG can be.
     const QString path = m_folder.filePath(u"ribbon.jpg"_s);
@@ -204,5 +175,5 @@ void ImageFileTest::reportsWhatCannotBeEncoded()
     QVERIFY(encoded.bytes.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(ImageFileTest)
-#include "ImageFileTest.moc"
+QTEST_GUILESS_MAIN(tst_ImageFile)
+#include "tst_ImageFile.moc"

@@ -13,16 +13,16 @@ using Kind = AccountFault::Kind;
 namespace
 {
 
-constexpr int kShortTimeout = 250;
-constexpr int kPatience = 30'000;
+constexpr int ShortTimeout = 250;
+constexpr int Patience = 30'000;
 
-/// With a body size that an endless reply reaches soon.
+/// The body size is one that an endless reply reaches soon.
 RequestGuard::Limits limits(int requestTimeout)
 {
     return {requestTimeout, 8LL * 1024 * 1024};
 }
 
-const QString kNoConnection = u"Connection to server failed."_s;
+const QString NoConnection = u"Connection to server failed."_s;
 
 struct Request {
     void (*send)(NetworkManager&);
@@ -31,7 +31,7 @@ struct Request {
     QString timeoutText;
 };
 
-const QHash<Endpoint, Request> kRequests{
+const QHash<Endpoint, Request> Requests{
     {Endpoint::Login,
      {[](NetworkManager& network) { network.login(u"a"_s, u"b"_s); }, u"loginSuccess"_s,
       u"loginFailed"_s, u"Login request timed out."_s}},
@@ -49,13 +49,13 @@ const QHash<Endpoint, Request> kRequests{
       u"profileRequestFailed"_s, u"Profile request timed out."_s}},
 };
 
-// What each fault ends in: an empty text is success, nothing listed is a time-out.
-const QHash<Kind, QString> kOutcomes{
-    {Kind::CloseEarly, kNoConnection},
-    {Kind::CloseInHead, kNoConnection},
+// Message of the failure; empty: success; not listed: a time-out.
+const QHash<Kind, QString> Outcomes{
+    {Kind::CloseEarly, NoConnection},
+    {Kind::CloseInHead, NoConnection},
     {Kind::Empty, u"Empty response from server."_s},
-    {Kind::ErrorStatus, kNoConnection},
-    {Kind::NotHttp, kNoConnection},
+    {Kind::ErrorStatus, NoConnection},
+    {Kind::NotHttp, NoConnection},
     {Kind::Garbage, u"Invalid JSON response: illegal value"_s},
     {Kind::Array, u"Invalid response format."_s},
     {Kind::ErrorObject, u"Closed for maintenance."_s},
@@ -63,16 +63,16 @@ const QHash<Kind, QString> kOutcomes{
     {Kind::WrongSuccess, u"Request failed with unknown reason."_s},
     {Kind::WrongMessage, u"Unknown error occurred."_s},
     {Kind::LargeBody, {}},
-    {Kind::EndlessBody, kNoConnection},
-    {Kind::CompressedBomb, kNoConnection},
+    {Kind::EndlessBody, NoConnection},
+    {Kind::CompressedBomb, NoConnection},
     {Kind::ShortBody, u"Invalid JSON response: unterminated string"_s},
-    {Kind::RedirectAway, kNoConnection},
+    {Kind::RedirectAway, NoConnection},
 };
 
 } // namespace
 
-/// Each request against each way a server can misbehave.
-class AccountFaultsTest : public QObject
+/// Each request with each fault of the server.
+class tst_NetworkManagerFaults : public QObject
 {
     Q_OBJECT
 
@@ -81,15 +81,15 @@ private slots:
     void reportsEachFault_data();
     void reportsEachFault();
     void reportsRefusedConnection();
-    void boundsWhatItReads();
-    void destructionIsSilent();
+    void readsNoMoreThanItsBound();
+    void abortsWithoutASignalWhenDestroyed();
 
 private:
     std::unique_ptr<AccountService> m_service;
     FakeIdentity m_identity;
 };
 
-void AccountFaultsTest::init()
+void tst_NetworkManagerFaults::init()
 {
     m_service = std::make_unique<AccountService>();
     QVERIFY(m_service->listen());
@@ -97,7 +97,7 @@ void AccountFaultsTest::init()
     m_identity.m_token = u"tok"_s;
 }
 
-void AccountFaultsTest::reportsEachFault_data()
+void tst_NetworkManagerFaults::reportsEachFault_data()
 {
     QTest::addColumn<Endpoint>("endpoint");
     QTest::addColumn<Kind>("fault");
@@ -113,24 +113,24 @@ void AccountFaultsTest::reportsEachFault_data()
     }
 }
 
-void AccountFaultsTest::reportsEachFault()
+void tst_NetworkManagerFaults::reportsEachFault()
 {
     QFETCH(const Endpoint, endpoint);
     QFETCH(const Kind, fault);
-    const Request request = kRequests[endpoint];
-    const bool timesOut = !kOutcomes.contains(fault);
-    const QString text = kOutcomes.value(fault);
+    const Request request = Requests[endpoint];
+    const bool timesOut = !Outcomes.contains(fault);
+    const QString text = Outcomes.value(fault);
 
     QStringList expected;
     if (timesOut)
-        expected = {request.failure + u": "_s + kNoConnection,
+        expected = {request.failure + u": "_s + NoConnection,
                     request.failure + u": "_s + request.timeoutText};
     else
         expected = {text.isEmpty() ? request.success : request.failure + u": "_s + text};
 
     m_service->setFault(endpoint, fault);
     NetworkManager network(m_service->baseUrl(), m_identity,
-                           limits(timesOut ? kShortTimeout : kPatience));
+                           limits(timesOut ? ShortTimeout : Patience));
     SignalRecorder recorder(network);
     request.send(network);
     QVERIFY(recorder.waitForEvents(expected.size()));
@@ -138,50 +138,50 @@ void AccountFaultsTest::reportsEachFault()
     QCOMPARE(recorder.events, expected);
 }
 
-void AccountFaultsTest::reportsRefusedConnection()
+void tst_NetworkManagerFaults::reportsRefusedConnection()
 {
     NetworkManager network(m_service->baseUrl(), m_identity);
     const SignalRecorder recorder(network);
     m_service->close();
-    for (const Request& request : kRequests)
+    for (const Request& request : Requests)
         request.send(network);
     QTRY_VERIFY(isIdle(network));
-    QCOMPARE(recorder.events.size(), kRequests.size());
+    QCOMPARE(recorder.events.size(), Requests.size());
     for (const QString& event : recorder.events)
-        QVERIFY(event.endsWith(u"Failed: "_s + kNoConnection));
+        QVERIFY(event.endsWith(u"Failed: "_s + NoConnection));
 }
 
-void AccountFaultsTest::boundsWhatItReads()
+void tst_NetworkManagerFaults::readsNoMoreThanItsBound()
 {
-    // What the client keeps, what its network thread reads ahead, and what the two sockets hold.
+    // The body, the bytes that the network thread reads ahead, and the buffers of two sockets.
     constexpr qint64 limit = 100 * 1024 * 1024;
     m_service->setFault(Kind::EndlessBody);
     QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
-    NetworkManager network(m_service->baseUrl(), m_identity, limits(kPatience));
+    NetworkManager network(m_service->baseUrl(), m_identity, limits(Patience));
     network.login(u"a"_s, u"b"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!closed.isEmpty(), 30'000);
     QTRY_VERIFY(isIdle(network));
     QCOMPARE_LT(m_service->faultBytesSent(), limit);
 }
 
-void AccountFaultsTest::destructionIsSilent()
+void tst_NetworkManagerFaults::abortsWithoutASignalWhenDestroyed()
 {
     for (const Kind fault : {Kind::Stall, Kind::StallInBody, Kind::SlowDrip, Kind::EndlessBody}) {
         m_service->setFault(fault);
         QSignalSpy received(m_service.get(), &AccountService::requestReceived);
         QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
         auto network =
-            std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity, limits(kPatience));
+            std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity, limits(Patience));
         const SignalRecorder recorder(*network);
-        for (const Request& request : kRequests)
+        for (const Request& request : Requests)
             request.send(*network);
-        QTRY_COMPARE(received.size(), kRequests.size());
-        const QStringList before = recorder.events; // an endless body may have been cut off already
+        QTRY_COMPARE(received.size(), Requests.size());
+        const QStringList before = recorder.events; // an endless body may be cut off already
         network.reset();
-        QTRY_COMPARE_WITH_TIMEOUT(closed.size(), kRequests.size(), 30'000);
+        QTRY_COMPARE_WITH_TIMEOUT(closed.size(), Requests.size(), 30'000);
         QCOMPARE(recorder.events, before);
     }
 }
 
-QTEST_GUILESS_MAIN(AccountFaultsTest)
-#include "AccountFaultsTest.moc"
+QTEST_GUILESS_MAIN(tst_NetworkManagerFaults)
+#include "tst_NetworkManagerFaults.moc"
