@@ -83,9 +83,9 @@ QVariantMap PageRig::account(const QString& email)
     const Account* found = m_service.store().accountByEmail(email);
     if (!found)
         return {};
-    return {{u"userId"_s, found->userId},       {u"email"_s, found->email},
-            {u"firstName"_s, found->firstName}, {u"lastName"_s, found->lastName},
-            {u"company"_s, found->company},     {u"title"_s, found->title},
+    return {{u"userId"_s, found->userId},
+            {u"lastName"_s, found->lastName},
+            {u"title"_s, found->title},
             {u"picture"_s, found->picture}};
 }
 

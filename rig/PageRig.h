@@ -59,7 +59,7 @@ public:
 
     /// Adds an account to the service; keys as in its profile, with "password".
     Q_INVOKABLE void addAccount(const QVariantMap& account);
-    /// The service's own record of an account, without its password.
+    /// What the service has stored for an account: its userId, lastName, title and picture.
     Q_INVOKABLE QVariantMap account(const QString& email);
     /// Revokes the account's tokens.
     Q_INVOKABLE void endSessions(const QString& email);

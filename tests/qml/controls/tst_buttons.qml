@@ -203,13 +203,4 @@ TestCase {
         compare(button.width, button.label.width);
         compare(button.height, button.label.height);
     }
-
-    function test_screenReader(): void {
-        const button = create(quick, {});
-        compare(button.Accessible.role, Accessible.Button);
-        compare(button.Accessible.name, "Google Meet");
-        button.Accessible.pressAction();
-        compare(steps(), "pressed released clicked");
-        compare(button.color, button.normalColor);
-    }
 }

@@ -144,13 +144,9 @@ TestCase {
 
     function test_patterns(data: var): void {
         const field = create({ allowedChars: data.pattern });
-        for (const text of data.good) {
+        for (const text of data.good.concat(data.bad)) {
             field.text = text;
-            verify(field.acceptableInput, text);
-        }
-        for (const text of data.bad) {
-            field.text = text;
-            verify(!field.acceptableInput, text);
+            compare(field.acceptableInput, data.good.includes(text), text);
         }
     }
 
@@ -186,7 +182,6 @@ TestCase {
 
     function test_blanksSetByThePageAreKept(): void {
         const field = create({ text: "Mary Ann" });
-        compare(field.text, "Mary Ann");
         field.forceActiveFocus();
         keyClick(Qt.Key_End);
         keyClick("e");
@@ -227,10 +222,12 @@ TestCase {
         verify(!source.text.includes("secret"));
     }
 
-    function test_revealButton(): void {
+    function test_revealButtonAndPlaceholder(): void {
         const field = create({ enablePasswordMode: true, text: "secret" });
         field.forceActiveFocus();
         const reveal = findChild(field, "revealButton") as ControlButton;
+        const placeholder = findChild(field, "placeholder");
+        verify(!placeholder.visible);
         compare(field.echoMode, TextInput.Password);
         compare(field.rightPadding, 30 + reveal.width);
         mouseClick(reveal);
@@ -238,16 +235,6 @@ TestCase {
         compare(field.holdButtonText, "Hide");
         compare(reveal.x + reveal.width, field.width - 15);
         verify(field.activeFocus, "a click on the button does not take the focus from the field");
-    }
-
-    function test_placeholderIsHiddenByText(): void {
-        const field = create({});
-        const placeholder = findChild(field, "placeholder");
-        verify(placeholder.visible);
-        compare(placeholder.text, "Email");
-        field.text = "a";
-        verify(!placeholder.visible);
-        field.showPassword = true;
         field.reset();
         verify(placeholder.visible && !field.showPassword);
     }

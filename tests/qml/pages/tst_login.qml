@@ -156,6 +156,11 @@ PageTest {
         compare(rig.takeRequests().length, 0);
 
         type("confirmPassword", "Cobol1959");
+        type("email", "ada@example.com");
+        submit(formWith("email"));
+        tryVerify(() => page.serverResponse !== "");
+        type("email", "grace@example.org");
+        visibleChild("confirmPassword").forceActiveFocus();
         keyClick(Qt.Key_Return);
         tryCompare(page, "currentPage", page.page_id_verify_account);
         verify(shown("We’ve sent a verification link to grace@example.org\nPlease check the email to verify your account."));
@@ -185,17 +190,6 @@ PageTest {
         keyClick(Qt.Key_Tab);
         compare(shown("Please use a work email address to register."), data.error.startsWith("Please"));
         compare(shown("The format is incorrect"), data.error.startsWith("The format"));
-    }
-
-    function test_serviceRefusesTheAccount(): void {
-        click("Create an account");
-        for (const [field, text] of [["firstName", "Ada"], ["lastName", "Byron"], ["email", "ada@example.com"],
-                                     ["password", "x"], ["confirmPassword", "x"]])
-            type(field, text);
-        submit(formWith("email"));
-        tryVerify(() => page.serverResponse !== "");
-        click("Sign In");
-        compare(page.serverResponse, "");
     }
 
     function test_resetPassword(): void {

@@ -186,19 +186,8 @@ DisplayTest {
         mousePress(test.pointer(), 720, 450);
         mouseMove(test.pointer(), 720, 20);
         mouseRelease(test.pointer(), 720, 20);
-        compare(screen.takeDatagrams(), [test.datagram(0, 1, 2, 1, 2)]);
         test.monitor.hide();
-        compare(screen.takeDatagrams(), []);
-    }
-
-    function test_facesSendNothing(): void {
-        mouseClick(test.monitor.contentItem, 720, 405);
-        test.showFrame(1920, 1080);
-        test.monitor.frameTimeout = 1;
-        screen.countFrame();
-        tryVerify(() => test.visibleFace() === "failedFace");
-        mouseClick(test.monitor.contentItem, 720, 405);
-        compare(screen.takeDatagrams(), []);
+        compare(screen.takeDatagrams(), [test.datagram(0, 1, 2, 1, 2)]);
     }
 
     function test_holdEndsWithoutARelease_data(): var {
@@ -219,12 +208,11 @@ DisplayTest {
         mouseMove(test.pointer(), 288, 81);
         data.end();
         tryVerify(() => !test.monitor || !test.pointer().holding);
-        const release = test.datagram(1, 1, 5, 1, 10);
-        const expected = [test.datagram(0, 1, 10, 1, 10), test.datagram(2, 1, 5, 1, 10), release];
-        compare(screen.takeDatagrams(), expected);
         if (test.monitor)
             mouseRelease(test.pointer(), 432, 405);
-        compare(screen.takeDatagrams(), []);
+        compare(screen.takeDatagrams(), [
+            test.datagram(0, 1, 10, 1, 10), test.datagram(2, 1, 5, 1, 10), test.datagram(1, 1, 5, 1, 10)
+        ]);
     }
 
     function random(from: int, to: int): int {
@@ -260,15 +248,10 @@ DisplayTest {
                     fuzzyCompare(position.y, (y - down.start) / down.length, 1e-9, sizes);
                 }
             }
-            for (const x of across.outside)
-                compare(test.pointer().getScalePos(x, down.inside[1]), null, `${sizes}: ${x}`);
-            for (const y of down.outside)
-                compare(test.pointer().getScalePos(across.inside[1], y), null, `${sizes}: ${y}`);
-
-            const [x, y] = [across.inside[0], down.inside[0]];
-            mouseClick(test.pointer(), x, y);
-            const position = test.pointer().getScalePos(x, y);
-            compare(screen.takeDatagrams(), [0, 1].map(type => test.datagram(type, position.x, 1, position.y, 1)), sizes);
+            for (const i of [0, 1]) {
+                compare(test.pointer().getScalePos(across.outside[i], down.inside[1]), null, sizes);
+                compare(test.pointer().getScalePos(across.inside[1], down.outside[i]), null, sizes);
+            }
         }
     }
 
