@@ -12,6 +12,8 @@ ControlButton {
 
     width: ring.width + (text !== "" ? 16 + label.width : 0)
     height: ring.height
+    Accessible.selectable: true
+    Accessible.selected: current
     accessibleName: text !== "" ? qsTr("Profile of %1").arg(text) : qsTr("Profile")
 
     Rectangle {
@@ -32,7 +34,7 @@ ControlButton {
         }
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         x: ring.width + 16

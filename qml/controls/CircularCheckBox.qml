@@ -68,7 +68,7 @@ Item {
         }
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         x: root.size + root.spacing

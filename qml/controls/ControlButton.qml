@@ -7,6 +7,7 @@ Rectangle {
     property real enterOpacity: 0.6
     property real exitedOpacity: 1
     property real pressedOpacity: 0.4
+    property alias focusColor: ring.ringColor
     property alias longPresse: area.longPresse
     property alias autoRepeat: area.autoRepeat
     property alias triggeredOnStart: area.triggeredOnStart
@@ -25,6 +26,7 @@ Rectangle {
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.focusable: true
+    Accessible.ignored: !enabled
     Accessible.onPressAction: area.press()
     Keys.forwardTo: [area]
 
@@ -69,6 +71,8 @@ Rectangle {
         onTriggered: button.triggered()
 
         FocusRing {
+            id: ring
+
             control: button
             controlRadius: button.radius
         }

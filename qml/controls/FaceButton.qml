@@ -10,7 +10,7 @@ QuickButton {
     height: 36
     radius: Theme.pillRadius
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

@@ -6,4 +6,5 @@ LatoRegularLabel {
     horizontalAlignment: Text.AlignHCenter
     font.pixelSize: Theme.faceText
     color: Theme.textGrey
+    Accessible.role: Accessible.Heading
 }

@@ -7,6 +7,7 @@ Rectangle {
 
     required property Item control
     property real controlRadius: 0
+    property color ringColor: Theme.green
     readonly property int gap: 2
 
     x: -gap - border.width
@@ -17,6 +18,6 @@ Rectangle {
     radius: controlRadius + gap + border.width
     color: "transparent"
     border.width: 2
-    border.color: Theme.green
+    border.color: ringColor
     visible: control.activeFocus
 }

@@ -62,7 +62,7 @@ Item {
         }
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         anchors.centerIn: parent
         text: tab.text
         font.pixelSize: Theme.bodyText

@@ -13,7 +13,7 @@ QuickButton {
     hoverColor: "#2DECF3F8"
     pressedColor: "#4DECF3F8"
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

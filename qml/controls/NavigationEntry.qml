@@ -14,6 +14,7 @@ QuickButton {
     normalColor: current ? Theme.green : "transparent"
     hoverColor: current ? Theme.green : "#404DAF4E"
     pressedColor: current ? Theme.green : "#804DAF4E"
+    Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: current
 
@@ -24,7 +25,7 @@ QuickButton {
         anchors.verticalCenter: parent.verticalCenter
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         x: 40

@@ -17,7 +17,7 @@ QuickButton {
     border.width: 1
     border.color: outlineColor
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

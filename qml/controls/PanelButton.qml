@@ -11,13 +11,15 @@ QuickButton {
     height: 36
     radius: Theme.panelButtonRadius
     normalColor: Theme.switchGreen
+    focusColor: Theme.focusOnWhite
     hoverColor: Qt.darker(normalColor, 1.3)
     pressedColor: Qt.darker(normalColor, 1.6)
 
-    LatoBoldLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent
         font.pixelSize: Theme.bodyText
+        font.weight: Font.Bold
     }
 }

@@ -13,7 +13,7 @@ QuickButton {
     hoverColor: "#20BBC7CE"
     pressedColor: "#40BBC7CE"
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

@@ -8,6 +8,7 @@ Rectangle {
     property color normalColor: Theme.green
     property color hoverColor: "#a04DAF4E"
     property color pressedColor: "#604DAF4E"
+    property alias focusColor: ring.ringColor
     property alias longPresse: area.longPresse
     property alias autoRepeat: area.autoRepeat
     property alias triggeredOnStart: area.triggeredOnStart
@@ -31,6 +32,7 @@ Rectangle {
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.focusable: true
+    Accessible.ignored: !enabled
     Accessible.onPressAction: area.press()
     Keys.forwardTo: [area]
 
@@ -81,6 +83,8 @@ Rectangle {
         }
 
         FocusRing {
+            id: ring
+
             control: button
             controlRadius: button.radius
         }

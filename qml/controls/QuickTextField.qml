@@ -146,6 +146,7 @@ T.TextField {
     }
 
     Accessible.name: accessibleName
+    Accessible.readOnly: readOnly || !enabled
     Accessible.description: {
         // Qt 6.4 does not expose the accessible name of a password field.
         const name = echoMode === TextInput.Password ? accessibleName : "";
@@ -216,13 +217,14 @@ T.TextField {
         height: revealLabel.implicitHeight
         visible: field.enablePasswordMode
         cursorShape: Qt.PointingHandCursor
+        accessibleName: qsTr("%1 %2", "as in Show Password").arg(field.holdButtonText).arg(field.accessibleName)
         onClicked: field.showPassword = !field.showPassword
         // Text keys that the button does not use must not reach the field that contains it.
         Keys.onPressed: (event) => {
             event.accepted = event.text !== "" && ![Qt.Key_Tab, Qt.Key_Backtab, Qt.Key_Escape].includes(event.key);
         }
 
-        LatoRegularLabel {
+        ButtonLabel {
             id: revealLabel
 
             text: field.holdButtonText
@@ -232,7 +234,7 @@ T.TextField {
     }
 
     // Drawn here, because loading a style would delay the first frame.
-    LatoRegularLabel {
+    ButtonLabel {
         objectName: "placeholder"
         x: field.leftPadding
         y: field.topPadding
@@ -243,10 +245,9 @@ T.TextField {
         color: field.placeholderTextColor
         elide: Text.ElideRight
         visible: field.length === 0 && field.preeditText === ""
-        Accessible.ignored: true // it is the field's name
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: errorLabel
 
         x: field.leftPadding

@@ -17,7 +17,7 @@ QuickButton {
     Accessible.selectable: true
     Accessible.selected: current
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

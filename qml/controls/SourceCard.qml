@@ -20,6 +20,7 @@ ControlButton {
     pressedOpacity: 0.6
     accessibleName: title
     Accessible.description: text
+    Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: value === 2
 
@@ -29,15 +30,16 @@ ControlButton {
         source: card.available ? card.greenSource : card.greySource
     }
 
-    LatoBoldLabel {
+    ButtonLabel {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 128
         text: card.title
         font.pixelSize: Theme.headingText
+        font.weight: Font.Bold
         color: card.available ? Theme.white : Theme.mutedText
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 174
         text: card.text

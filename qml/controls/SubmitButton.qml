@@ -17,7 +17,7 @@ QuickButton {
             button.submitted();
     }
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         anchors.centerIn: parent

@@ -13,7 +13,7 @@ ControlButton {
     cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: label
 
         color: Theme.green

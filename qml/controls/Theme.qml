@@ -10,6 +10,8 @@ QtObject {
     readonly property color green: "#4DAF4E"
     // Switches, bars and buttons on white panels.
     readonly property color switchGreen: "#4EB857"
+    // Focus ring on white panels, where the other green has too little contrast.
+    readonly property color focusOnWhite: "#2E7D32"
     readonly property color errorRed: "#DB4747"
 
     readonly property color white: "#FFFFFF"

@@ -26,6 +26,7 @@ Rectangle {
         width: 20
         height: 20
         visible: panel.closable
+        focusColor: Theme.focusOnWhite
         accessibleName: qsTr("Close")
         onClicked: panel.closeClicked()
 

@@ -1,15 +1,20 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-// Slider for a volume from 0 to 100, drawn as a filled bar. `picked` is emitted once, when the press ends.
+// Slider for a volume from 0 to 100, drawn as a filled bar. `picked` is emitted once, when the press ends, or when a
+// screen reader changes the value.
 Slider {
     id: slider
+
+    // The display's volume, which the slider follows.
+    required property int volume
 
     signal picked(volume: int)
 
     width: 640
     height: 52
     padding: 0
+    value: volume
     from: 0
     to: 100
     stepSize: 1
@@ -17,6 +22,11 @@ Slider {
     // Pointer presses do not take the keyboard focus.
     focusPolicy: Qt.TabFocus
     handle: null
+    Accessible.ignored: !enabled
+    onValueChanged: {
+        if (!slider.pressed && Math.round(slider.value) !== slider.volume)
+            slider.picked(slider.value);
+    }
     onPressedChanged: {
         if (!slider.pressed)
             slider.picked(slider.value);

@@ -26,6 +26,9 @@ Item {
     signal submitted
 
     width: 375
+    Accessible.role: Accessible.Pane
+    Accessible.name: title
+    Accessible.focusable: true
 
     LatoBoldLabel {
         id: titleLabel

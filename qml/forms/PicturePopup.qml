@@ -23,6 +23,10 @@ Popup {
         popup.error = "";
         popup.preview = popup.defaultPicture;
     }
+    contentItem: Item {
+        Accessible.role: Accessible.Dialog
+        Accessible.name: heading.text
+    }
     background: Rectangle {
         color: "#383838"
         radius: 8
@@ -34,6 +38,8 @@ Popup {
     }
 
     LatoRegularLabel {
+        id: heading
+
         x: 30
         y: 20
         text: qsTr("Change Profile Picture")

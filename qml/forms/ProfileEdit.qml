@@ -33,11 +33,17 @@ Item {
             field.settle();
     }
 
+    function focusAvatar(): void {
+        avatarButton.forceActiveFocus();
+    }
+
     function focusFirstField(): void {
         firstNameField.forceActiveFocus();
     }
 
     ControlButton {
+        id: avatarButton
+
         objectName: "avatarEdit"
         x: 60
         y: 60
@@ -56,7 +62,7 @@ Item {
             }
         }
 
-        LatoRegularLabel {
+        ButtonLabel {
             x: picture.width + 20
             anchors.verticalCenter: picture.verticalCenter
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")

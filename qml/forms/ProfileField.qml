@@ -11,7 +11,7 @@ QuickTextField {
     height: 36
     accessibleName: caption
 
-    LatoRegularLabel {
+    ButtonLabel {
         id: captionLabel
 
         y: -27

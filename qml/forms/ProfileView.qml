@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import "../controls"
 
@@ -14,6 +12,10 @@ Item {
     required property string title
 
     signal editClicked
+
+    function focusEdit(): void {
+        editLink.forceActiveFocus();
+    }
 
     CircularImage {
         x: 60
@@ -48,36 +50,19 @@ Item {
         y: 168
         spacing: 25
 
-        Repeater {
-            model: [qsTr("Email"), qsTr("Company"), qsTr("Job Title")]
-
-            LatoRegularLabel {
-                required property string modelData
-
-                text: modelData
-                font.pixelSize: Theme.bodyText
-                color: Theme.textGrey
-            }
+        ProfileRow {
+            caption: qsTr("Email")
+            value: view.email
         }
-    }
 
-    Column {
-        x: 246
-        y: 168
-        spacing: 25
+        ProfileRow {
+            caption: qsTr("Company")
+            value: view.company
+        }
 
-        Repeater {
-            model: [view.email, view.company, view.title]
-
-            LatoRegularLabel {
-                required property string modelData
-
-                // A fixed width: an item without a width is left out of the column.
-                width: view.width - 246 - 20
-                text: modelData
-                elide: Text.ElideRight
-                font.pixelSize: Theme.bodyText
-            }
+        ProfileRow {
+            caption: qsTr("Job Title")
+            value: view.title
         }
     }
 }

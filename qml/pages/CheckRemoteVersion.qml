@@ -41,6 +41,7 @@ Item {
         normalColor: "transparent"
         hoverColor: Theme.panelGrey
         pressedColor: "#E3E3E3"
+        focusColor: Theme.focusOnWhite
         accessibleName: qsTr("Close")
         onClicked: dialog.visible = false
 

@@ -48,7 +48,7 @@ Item {
             updateNowButton.forceActiveFocus();
             break;
         case page.page_id_updating:
-            page.forceActiveFocus();
+            updatingPanel.forceActiveFocus();
             break;
         case page.page_id_update_failed:
             retryButton.forceActiveFocus();
@@ -140,7 +140,7 @@ Item {
         enabled: page.currentPage === page.page_id_root
         onClicked: page.checkForUpdate()
 
-        LatoRegularLabel {
+        ButtonLabel {
             anchors.centerIn: parent
             text: page.hasNewVerion ? qsTr("Update") : qsTr("Check for Update")
             font.pixelSize: Theme.bodyText
@@ -196,6 +196,8 @@ Item {
     }
 
     UpdatePanel {
+        id: updatingPanel
+
         anchors.horizontalCenter: parent.horizontalCenter
         y: 280
         visible: page.currentPage === page.page_id_updating

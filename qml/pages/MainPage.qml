@@ -62,6 +62,8 @@ Item {
         spacing: 12
         interactive: false
         currentIndex: 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Pages")
         // The arrow keys would move the highlight without changing the page.
         keyNavigationEnabled: false
         model: [
@@ -97,7 +99,7 @@ Item {
             source: "qrc:/images/settings_16x14.png"
         }
 
-        LatoRegularLabel {
+        ButtonLabel {
             x: 40
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Settings")

@@ -41,6 +41,7 @@ Item {
     }
 
     LatoBoldLabel {
+        Accessible.role: Accessible.Heading
         x: 60
         y: 80
         text: qsTr("Hello!\nWelcome to VORN!")
@@ -75,6 +76,7 @@ Item {
     }
 
     LatoBoldLabel {
+        Accessible.role: Accessible.Heading
         x: 60
         y: 242
         text: qsTr("Device Control")
@@ -122,7 +124,7 @@ Item {
         x: 281
         y: 312
         enabled: page.volumeKnown
-        value: page.device.volume
+        volume: page.device.volume
         layer.enabled: !page.volumeKnown
         layer.effect: Desaturate {
             desaturation: 1
@@ -148,6 +150,7 @@ Item {
     }
 
     LatoBoldLabel {
+        Accessible.role: Accessible.Heading
         x: 60
         y: 460
         text: qsTr("Device Source Mode")

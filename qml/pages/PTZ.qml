@@ -51,6 +51,35 @@ FocusScope {
         }
     }
 
+    // First in the tab order, and above the dismiss area of the manual page.
+    ListView {
+        id: tabBar
+
+        objectName: "tabBar"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 60
+        z: 1
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTr("Camera Control")
+        width: contentWidth
+        height: 36
+        orientation: ListView.Horizontal
+        interactive: false
+        currentIndex: panel.currentPage
+        highlightFollowsCurrentItem: false
+        model: [qsTr("Manual"), qsTr("Auto-Framing")]
+        delegate: FramingTab {
+            required property int index
+            required property string modelData
+
+            objectName: "framingTab" + index
+            text: modelData
+            roundLeft: index === 0
+            current: ListView.isCurrentItem
+            onClicked: panel.currentPage = index
+        }
+    }
+
     PTZManual {
         id: manualPage
 
@@ -102,32 +131,6 @@ FocusScope {
             accessibleName: smartFramingTitle.text
             Accessible.description: smartFramingText.text
             onClicked: panel.camera.setSmartFraming(!panel.camera.smartFraming)
-        }
-    }
-
-    // Declared last, so that the manual page's dismiss area does not cover the tabs.
-    ListView {
-        id: tabBar
-
-        objectName: "tabBar"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 60
-        width: contentWidth
-        height: 36
-        orientation: ListView.Horizontal
-        interactive: false
-        currentIndex: panel.currentPage
-        highlightFollowsCurrentItem: false
-        model: [qsTr("Manual"), qsTr("Auto-Framing")]
-        delegate: FramingTab {
-            required property int index
-            required property string modelData
-
-            objectName: "framingTab" + index
-            text: modelData
-            roundLeft: index === 0
-            current: ListView.isCurrentItem
-            onClicked: panel.currentPage = index
         }
     }
 }

@@ -57,7 +57,8 @@ Item {
         page.serverResponse = "";
         if (!edit.check())
             return;
-        page.saveSent = page.busy = true;
+        // Without credentials the request is not sent and no reply comes.
+        page.saveSent = page.busy = page.device.token !== "" && page.device.userId !== "";
         page.service.profileUpdate(edit.firstName, edit.lastName, edit.company, edit.title, page.chosenFile);
     }
 
@@ -73,7 +74,7 @@ Item {
         if (page.currentPage === page.page_id_personal_edit)
             edit.focusFirstField();
         else if (page.visible)
-            view.forceActiveFocus(); // takes it from the hidden fields
+            view.focusEdit(); // takes it from the hidden fields
     }
     onVisibleChanged: {
         if (!visible)
@@ -118,35 +119,6 @@ Item {
     }
 
     FacePanel {
-        TextLink {
-            objectName: "signOutLink"
-            x: 60
-            y: 428
-            text: qsTr("Sign Out")
-            textColor: Theme.mutedText
-            font.pixelSize: Theme.bodyText
-            font.underline: true
-            onClicked: page.signOut()
-        }
-
-        Row {
-            x: 375
-            y: 432
-
-            LatoRegularLabel {
-                text: qsTr("Digital Namecard Service ")
-                font.pixelSize: Theme.smallText
-                font.italic: true
-                color: Theme.textGrey
-            }
-
-            LatoRegularLabel {
-                text: qsTr("coming soon")
-                font.pixelSize: Theme.smallText
-                font.italic: true
-            }
-        }
-
         ProfileView {
             id: view
 
@@ -178,11 +150,44 @@ Item {
             onSaveClicked: page.save()
         }
 
+        TextLink {
+            objectName: "signOutLink"
+            x: 60
+            y: 428
+            text: qsTr("Sign Out")
+            textColor: Theme.mutedText
+            font.pixelSize: Theme.bodyText
+            font.underline: true
+            onClicked: page.signOut()
+        }
+
+        Row {
+            x: 375
+            y: 432
+
+            LatoRegularLabel {
+                text: qsTr("Digital Namecard Service ")
+                font.pixelSize: Theme.smallText
+                font.italic: true
+                color: Theme.textGrey
+            }
+
+            LatoRegularLabel {
+                text: qsTr("coming soon")
+                font.pixelSize: Theme.smallText
+                font.italic: true
+            }
+        }
+
         PicturePopup {
             id: picturePopup
 
             x: 149
             y: 59
+            onClosed: {
+                if (page.visible && edit.visible)
+                    edit.focusAvatar();
+            }
             onChooseClicked: {
                 error = "";
                 fileDialog.open();

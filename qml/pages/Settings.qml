@@ -28,6 +28,8 @@ Item {
         width: 600
         height: 36
         spacing: 40
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTr("Settings")
         orientation: ListView.Horizontal
         interactive: false
         keyNavigationEnabled: false

@@ -36,6 +36,7 @@ TestCase {
             id: last
 
             enablePasswordMode: true
+            placeholderText: "Password"
         }
     }
 
@@ -75,7 +76,7 @@ TestCase {
         compare(last.text, "secret");
         keyClick(Qt.Key_Space);
         compare(last.echoMode, TextInput.Normal);
-        compare(reveal.Accessible.name, "Hide");
+        compare(reveal.Accessible.name, "Hide Password");
         keyClick(Qt.Key_Return);
         compare(last.echoMode, TextInput.Password);
         keyClick(Qt.Key_Backtab, Qt.ShiftModifier);

@@ -1,0 +1,27 @@
+import QtQuick
+import "../controls"
+
+// A caption and its value in the profile.
+Item {
+    property alias caption: captionLabel.text
+    property alias value: valueLabel.text
+
+    width: 337
+    height: captionLabel.height
+
+    LatoRegularLabel {
+        id: captionLabel
+
+        font.pixelSize: Theme.bodyText
+        color: Theme.textGrey
+    }
+
+    LatoRegularLabel {
+        id: valueLabel
+
+        x: 186
+        width: parent.width - x
+        elide: Text.ElideRight
+        font.pixelSize: Theme.bodyText
+    }
+}
