@@ -69,6 +69,8 @@ DisplayTest {
         compare(test.sent(), []);
         keyRelease(Qt.Key_Right);
         compare(test.sent(), [test.volume(37)]);
+        slider.increase(); // as a screen reader does
+        compare(test.sent(), [test.volume(38)]);
     }
 
     function test_cardsSelectTheSource(): void {

@@ -107,6 +107,7 @@ PageTest {
         keyClick(Qt.Key_Escape);
         tryVerify(() => !page.picturePopup.visible);
         compare(page.picturePopup.preview, test.defaultPicture);
+        verify(visibleChild("avatarEdit").activeFocus);
         compare(page.picturePopup.error, "");
         // The refused file stays the dialog's selection.
         rig.truncatePicture("large.png");
@@ -141,6 +142,7 @@ PageTest {
         click("Save");
         click("Cancel");
         compare(page.serverResponse, "");
+        verify(visibleChild("editLink").activeFocus);
         network.profileUpdateFailed("of the form that was left");
         compare(page.serverResponse, "");
     }
