@@ -1,1 +1,1 @@
-// A library needs a source of its own; the resources are what it is made for.
+// CMake needs a source file for a library that consists of resources only.
