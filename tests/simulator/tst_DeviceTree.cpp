@@ -78,7 +78,6 @@ class tst_DeviceTree : public QObject
 private slots:
     void init();
     void programSeesThePluggedDevices();
-    void foreignEntriesAreKept();
     void remainsOfACrashAreRemoved();
 
 private:
@@ -116,28 +115,6 @@ void tst_DeviceTree::programSeesThePluggedDevices()
                  (QStringList{u"mic"_s, u"speaker"_s}));
     }
     QVERIFY(!QFileInfo::exists(m_root)); // the simulator created it
-}
-
-void tst_DeviceTree::foreignEntriesAreKept()
-{
-    const QString card = m_root + "/class/sound/card1"_L1;
-    QVERIFY(QDir().mkpath(card));
-    QFile id(card + "/id"_L1);
-    QVERIFY(id.open(QIODevice::WriteOnly) && id.write("PCH\n") == 4);
-    id.close();
-    {
-        DeviceTree tree;
-        QCOMPARE(tree.open(m_root), QString());
-        QCOMPARE(tree.plug(Device::Speaker), QString());
-        QCOMPARE(tree.plug(Device::Speaker), QString());
-        QCOMPARE(scan(DeviceClass::Media), (Records{{card, u"PCH"_s}, Speaker}));
-        // Another card has the name of the microphone's card. No part of the microphone remains.
-        QVERIFY(tree.plug(Device::Microphone).startsWith("cannot make"_L1));
-        QVERIFY(!tree.isPlugged(Device::Microphone));
-        QCOMPARE(scan(DeviceClass::AudioEndpoint), Records{Speaker});
-    }
-    QCOMPARE(entriesOf(m_root), QStringList{u"class"_s});
-    QCOMPARE(scan(DeviceClass::Media), (Records{{card, u"PCH"_s}}));
 }
 
 void tst_DeviceTree::remainsOfACrashAreRemoved()

@@ -1,4 +1,3 @@
-#include "portalhub/ChannelClient.h"
 #include "simulator/display/DisplayLink.h"
 #include "tests/simulator/ChannelRig.h"
 
@@ -10,13 +9,10 @@
 #include <filesystem>
 #include <system_error>
 
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
-using channel::ChannelClient;
 using simulator::DisplayLink;
 
-/// The simulator's socket file, and several programs on one socket. tst_ChannelClient tests the
-/// traffic.
+/// The simulator's socket file. tst_ChannelClient tests the traffic.
 class tst_DisplayLink : public QObject
 {
     Q_OBJECT
@@ -24,8 +20,6 @@ class tst_DisplayLink : public QObject
 private slots:
     void runningSimulatorIsNotReplaced();
     void socketOfACrashedSimulatorIsReplaced();
-    void otherFilesAreNotReplaced();
-    void everyProgramReceivesAllMessages();
 };
 
 void tst_DisplayLink::runningSimulatorIsNotReplaced()
@@ -63,39 +57,6 @@ void tst_DisplayLink::socketOfACrashedSimulatorIsReplaced()
     QLocalSocket program;
     program.connectToServer(folder.name());
     QVERIFY(program.waitForConnected());
-}
-
-void tst_DisplayLink::otherFilesAreNotReplaced()
-{
-    const SocketFolder folder;
-    QFile file(folder.name());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("precious");
-    file.close();
-    DisplayLink link(folder.name());
-    QVERIFY(link.listen().contains("no socket"_L1));
-    QCOMPARE(file.size(), 8);
-}
-
-void tst_DisplayLink::everyProgramReceivesAllMessages()
-{
-    const SocketFolder folder;
-    Inbox firstInbox;
-    Inbox secondInbox;
-    ChannelClient first(folder.name(), 5ms);
-    ChannelClient second(folder.name(), 5ms);
-    {
-        DisplayLink link(folder.name());
-        QCOMPARE(link.listen(), QString());
-        first.initChannel(firstInbox.callback());
-        second.initChannel(secondInbox.callback());
-        QTRY_COMPARE_WITH_TIMEOUT(link.clientCount(), 2, Patience);
-        for (int i = 0; i < 1000; ++i)
-            link.send(i, QByteArray(1000, 'x'));
-    } // the destructor writes what is still waiting
-    QTRY_COMPARE_WITH_TIMEOUT(firstInbox.count(), 1000, Patience);
-    QTRY_COMPARE_WITH_TIMEOUT(secondInbox.count(), 1000, Patience);
-    QVERIFY(!QFileInfo::exists(folder.name()));
 }
 
 QTEST_GUILESS_MAIN(tst_DisplayLink)

@@ -9,7 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cmath>
 #include <sstream>
 
 using namespace Qt::StringLiterals;
@@ -24,12 +23,9 @@ class tst_VideoFeature : public QObject
 
 private slots:
     void init();
-    void onlyPointerEventsAreParsed_data();
-    void onlyPointerEventsAreParsed();
     void framesAreAnnounced();
     void setupIsOperatedByPointer();
     void buttonNeedsPressAndReleaseOnIt();
-    void wrongUseIsRefused();
 
 private:
     QString run(const QString& line);
@@ -75,36 +71,6 @@ void tst_VideoFeature::click(double x, double y)
 {
     point(0, x, y);
     point(1, x, y);
-}
-
-void tst_VideoFeature::onlyPointerEventsAreParsed_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("isEvent");
-    const QByteArray right = pointerDatagram(2, 0.25F, 1);
-    QTest::newRow("right") << right << true;
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("cut") << right.chopped(1) << false;
-    QTest::newRow("long") << right + '\0' << false;
-    for (const int at : {0, 4, 5, 7, 8, 10, 11}) {
-        QByteArray wrong = right;
-        wrong[at] = char(wrong.at(at) + 9);
-        QTest::addRow("byte %d", at) << wrong << false;
-    }
-    QTest::newRow("type") << pointerDatagram(3, 0, 0) << false;
-    QTest::newRow("outside") << pointerDatagram(0, 1.1F, 0) << false;
-    QTest::newRow("no number") << pointerDatagram(0, 0, std::nanf("")) << false;
-}
-
-void tst_VideoFeature::onlyPointerEventsAreParsed()
-{
-    QFETCH(QByteArray, bytes);
-    const auto event = parsePointerEvent(bytes);
-    QTEST(event.has_value(), "isEvent");
-    if (!event)
-        return;
-    QCOMPARE(event->type, PointerEvent::Type::Move);
-    QCOMPARE(event->position, QPointF(0.25, 1));
 }
 
 void tst_VideoFeature::framesAreAnnounced()
@@ -168,14 +134,6 @@ void tst_VideoFeature::buttonNeedsPressAndReleaseOnIt()
     QTRY_COMPARE_WITH_TIMEOUT(events(u"malformed-datagram"_s).size(), 1, Patience);
     QCOMPARE(events(u"pointer"_s).size(), 5);
     QCOMPARE(events(u"setup"_s).size(), 1); // still the first step
-}
-
-void tst_VideoFeature::wrongUseIsRefused()
-{
-    for (const QString& line :
-         {u"video stall"_s, u"video resume"_s, u"video die"_s, u"video return"_s, u"video cut"_s,
-          u"video size 3 2"_s, u"video size 3842 2160"_s, u"video hostile kindness"_s})
-        QVERIFY(!run(line).isEmpty());
 }
 
 QTEST_MAIN(tst_VideoFeature)
