@@ -1,7 +1,6 @@
 #pragma once
 
 #include "device/DisplayValues.h"
-#include "logging/Escaped.h"
 #include "logging/Log.h"
 
 #include <QString>
@@ -61,13 +60,11 @@ private:
         line << m_labels.oldValue << loggable(m_value) << m_labels.newValue << loggable(newValue);
     }
 
-    /// Enumerations are logged as their numbers. Text may come from the display or the service.
+    /// Enumerations are logged as their numbers.
     static auto loggable(const Value& value)
     {
         if constexpr (std::is_enum_v<Value>)
             return static_cast<std::underlying_type_t<Value>>(value);
-        else if constexpr (std::is_same_v<Value, QString>)
-            return Log::escaped(value.toStdString());
         else
             return value;
     }

@@ -6,8 +6,8 @@
 namespace Log
 {
 
-/// UTF-8 text of another program, made fit for one line of the log: control characters and line
-/// separators become escapes such as \n and \x1b, so that the text cannot look like further lines.
+/// UTF-8 text in which control characters and line separators are replaced by escapes such as \n
+/// and \x1b, so that the text of another program cannot look like further lines of the log.
 [[nodiscard]] std::string escaped(std::string_view text);
 
 } // namespace Log

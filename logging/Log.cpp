@@ -1,5 +1,7 @@
 #include "logging/Log.h"
 
+#include "logging/Escaped.h"
+
 #include <glog/logging.h>
 
 #include <charconv>
@@ -75,14 +77,19 @@ Message::~Message()
 
 Message& Message::operator<<(std::string_view text)
 {
-    m_text.append(text);
+    m_text += escaped(text);
+    return *this;
+}
+
+Message& Message::operator<<(const char* text)
+{
+    m_text.append(text ? text : "(null)");
     return *this;
 }
 
 Message& Message::operator<<(const QByteArray& text)
 {
-    m_text.append(text.constData(), static_cast<std::size_t>(text.size()));
-    return *this;
+    return *this << std::string_view(text.constData(), static_cast<std::size_t>(text.size()));
 }
 
 Message& Message::operator<<(QStringView text)

@@ -22,6 +22,10 @@ enum class Severity { Info, Warning, Error };
 
 /// One log record under construction. Numbers print in decimal, booleans as 0 or 1, strings as
 /// UTF-8.
+///
+/// Strings may come from the display, from a service or from a file. Their control characters are
+/// escaped (\n, \xNN), so that they can neither begin a new line nor control a terminal.
+/// Literals (const char*) are the program's own text and stay as they are.
 class Message
 {
 public:
@@ -38,16 +42,13 @@ public:
     Message& operator=(const Message&) = delete;
 
     Message& operator<<(std::string_view text);
-    Message& operator<<(const char* text)
-    {
-        return *this << std::string_view(text ? text : "(null)");
-    }
+    Message& operator<<(const char* text);
     Message& operator<<(const std::string& text) { return *this << std::string_view(text); }
     Message& operator<<(const QByteArray& text);
     Message& operator<<(QStringView text);
     Message& operator<<(const QString& text) { return *this << QStringView(text); }
     Message& operator<<(char character) { return *this << std::string_view(&character, 1); }
-    Message& operator<<(bool flag) { return *this << (flag ? '1' : '0'); }
+    Message& operator<<(bool flag) { return *this << (flag ? "1" : "0"); }
     Message& operator<<(const void* pointer);
     Message& operator<<(double number);
 

@@ -43,7 +43,8 @@ void writeForms()
     Log::info("Sample::lines") << "first\nsecond\n\nfourth";
     Log::info("Sample::newline") << "ends itself\n";
     Log::info("Sample::utf16") << QString(QChar(0xD800)) << "|" << QString(QChar(0xDC00));
-    Log::info("Sample::bytes") << QByteArrayView("a\0b", 3).toByteArray();
+    Log::info("Sample::foreign") << u"a\nb\r\t\u001b[31m\u0085\u2028ä"_s << std::string("\x7f")
+                                 << QByteArrayView("a\0b", 3).toByteArray();
     Log::info("Outer::call") << valueOfNestedCall();
     LOG(WARNING) << "of a library";
     Log::info("Sample::longText") << std::string(100'000, 'y');
