@@ -36,6 +36,8 @@ void LogFile::setDestination(const QString& base, const QString& extension)
 {
     const std::scoped_lock lock(m_mutex);
     m_file.close();
+    m_fullFiles.clear();
+    m_fullBytes = 0;
     m_base = base;
     m_extension = extension;
     m_paused = false;
@@ -63,7 +65,7 @@ bool LogFile::writeLocked(std::string_view record, std::time_t when, const Limit
     if (m_base.isEmpty() || isPaused())
         return false;
     if (m_file.isOpen() && m_size >= limits.maxBytes)
-        m_file.close();
+        closeFull(limits);
     if (!m_file.isOpen() && !open(when)) {
         reportError();
         pause();
@@ -77,6 +79,19 @@ bool LogFile::writeLocked(std::string_view record, std::time_t when, const Limit
     }
     m_errorReported = false;
     return true;
+}
+
+void LogFile::closeFull(const Limits& limits)
+{
+    m_file.close();
+    m_fullFiles.enqueue({m_file.fileName(), m_size});
+    m_fullBytes += m_size;
+    // The next file may grow to its own limit.
+    while (!m_fullFiles.isEmpty() && m_fullBytes + limits.maxBytes > limits.maxTotalBytes) {
+        const auto [path, size] = m_fullFiles.dequeue();
+        QFile::remove(path);
+        m_fullBytes -= size;
+    }
 }
 
 bool LogFile::open(std::time_t when)
@@ -98,15 +113,20 @@ bool LogFile::open(std::time_t when)
 bool LogFile::openNew(const QString& stem)
 {
     constexpr int NamesPerSecond = 1000;
-    for (int count = 0; count < NamesPerSecond; ++count) {
+    if (std::exchange(m_stem, stem) != stem)
+        m_count = 0;
+    // Continues after names whose files may be deleted by now.
+    for (; m_count < NamesPerSecond; ++m_count) {
         // '_' sorts after the '.' of the extension, so the first file of a second remains the
         // first.
-        const auto suffix = count == 0 ? QString() : u"_%1"_s.arg(count, 3, 10, '0'_L1);
+        const auto suffix = m_count == 0 ? QString() : u"_%1"_s.arg(m_count, 3, 10, '0'_L1);
         m_file.setFileName(stem + suffix + m_extension);
         // The log contains user input and the account's token.
         if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
-                        QFile::ReadOwner | QFile::WriteOwner))
+                        QFile::ReadOwner | QFile::WriteOwner)) {
+            ++m_count;
             return true;
+        }
         m_error = m_file.errorString();
         if (!m_file.exists())
             return false;

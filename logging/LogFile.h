@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QFile>
+#include <QPair>
+#include <QQueue>
 #include <QString>
 
 #include <chrono>
@@ -19,6 +21,8 @@ public:
     struct Limits {
         qint64 maxBytes;   ///< a file that has reached this size is followed by a new one
         bool stopWhenFull; ///< pause after a failed write instead of trying each record
+        /// Bound for all files of this run together; the oldest ones are deleted.
+        qint64 maxTotalBytes = qint64{64} << 20;
     };
 
     /// @param retryInterval  pause after a file could not be created or written
@@ -39,6 +43,7 @@ public:
 
 private:
     bool writeLocked(std::string_view record, std::time_t when, const Limits& limits);
+    void closeFull(const Limits& limits);
     bool open(std::time_t when);
     bool openNew(const QString& stem);
     bool append(std::string_view text);
@@ -50,9 +55,13 @@ private:
     mutable std::mutex m_mutex; // guards the members below
     QString m_base;
     QString m_extension;
+    QString m_stem;  // name of the newest file without its counter and extension
+    int m_count = 0; // first counter that may be free for this stem
     QFile m_file;
     QString m_error; // of the last failed attempt
     qint64 m_size = 0;
+    QQueue<QPair<QString, qint64>> m_fullFiles; // path and size, oldest first
+    qint64 m_fullBytes = 0;                     // of all these files
     bool m_paused = false;
     bool m_errorReported = false;
     std::chrono::steady_clock::time_point m_retryAt;

@@ -28,6 +28,7 @@ class tst_LogFile : public QObject
 private slots:
     void beginsWithTheHeader();
     void losesNoRecordWhenThreadsStartManyFilesInOneSecond();
+    void deletesTheOldestFilesBeyondTheBound();
     void retriesAnUnwritableFolderAfterAPause();
 };
 
@@ -94,6 +95,19 @@ void tst_LogFile::losesNoRecordWhenThreadsStartManyFilesInOneSecond()
         QCOMPARE(parts[1].toInt(), next.at(parts[0].toUInt())++);
     }
     QCOMPARE(next, std::vector<int>(ThreadCount, RecordCount));
+}
+
+void tst_LogFile::deletesTheOldestFilesBeyondTheBound()
+{
+    const QTemporaryDir folder;
+    LogFile file;
+    file.setDestination(folder.filePath(u"App"_s), u".log"_s);
+    for (char record = 'a'; record <= 'z'; ++record) // each fills a file
+        QVERIFY(file.write(std::string(2000, record) + '\n', When, {2000, true, 9000}));
+    const auto paths = LogText::files(folder.path());
+    QCOMPARE(paths.size(), 4); // the next one would pass the bound
+    QCOMPARE(LogText::body(LogText::read(paths.first())).at(0), 'w');
+    QCOMPARE(LogText::body(LogText::read(paths.last())).at(0), 'z');
 }
 
 void tst_LogFile::retriesAnUnwritableFolderAfterAPause()
