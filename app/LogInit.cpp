@@ -3,6 +3,7 @@
 #include "logging/Log.h"
 #include "logging/LogBackend.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -90,6 +91,14 @@ void ClearBackLog(const QString& nameFilter, int keepCount, const QString& backu
     for (const auto& info : matchingFiles(backupDir, nameFilter))
         paths << info.absoluteFilePath();
     std::sort(paths.begin(), paths.end());
+    // A wrong clock may have stamped files in the future; they must not outlast all later ones.
+    const auto now = QDateTime::currentDateTime();
+    const qsizetype stampAt = nameFilter.indexOf(u'*');
+    std::stable_partition(paths.begin(), paths.end(), [&](const QString& path) {
+        const QString stamp = QFileInfo(path).fileName().mid(stampAt, 15);
+        const auto time = QDateTime::fromString(stamp, u"yyyyMMdd-HHmmss"_s);
+        return time.isValid() && time > now;
+    });
 
     const auto surplus = std::max<qsizetype>(paths.size() - std::max(keepCount, 0), 0);
     for (const auto& path : paths.first(surplus)) {

@@ -24,5 +24,6 @@ void InitLog(const QString& logDir, const QString& backupDir, const QString& fil
 void MoveLogFile(const QString& nameFilter, const QString& logDir, const QString& backupDir);
 
 /// Deletes files in `backupDir` that match the wildcard `nameFilter` until `keepCount` remain,
-/// beginning with the lexicographically smallest name.
+/// beginning with those whose name carries a time in the future, then with the lexicographically
+/// smallest name.
 void ClearBackLog(const QString& nameFilter, int keepCount, const QString& backupDir);
