@@ -1,23 +1,32 @@
 #include "device/ChannelReceiver.h"
 
 #include "device/MessageChannel.h"
-#include "logging/Escaped.h"
 #include "logging/Log.h"
+
+namespace
+{
+
+constexpr auto Function = "DeviceControl::DealChannelMsg";
+
+} // namespace
 
 ChannelReceiver::ChannelReceiver(MessageChannel& channel, DisplayReports& display,
                                  CameraReports& camera)
     : m_channel(channel)
     , m_parser(display, camera)
+    , m_flood(Function)
 {
 }
 
 void ChannelReceiver::handle(int id, const std::string& msg)
 {
-    constexpr auto Function = "DeviceControl::DealChannelMsg";
-    Log::info(Function) << "recv :" << Log::escaped(msg);
+    const bool isLogged = m_flood.admits();
+    if (isLogged)
+        Log::info(Function) << "recv :" << msg;
     auto reply = m_parser.PraseJson(msg);
     if (!reply)
         return;
-    Log::info(Function) << "reply:" << Log::escaped(*reply);
+    if (isLogged)
+        Log::info(Function) << "reply:" << *reply;
     m_channel.push({static_cast<ChannelCommand>(id), std::move(*reply)});
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/DealChannelMsg.h"
+#include "logging/FloodLimit.h"
 
 #include <string>
 
@@ -21,4 +22,5 @@ public:
 private:
     MessageChannel& m_channel;
     const DealChannelMsg m_parser;
+    Log::FloodLimit m_flood; // of lines about messages and their replies
 };

@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+constexpr auto ParseFunction = "DealChannelMsg::PraseJson";
+
 std::string compact(const QJsonObject& object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
@@ -92,6 +94,7 @@ std::optional<Sources> readSources(const QJsonObject& message)
 DealChannelMsg::DealChannelMsg(DisplayReports& display, CameraReports& camera)
     : m_display(display)
     , m_camera(camera)
+    , m_flood(ParseFunction)
 {
 }
 
@@ -99,14 +102,12 @@ std::optional<std::string> DealChannelMsg::PraseJson(const std::string& msg) con
 {
     const auto document = QJsonDocument::fromJson(
         QByteArray::fromRawData(msg.data(), static_cast<qsizetype>(msg.size())));
-    if (document.isNull()) {
-        Log::error("DealChannelMsg::PraseJson")
-            << "Failed to parse JSON: JSON document is null or invalid format.";
-        return std::nullopt;
-    }
     if (!document.isObject()) {
-        Log::error("DealChannelMsg::PraseJson")
-            << "Failed to parse JSON: Root element is not an object.";
+        if (m_flood.admits())
+            Log::error(ParseFunction)
+                << "Failed to parse JSON: "
+                << (document.isNull() ? "JSON document is null or invalid format."
+                                      : "Root element is not an object.");
         return std::nullopt;
     }
 

@@ -3,6 +3,8 @@
 #include "device/ChannelMessage.h"
 #include "device/DisplayValues.h"
 
+#include "logging/FloodLimit.h"
+
 #include <optional>
 #include <string>
 
@@ -42,4 +44,5 @@ private:
 
     DisplayReports& m_display;
     CameraReports& m_camera;
+    mutable Log::FloodLimit m_flood; // of errors
 };

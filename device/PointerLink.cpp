@@ -1,6 +1,7 @@
 #include "device/PointerLink.h"
 
 #include "device/PointerDatagram.h"
+#include "logging/FloodLimit.h"
 #include "logging/Log.h"
 
 #include <QHostAddress>
@@ -62,9 +63,14 @@ void PointerLink::logDatagrams(const std::stop_token& stop)
 {
     constexpr auto Function = "DeviceControl::RecvUdpDatagram";
     Log::info(Function) << "thread start";
+    Log::FloodLimit flood(Function);
     while (!stop.stop_requested()) {
         QNetworkDatagram datagram;
-        if (!m_udpClient.waitForDatagram(datagram, ReceiveWait))
+        if (!m_udpClient.waitForDatagram(datagram, ReceiveWait)) {
+            flood.flush();
+            continue;
+        }
+        if (!flood.admits())
             continue;
         Log::info(Function) << "recv from " << datagram.senderAddress().toString() << ":"
                             << datagram.senderPort() << " [" << UdpClient::hexDump(datagram.data())

@@ -165,6 +165,8 @@ void VideoReceiver::processFrame()
     if (!readHeader(header))
         return;
     if (!header.isValid()) {
+        if (!m_flood.admits())
+            return;
         auto message = Log::error(Function);
         message << "error!!! ";
         appendHeader(message, header);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/FrameFactory.h"
+#include "logging/FloodLimit.h"
 #include "platform/FrameChannel.h"
 
 #include <QVideoFrame>
@@ -66,4 +67,5 @@ private:
     // Video worker only.
     FrameFactory m_frames;
     quint64 m_validFrames = 0;
+    Log::FloodLimit m_flood{"DeviceControl::RecvSharedMemoryProc"}; // of invalid headers
 };

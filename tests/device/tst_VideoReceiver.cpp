@@ -211,7 +211,9 @@ void tst_VideoReceiver::survivesRandomHeaders()
     QStringList lines = rig.run();
 
     lines.removeIf([](const QString& line) { return line.startsWith(u'I'); });
-    QVERIFY(lines == expected);
+    // A flood is summed up after its first lines.
+    QVERIFY(lines.size() >= 200 && lines.size() < expected.size());
+    QVERIFY(lines.first(200) == expected.first(200));
     QVERIFY(valid > Count / 10);
     QCOMPARE(rig.frames, valid);
     QCOMPARE(rig.delivered, valid);
