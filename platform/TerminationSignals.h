@@ -7,9 +7,10 @@ namespace platform
 {
 
 /// Passes the system's requests to end the program (SIGTERM, SIGINT and SIGHUP; on Windows the
-/// console events) to a callback, which runs in the event loop of the main thread. Only one object
-/// may exist. Construct and destroy it on the main thread while the application object exists, and
-/// construct it after other signal handlers are installed.
+/// console events) to a callback, which runs in the event loop of the main thread. A signal that is
+/// ignored, as nohup(1) does, stays ignored. Only one object may exist. Construct and destroy it on
+/// the main thread while the application object exists, and construct it after other signal
+/// handlers are installed.
 class TerminationSignals
 {
 public:

@@ -55,8 +55,11 @@ public:
         action.sa_handler = onSignal;
         action.sa_flags = SA_RESTART;
         sigemptyset(&action.sa_mask);
-        for (std::size_t i = 0; i < Signals.size(); ++i)
-            sigaction(Signals[i], &action, &previous[i]);
+        for (std::size_t i = 0; i < Signals.size(); ++i) {
+            sigaction(Signals[i], nullptr, &previous[i]);
+            if (previous[i].sa_handler != SIG_IGN)
+                sigaction(Signals[i], &action, nullptr);
+        }
     }
 
     ~Private()

@@ -46,6 +46,11 @@ void tst_TerminationSignals::callsBackInTheEventLoop()
         std::raise(signal);
         QCOMPARE(g_noted, signal); // the earlier handler is restored
         g_noted = 0;
+        std::signal(signal, SIG_IGN);
+        const platform::TerminationSignals ignoring([&] { ++requests; });
+        std::raise(signal);
+        QTest::qWait(0);
+        QCOMPARE(requests, 2);
         std::signal(signal, SIG_DFL);
     }
 }
