@@ -86,6 +86,7 @@ Item {
         event.accepted = page.currentPage !== page.page_id_sign_in;
         page.currentPage = page.page_id_sign_in;
     }
+    Component.onCompleted: signInForm.forceActiveFocus()
     onVisibleChanged: {
         page.forgetRequest();
         if (visible)

@@ -45,6 +45,7 @@ PageTest {
     }
 
     function test_loginPage(): void {
+        compare(faces.Window.window.activeFocusItem.Accessible.name, "Sign In");
         for (let form = 0; form <= loginPage.page_id_reset_password_complete; ++form) {
             loginPage.currentPage = form;
             checkItems(loginPage, null);

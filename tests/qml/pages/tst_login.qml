@@ -65,8 +65,7 @@ PageTest {
         type("email", "ada@example.com");
         type("password", "wrong");
         for (let i = 0; i < 3; ++i)
-            keyClick(Qt.Key_Return);
-        submit(formWith("email"));
+            page.signIn(); // without an event in between, as the reply comes fast
         verify(formWith("email").busy);
         tryVerify(() => page.serverResponse !== "");
         compare(rig.takeRequests().length, 1);
