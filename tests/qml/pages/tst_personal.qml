@@ -147,13 +147,6 @@ PageTest {
         compare(page.serverResponse, "");
     }
 
-    function test_emptyValueKeepsItsRow(): void {
-        deviceControl.company = "";
-        const caption = test.visibleText("Job Title");
-        const value = test.visibleText(deviceControl.title);
-        tryVerify(() => value.mapToItem(page, 0, 0).y === caption.mapToItem(page, 0, 0).y);
-    }
-
     function test_hiddenFieldGetsNoKeys(): void {
         openEdit();
         const field = visibleChild("titleField");
