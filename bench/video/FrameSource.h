@@ -13,11 +13,11 @@ qint64 now();
 class FrameSource
 {
 public:
-    /// Starts the process and waits for its objects.
+    /// Starts the process and waits until it has made its objects.
     FrameSource(const QString& mappingName, const QString& eventName);
     ~FrameSource();
 
-    /// Has frames written; returns at once.
+    /// Requests frames and returns at once.
     void write(int count, std::chrono::microseconds interval);
 
 private:

@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// Page faults taken so far, by the calling thread where the system counts them so.
+/// Page faults so far: those of the calling thread on Linux, those of the process on Windows.
 qint64 pageFaults();
 
-/// Bytes of this process that are in memory.
+/// Resident memory of this process in bytes.
 qint64 residentBytes();

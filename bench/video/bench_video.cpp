@@ -32,7 +32,8 @@ namespace
 constexpr std::size_t LumaSize = 3840 * 2160;
 constexpr std::size_t ChromaSize = LumaSize / 2;
 constexpr std::size_t DataOffset = 1 + FrameHeader::HeaderSize;
-constexpr std::size_t FirstFrames = 12; // until the memory has been touched once
+constexpr std::size_t FirstFrames =
+    12; // not counted, since their memory is touched for the first time
 
 using Times = std::vector<double>; // microseconds
 
@@ -53,7 +54,7 @@ private:
     std::size_t m_next = 0;
 };
 
-/// Notes when a wait ends, and is otherwise the channel that it wraps.
+/// Wraps a channel and records when a wait ended.
 class TimedChannel : public FrameChannel
 {
 public:
@@ -95,7 +96,7 @@ struct Names {
     }
 };
 
-/// The program's path from the shared memory to a sink, with a stopwatch.
+/// The program's path from the shared memory to a sink, with measurements.
 class Path
 {
 public:
@@ -117,7 +118,7 @@ public:
     ~Path() { m_worker->end(); }
     Q_DISABLE_COPY_MOVE(Path)
 
-    /// Has frames written and runs the event loop until no more come. A few are passed over when
+    /// Requests frames and runs the event loop until no more arrive. Some frames are skipped when
     /// the machine is busy.
     void receive(FrameSource& source, int count, std::chrono::microseconds interval)
     {
@@ -141,9 +142,9 @@ public:
         faults.clear();
     }
 
-    // To be read and written while nothing is received.
+    // Accessed only while nothing is received.
     bool isCompared = false;              ///< a bare copy follows each frame
-    std::chrono::milliseconds slowness{}; ///< of the sink
+    std::chrono::milliseconds slowness{}; ///< time that the sink takes for each frame
     Times copies;
     Times bareCopies;
     Times latencies; ///< from the announcement to the sink
@@ -186,7 +187,7 @@ private:
     std::unique_ptr<Worker> m_worker;
 };
 
-/// From the announcement to the end of two bare copies, without anything of the program's.
+/// Times from the announcement to the end of two bare copies, without code of the program.
 Times bareLatencies(const Names& names, FrameSource& source, int count)
 {
     const auto channel = names.channel();
@@ -259,7 +260,7 @@ void watchMemory(const Names& names, FrameSource& source)
     const qint64 before = residentBytes();
     std::size_t received = 0;
     while (received < Count) {
-        path.forget(); // or the measurements would be counted as growth
+        path.forget(); // so that the measurements do not count as growth
         path.receive(source, Batch, Interval);
         received += path.copies.size();
     }
