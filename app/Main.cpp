@@ -5,6 +5,7 @@
 #include "app/Program.h"
 #include "app/Revision.h"
 #include "app/SingleInstance.h"
+#include "app/Translations.h"
 #include "logging/Log.h"
 #include "platform/BrokenPipes.h"
 #include "platform/CrashHandler.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
 #include <QtQml>
@@ -35,12 +37,22 @@ void reportCrashLine(const char* text)
     Log::error("GenerateDump") << text;
 }
 
+QString errorTitle()
+{
+    //: Title of a message box.
+    return QCoreApplication::translate("main", "Error");
+}
+
 /// Warns that a running instance does not answer. No application object exists at this point, and a
 /// message box needs one.
 void warnUnreachable(int& argc, char** argv)
 {
     const QApplication app(argc, argv);
-    QMessageBox::warning(nullptr, u"Error"_s, u"Existing VORNApp cannot be connected"_s);
+    Translations translations;
+    translations.install(QLocale::system().uiLanguages());
+    QMessageBox::warning(
+        nullptr, errorTitle(),
+        QCoreApplication::translate("main", "Existing VORNApp cannot be connected"));
 }
 
 void logProgram(const QString& appPath, const QString& fileName)
@@ -85,6 +97,8 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
     const QApplication app(argc, argv);
+    Translations translations;
+    translations.install(QLocale::system().uiLanguages());
     const platform::TerminationSignals signalsToQuit([] { QCoreApplication::exit(); });
     // Hiding to the tray closes the last window without ending the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -110,7 +124,9 @@ int main(int argc, char* argv[])
 
     if (!firstFrame.load(program.windowManager())) {
         Log::error("main") << "QQmlApplicationEngine load error";
-        QMessageBox::critical(nullptr, u"Error"_s, u"QQmlApplicationEngine load error!"_s);
+        QMessageBox::critical(
+            nullptr, errorTitle(),
+            QCoreApplication::translate("main", "QQmlApplicationEngine load error!"));
         engine.reset(); // before the objects in its context
         return LoadFailure;
     }

@@ -63,6 +63,7 @@ void WindowManager::createTrayIcon()
 {
     m_trayIcon = new QSystemTrayIcon(QIcon(u":/images/VORNApp.ico"_s), this);
     m_trayMenu = std::make_unique<QMenu>();
+    //: Entry of the menu of the tray icon: ends the program.
     auto* const quit = new QAction(tr("Quit"), this);
     m_trayMenu->addAction(quit);
     m_trayIcon->setContextMenu(m_trayMenu.get());

@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>الملف الشخصي لـ %1</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>تحديث</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>لاحقًا</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Please check the email to reset your password.</source>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>تصغير</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>إغلاق</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Please check the email to reset your password.</source>
     <message>
         <source>Settings</source>
         <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>الصفحات</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volume</source>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>وضع مصدر الجهاز</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>اعرض شاشة سطح المكتب على
 شاشة Zoom Room</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>h:mm AP</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>ddd، d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>متصل</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ Zoom Room screen</source>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>أنت جاهز للبث</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>ابدأ</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ Zoom Room screen</source>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>بدء الإعداد</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>جارٍ إعداد VORN Bar...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>الاجتماعات</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>يتعذر فتح نافذة العرض.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ Zoom Room screen</source>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>اكتمل الإعداد. يمكنك الآن إغلاق هذه الصفحة.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ Zoom Room screen</source>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>شاشة العرض</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>يدوي</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>تأطير تلقائي</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>الكاميرا</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>الموضع %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>اضغط مطولًا لحفظ الموضع</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>حفظ الموضع</translation>
     </message>
 </context>
@@ -503,10 +548,12 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>اختيار صورة</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>ملف صورة</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>خدمة بطاقة العمل الرقمية: </translation>
     </message>
     <message>
@@ -536,11 +584,16 @@ image to be your profile picture.</source>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>اختيار ملف</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>يتعذر قراءة الصورة.</translation>
     </message>
 </context>
 <context>
@@ -604,6 +657,7 @@ Max size of 2M</source>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>تعديل</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Max size of 2M</source>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>إخفاء</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>إظهار</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>إرسال</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>عام</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>تطبيقات المشغِّل</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>تبديل BYOD</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>يُرجى الانتظار</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>إغلاق</translation>
     </message>
 </context>
@@ -715,10 +789,12 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>تقدُّم التحديث</translation>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
 </context>
@@ -726,7 +802,24 @@ reset your password.</source>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>إنهاء</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>خطأ</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>يتعذر الاتصال بتطبيق VORNApp قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>حدث خطأ في تحميل الواجهة (QQmlApplicationEngine)!</translation>
     </message>
 </context>
 </TS>

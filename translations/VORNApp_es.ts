@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>Perfil de %1</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Actualice primero el firmware.</translation>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>Actualizar</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Actualice primero el firmware.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>Más tarde</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Revise el correo para restablecer su contraseña.</translation>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>Minimizar</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>Cerrar</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Revise el correo para restablecer su contraseña.</translation>
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volumen</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>Modo de fuente del dispositivo</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>Duplique la pantalla de su escritorio en la
 pantalla de Zoom Room</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>ddd, d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>Conexión establecida</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ pantalla de Zoom Room</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>Todo listo para entrar en directo</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>Empezar</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ pantalla de Zoom Room</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>Configurar</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>Configurando la VORN Bar...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Reuniones</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>No se puede abrir la ventana del monitor.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ pantalla de Zoom Room</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>Configuración completada. Ya puede cerrar esta página.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ pantalla de Zoom Room</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>Pantalla del dispositivo</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>Manual</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>Encuadre automático</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>Cámara</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>Posición %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>Mantenga pulsado para guardar la posición</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>Guardar</translation>
     </message>
 </context>
@@ -499,14 +544,16 @@ in a frame (up to 6 individuals)</source>
     <name>Personal</name>
     <message>
         <source>The file must be under 2MB.</source>
-        <translation>El archivo debe ocupar menos de 2 MB.</translation>
+        <translation>El archivo debe ocupar menos de 2&#xa0;MB.</translation>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>Elegir imagen</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>Archivo de imagen</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>Tarjeta de visita digital: </translation>
     </message>
     <message>
@@ -532,15 +580,20 @@ in a frame (up to 6 individuals)</source>
         <source>Please select a jpg, jpeg or png image file with
 size smaller than 2M to upload and crop an
 image to be your profile picture.</source>
-        <translation>Elija un archivo jpg, jpeg o png de menos de 2 MB. Se subirá y recortará para usarlo como foto de perfil.</translation>
+        <translation>Elija un archivo jpg, jpeg o png de menos de 2&#xa0;MB. Se subirá y recortará para usarlo como foto de perfil.</translation>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>Elegir archivo</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>No se puede leer la imagen.</translation>
     </message>
 </context>
 <context>
@@ -553,7 +606,7 @@ image to be your profile picture.</source>
         <source>JPG, JPEG or PNG.
 Max size of 2M</source>
         <translation>JPG, JPEG o PNG.
-Máximo 2 MB</translation>
+Máximo 2&#xa0;MB</translation>
     </message>
     <message>
         <source>Email</source>
@@ -604,6 +657,7 @@ Máximo 2 MB</translation>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>Editar</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Máximo 2 MB</translation>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>Ocultar</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>Enviar</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>General</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Lista de aplicaciones</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Cambio BYOD</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>Espere</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>Cerrar</translation>
     </message>
 </context>
@@ -715,18 +789,37 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>Progreso de la actualización</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Salir</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>No se puede conectar con la instancia de VORNApp que ya está en ejecución</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>¡No se pudo cargar la interfaz (QQmlApplicationEngine)!</translation>
     </message>
 </context>
 </TS>

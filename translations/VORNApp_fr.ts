@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>Profil de %1</translation>
     </message>
     <message>
@@ -77,7 +78,7 @@ Veuillez d’abord mettre à jour le micrologiciel.</translation>
     </message>
     <message>
         <source>Already have an account?</source>
-        <translation>Vous avez déjà un compte ?</translation>
+        <translation>Vous avez déjà un compte&#xa0;?</translation>
     </message>
     <message>
         <source>Sign In</source>
@@ -124,11 +125,11 @@ Veuillez d’abord mettre à jour le micrologiciel.</translation>
     <name>General</name>
     <message>
         <source>Current Version:  %1</source>
-        <translation>Version actuelle : %1</translation>
+        <translation>Version actuelle&#xa0;: %1</translation>
     </message>
     <message>
         <source>New Version:  %1</source>
-        <translation>Nouvelle version : %1</translation>
+        <translation>Nouvelle version&#xa0;: %1</translation>
     </message>
     <message>
         <source>You&apos;re up to date.</source>
@@ -140,6 +141,7 @@ Veuillez d’abord mettre à jour le micrologiciel.</translation>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>Mettre à jour</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Veuillez d’abord mettre à jour le micrologiciel.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>Plus tard</translation>
     </message>
     <message>
@@ -164,7 +167,7 @@ Veuillez d’abord mettre à jour le micrologiciel.</translation>
     </message>
     <message>
         <source>Updating your VORN APP to New Version (%1) failed!</source>
-        <translation>La mise à jour de votre application VORN vers la nouvelle version (%1) a échoué !</translation>
+        <translation>La mise à jour de votre application VORN vers la nouvelle version (%1) a échoué&#xa0;!</translation>
     </message>
     <message>
         <source>Retry Update Now</source>
@@ -221,10 +224,12 @@ Consultez cet e-mail pour réinitialiser votre mot de passe.</translation>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>Réduire</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -242,14 +247,19 @@ Consultez cet e-mail pour réinitialiser votre mot de passe.</translation>
         <source>Settings</source>
         <translation>Paramètres</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>Pages</translation>
+    </message>
 </context>
 <context>
     <name>MeetingControl</name>
     <message>
         <source>Hello!
 Welcome to VORN!</source>
-        <translation>Bonjour !
-Bienvenue chez VORN !</translation>
+        <translation>Bonjour&#xa0;!
+Bienvenue chez VORN&#xa0;!</translation>
     </message>
     <message>
         <source>Device Control</source>
@@ -263,10 +273,12 @@ Volume</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>Mode source de l’appareil</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>Recopier l’écran de votre ordinateur sur
 l’écran Zoom Room</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>ddd d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>Connexion établie</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ l’écran Zoom Room</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>Tout est prêt, à vous l’antenne</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>Démarrer</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ l’écran Zoom Room</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>Configurer</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>Configuration de la VORN Bar en cours...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Réunions</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>Impossible d’ouvrir la fenêtre du moniteur.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ l’écran Zoom Room</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>Configuration terminée. Vous pouvez maintenant fermer cette page.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ l’écran Zoom Room</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>Écran de l’appareil</translation>
     </message>
 </context>
@@ -425,7 +462,7 @@ l’écran Zoom Room</translation>
     </message>
     <message>
         <source>Invalid JSON response: %1</source>
-        <translation>Réponse JSON non valide : %1</translation>
+        <translation>Réponse JSON non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>Invalid response format.</source>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>Manuel</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>Cadrage auto</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>Caméra</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>Position %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>Maintenez enfoncé pour enregistrer la position</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>Enregistrer</translation>
     </message>
 </context>
@@ -499,14 +544,16 @@ in a frame (up to 6 individuals)</source>
     <name>Personal</name>
     <message>
         <source>The file must be under 2MB.</source>
-        <translation>Le fichier doit faire moins de 2 Mo.</translation>
+        <translation>Le fichier doit faire moins de 2&#xa0;Mo.</translation>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>Choisir une image</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>Fichier image</translation>
     </message>
     <message>
@@ -515,7 +562,8 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
-        <translation>Carte de visite numérique : </translation>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
+        <translation>Carte de visite numérique&#xa0;: </translation>
     </message>
     <message>
         <source>coming soon</source>
@@ -532,15 +580,20 @@ in a frame (up to 6 individuals)</source>
         <source>Please select a jpg, jpeg or png image file with
 size smaller than 2M to upload and crop an
 image to be your profile picture.</source>
-        <translation>Choisissez un fichier jpg, jpeg ou png de moins de 2 Mo. Il sera envoyé et recadré pour devenir votre photo de profil.</translation>
+        <translation>Choisissez un fichier jpg, jpeg ou png de moins de 2&#xa0;Mo. Il sera envoyé et recadré pour devenir votre photo de profil.</translation>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>Choisir un fichier</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>Impossible de lire l’image.</translation>
     </message>
 </context>
 <context>
@@ -553,7 +606,7 @@ image to be your profile picture.</source>
         <source>JPG, JPEG or PNG.
 Max size of 2M</source>
         <translation>JPG, JPEG ou PNG.
-2 Mo au maximum</translation>
+2&#xa0;Mo au maximum</translation>
     </message>
     <message>
         <source>Email</source>
@@ -604,6 +657,7 @@ Max size of 2M</source>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>Modifier</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Max size of 2M</source>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>Masquer</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>Envoyer</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Général</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Applis du lanceur</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Bascule BYOD</translation>
     </message>
 </context>
@@ -681,7 +746,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Don’t have an account?</source>
-        <translation>Vous n’avez pas de compte ?</translation>
+        <translation>Vous n’avez pas de compte&#xa0;?</translation>
     </message>
     <message>
         <source>Create an account</source>
@@ -701,13 +766,22 @@ reset your password.</source>
     </message>
     <message>
         <source>Forgot Password?</source>
-        <translation>Mot de passe oublié ?</translation>
+        <translation>Mot de passe oublié&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>Veuillez patienter</translation>
     </message>
 </context>
 <context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>Fermer</translation>
     </message>
 </context>
@@ -715,18 +789,37 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>Progression de la mise à jour</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>Impossible de joindre l’instance de VORNApp déjà en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>Échec du chargement de l’interface (QQmlApplicationEngine)&#xa0;!</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>%1의 프로필</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>업데이트</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>나중에</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Please check the email to reset your password.</source>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>최소화</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Please check the email to reset your password.</source>
     <message>
         <source>Settings</source>
         <translation>설정</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>페이지</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volume</source>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>장치 소스 모드</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>데스크톱 화면을
 Zoom Room 화면에 미러링합니다</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>AP h:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>yyyy년 M월 d일 (ddd)</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>연결됨</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ Zoom Room 화면에 미러링합니다</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>방송 준비가 끝났습니다</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>시작</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ Zoom Room 화면에 미러링합니다</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>설정 시작</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>VORN Bar를 설정하는 중...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>회의</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>모니터 창을 열 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ Zoom Room 화면에 미러링합니다</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>설정이 완료되었습니다. 이제 이 페이지를 닫아도 됩니다.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ Zoom Room 화면에 미러링합니다</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>디스플레이 화면</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>수동</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>자동 프레이밍</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>카메라 제어</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>위치 %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>길게 누르면 위치가 저장됩니다</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>위치 저장</translation>
     </message>
 </context>
@@ -503,10 +548,12 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>사진 선택</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>사진 파일</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>디지털 명함 서비스 </translation>
     </message>
     <message>
@@ -536,11 +584,16 @@ image to be your profile picture.</source>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>파일 선택</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>닫기</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>사진을 읽을 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -604,6 +657,7 @@ Max size of 2M</source>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>편집</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Max size of 2M</source>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>숨기기</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>표시</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%2: %1</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>보내기</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>일반</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>런처 앱 목록</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>BYOD 전환</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>잠시 기다려 주세요</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>닫기</translation>
     </message>
 </context>
@@ -715,10 +789,12 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>업데이트 진행률</translation>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
 </context>
@@ -726,7 +802,24 @@ reset your password.</source>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>종료</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>실행 중인 VORNApp에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>화면(QQmlApplicationEngine)을 불러오지 못했습니다!</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>Profiel van %1</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Werk eerst de firmware bij.</translation>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>Bijwerken</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Werk eerst de firmware bij.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>Later</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Open de e-mail om uw wachtwoord te herstellen.</translation>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>Minimaliseren</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>Sluiten</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Open de e-mail om uw wachtwoord te herstellen.</translation>
     <message>
         <source>Settings</source>
         <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>Pagina’s</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volume</translation>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>Bronmodus van het apparaat</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>Spiegel het scherm van uw desktop naar
 het scherm van de Zoom Room</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>ddd d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>Verbonden</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ het scherm van de Zoom Room</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>U bent klaar voor de uitzending</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>Start</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ het scherm van de Zoom Room</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>Instellen</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>VORN Bar wordt ingesteld...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Vergaderingen</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>Het monitorvenster kan niet worden geopend.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ het scherm van de Zoom Room</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>Instellen voltooid. U kunt deze pagina nu sluiten.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ het scherm van de Zoom Room</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>Het scherm van het display</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>Handmatig</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>Automatisch kader</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>Camera</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>Positie %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>Ingedrukt houden om de positie op te slaan</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>Opslaan</translation>
     </message>
 </context>
@@ -499,14 +544,16 @@ in a frame (up to 6 individuals)</source>
     <name>Personal</name>
     <message>
         <source>The file must be under 2MB.</source>
-        <translation>Het bestand moet kleiner zijn dan 2 MB.</translation>
+        <translation>Het bestand moet kleiner zijn dan 2&#xa0;MB.</translation>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>Afbeelding kiezen</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>Afbeeldingsbestand</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>Digitaal visitekaartje: </translation>
     </message>
     <message>
@@ -532,15 +580,20 @@ in a frame (up to 6 individuals)</source>
         <source>Please select a jpg, jpeg or png image file with
 size smaller than 2M to upload and crop an
 image to be your profile picture.</source>
-        <translation>Kies een jpg-, jpeg- of png-bestand kleiner dan 2 MB. Het wordt geüpload en bijgesneden tot uw profielfoto.</translation>
+        <translation>Kies een jpg-, jpeg- of png-bestand kleiner dan 2&#xa0;MB. Het wordt geüpload en bijgesneden tot uw profielfoto.</translation>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>Bestand kiezen</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>De afbeelding kan niet worden gelezen.</translation>
     </message>
 </context>
 <context>
@@ -553,7 +606,7 @@ image to be your profile picture.</source>
         <source>JPG, JPEG or PNG.
 Max size of 2M</source>
         <translation>JPG, JPEG of PNG.
-Maximaal 2 MB</translation>
+Maximaal 2&#xa0;MB</translation>
     </message>
     <message>
         <source>Email</source>
@@ -604,6 +657,7 @@ Maximaal 2 MB</translation>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>Bewerken</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Maximaal 2 MB</translation>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>Verbergen</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>Tonen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%2: %1</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>Versturen</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Algemeen</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Apps in de starter</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>BYOD-wissel</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>Even geduld</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>Sluiten</translation>
     </message>
 </context>
@@ -715,10 +789,12 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>Voortgang van de update</translation>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
 </context>
@@ -726,7 +802,24 @@ reset your password.</source>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>Fout</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>Kan geen verbinding maken met de VORNApp die al actief is</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>Fout bij het laden van de interface (QQmlApplicationEngine)!</translation>
     </message>
 </context>
 </TS>

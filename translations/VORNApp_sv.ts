@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>Profil för %1</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Uppdatera firmware först.</translation>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>Uppdatera</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Uppdatera firmware först.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>Senare</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Please check the email to reset your password.</source>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>Minimera</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>Stäng</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Please check the email to reset your password.</source>
     <message>
         <source>Settings</source>
         <translation>Inställningar</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>Sidor</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volym</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>Enhetens källäge</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>Spegla skärmen från din dator till
 Zoom Room-skärmen</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>ddd d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>Ansluten</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ Zoom Room-skärmen</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>Du är redo att sända</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>Kör</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ Zoom Room-skärmen</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>Konfigurera</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>VORN Bar konfigureras...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Möten</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>Monitorfönstret kan inte öppnas.</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ Zoom Room-skärmen</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>Konfigurationen är klar. Du kan nu stänga den här sidan.</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ Zoom Room-skärmen</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>Displayens skärm</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>Manuell</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>Autoinramning</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>Kamerastyrning</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>Läge %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>Håll intryckt för att spara läget</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>Spara läget</translation>
     </message>
 </context>
@@ -499,14 +544,16 @@ in a frame (up to 6 individuals)</source>
     <name>Personal</name>
     <message>
         <source>The file must be under 2MB.</source>
-        <translation>Filen måste vara mindre än 2 MB.</translation>
+        <translation>Filen måste vara mindre än 2&#xa0;MB.</translation>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>Välj bild</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>Bildfil</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>Digitalt visitkort: </translation>
     </message>
     <message>
@@ -532,15 +580,20 @@ in a frame (up to 6 individuals)</source>
         <source>Please select a jpg, jpeg or png image file with
 size smaller than 2M to upload and crop an
 image to be your profile picture.</source>
-        <translation>Välj en jpg-, jpeg- eller png-fil som är mindre än 2 MB. Den laddas upp och beskärs till din profilbild.</translation>
+        <translation>Välj en jpg-, jpeg- eller png-fil som är mindre än 2&#xa0;MB. Den laddas upp och beskärs till din profilbild.</translation>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>Välj fil</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>Bilden kan inte läsas.</translation>
     </message>
 </context>
 <context>
@@ -553,7 +606,7 @@ image to be your profile picture.</source>
         <source>JPG, JPEG or PNG.
 Max size of 2M</source>
         <translation>JPG, JPEG eller PNG.
-Högst 2 MB</translation>
+Högst 2&#xa0;MB</translation>
     </message>
     <message>
         <source>Email</source>
@@ -604,6 +657,7 @@ Högst 2 MB</translation>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>Redigera</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Högst 2 MB</translation>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>Dölj</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>Visa</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>Skicka</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Allmänt</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>Appar i startlistan</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>BYOD-växling</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>Vänta</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>Stäng</translation>
     </message>
 </context>
@@ -715,18 +789,37 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>Uppdateringens förlopp</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <extracomment>A percentage.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Avsluta</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>Fel</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>Det går inte att ansluta till VORNApp som redan körs</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>Gränssnittet (QQmlApplicationEngine) kunde inte läsas in!</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
     <name>AvatarButton</name>
     <message>
         <source>Profile of %1</source>
+        <extracomment>Name of the button with the picture, for screen readers. %1 is the first name.</extracomment>
         <translation>%1 的個人檔案</translation>
     </message>
     <message>
@@ -140,6 +141,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Update</source>
+        <extracomment>Button: offers the update, or looks for one.</extracomment>
         <translation>更新</translation>
     </message>
     <message>
@@ -152,6 +154,7 @@ Please update the firmware first.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>Button that closes the offer of an update.</extracomment>
         <translation>稍後</translation>
     </message>
     <message>
@@ -221,10 +224,12 @@ Please check the email to reset your password.</source>
     <name>Main</name>
     <message>
         <source>Minimise</source>
+        <extracomment>Button of the window, for screen readers.</extracomment>
         <translation>最小化</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button of the window, for screen readers: hides it to the tray.</extracomment>
         <translation>關閉</translation>
     </message>
 </context>
@@ -241,6 +246,11 @@ Please check the email to reset your password.</source>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Name of the navigation, for screen readers.</extracomment>
+        <translation>頁面</translation>
     </message>
 </context>
 <context>
@@ -263,10 +273,12 @@ Volume</source>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
     <message>
         <source>Device Source Mode</source>
+        <extracomment>Heading above the two things that the display can show.</extracomment>
         <translation>裝置來源模式</translation>
     </message>
     <message>
@@ -289,11 +301,22 @@ Zoom Room screen</source>
         <translation>將桌面畫面鏡像到
 Zoom Room 螢幕</translation>
     </message>
+    <message>
+        <source>hh:mm AP</source>
+        <extracomment>Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.</extracomment>
+        <translation>HH:mm</translation>
+    </message>
+    <message>
+        <source>ddd, MMM dd, yyyy</source>
+        <extracomment>Form of the date in the way of Qt: ddd name of the day, MMM name of the month.</extracomment>
+        <translation>yyyy年M月d日 ddd</translation>
+    </message>
 </context>
 <context>
     <name>Meetings</name>
     <message>
         <source>Connected</source>
+        <extracomment>State of the microphone, speaker or camera, for screen readers.</extracomment>
         <translation>已連線</translation>
     </message>
     <message>
@@ -318,10 +341,12 @@ Zoom Room 螢幕</translation>
     </message>
     <message>
         <source>You are ready on Air</source>
+        <extracomment>All devices of the display are connected.</extracomment>
         <translation>一切就緒，可以開始</translation>
     </message>
     <message>
         <source>Go</source>
+        <extracomment>Button that begins the use of the display&apos;s devices.</extracomment>
         <translation>開始</translation>
     </message>
     <message>
@@ -348,17 +373,27 @@ Zoom Room 螢幕</translation>
     </message>
     <message>
         <source>Start Setup</source>
+        <extracomment>Button that begins the first set-up of the display.</extracomment>
         <translation>開始設定</translation>
     </message>
     <message>
         <source>VORN Bar is being set up...</source>
         <translation>正在設定 VORN Bar...</translation>
     </message>
+    <message>
+        <source>Meetings</source>
+        <translation>會議</translation>
+    </message>
+    <message>
+        <source>The monitor window cannot be opened.</source>
+        <translation>無法開啟監看視窗。</translation>
+    </message>
 </context>
 <context>
     <name>Monitor</name>
     <message>
         <source>VORN Bar</source>
+        <extracomment>Title of the window: the name of a product.</extracomment>
         <translation>VORN Bar</translation>
     </message>
     <message>
@@ -371,6 +406,7 @@ Zoom Room 螢幕</translation>
     </message>
     <message>
         <source>Setup complete. You may now close this page.</source>
+        <extracomment>The page is this window, which closes by itself too.</extracomment>
         <translation>設定完成。您現在可以關閉此頁面。</translation>
     </message>
 </context>
@@ -378,6 +414,7 @@ Zoom Room 螢幕</translation>
     <name>MonitorPointer</name>
     <message>
         <source>The display&apos;s screen</source>
+        <extracomment>Name of the picture of that screen, for screen readers.</extracomment>
         <translation>顯示器畫面</translation>
     </message>
 </context>
@@ -449,11 +486,16 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Manual</source>
+        <extracomment>Titles of two tabs: the camera is moved by hand, or follows the people by itself.</extracomment>
         <translation>手動</translation>
     </message>
     <message>
         <source>Auto-Framing</source>
         <translation>自動取景</translation>
+    </message>
+    <message>
+        <source>Camera Control</source>
+        <translation>攝影機控制</translation>
     </message>
 </context>
 <context>
@@ -484,14 +526,17 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Preset %1</source>
+        <extracomment>Button that moves the camera to a saved position. %1 is a number from 1 to 3.</extracomment>
         <translation>預設位置 %1</translation>
     </message>
     <message>
         <source>Hold to save the position</source>
+        <extracomment>Description of a preset button, for screen readers.</extracomment>
         <translation>長按可儲存位置</translation>
     </message>
     <message>
         <source>Save Position</source>
+        <extracomment>Button above a preset: keeps the present position of the camera in it.</extracomment>
         <translation>儲存位置</translation>
     </message>
 </context>
@@ -499,14 +544,16 @@ in a frame (up to 6 individuals)</source>
     <name>Personal</name>
     <message>
         <source>The file must be under 2MB.</source>
-        <translation>檔案必須小於 2 MB。</translation>
+        <translation>檔案必須小於 2&#xa0;MB。</translation>
     </message>
     <message>
         <source>select picture</source>
+        <extracomment>Title of the file dialog.</extracomment>
         <translation>選擇圖片</translation>
     </message>
     <message>
         <source>picture file</source>
+        <extracomment>Name of the kind of files in the file dialog.</extracomment>
         <translation>圖片檔案</translation>
     </message>
     <message>
@@ -515,6 +562,7 @@ in a frame (up to 6 individuals)</source>
     </message>
     <message>
         <source>Digital Namecard Service </source>
+        <extracomment>Followed by &quot;coming soon&quot;.</extracomment>
         <translation>電子名片服務 </translation>
     </message>
     <message>
@@ -532,15 +580,20 @@ in a frame (up to 6 individuals)</source>
         <source>Please select a jpg, jpeg or png image file with
 size smaller than 2M to upload and crop an
 image to be your profile picture.</source>
-        <translation>請選擇小於 2 MB 的 jpg、jpeg 或 png 圖片檔案，上傳並裁剪後作為您的個人檔案圖片。</translation>
+        <translation>請選擇小於 2&#xa0;MB 的 jpg、jpeg 或 png 圖片檔案，上傳並裁剪後作為您的個人檔案圖片。</translation>
     </message>
     <message>
         <source>Choose File</source>
+        <extracomment>Button that opens the file dialog.</extracomment>
         <translation>選擇檔案</translation>
     </message>
     <message>
         <source>Close</source>
         <translation>關閉</translation>
+    </message>
+    <message>
+        <source>The picture cannot be read.</source>
+        <translation>無法讀取圖片。</translation>
     </message>
 </context>
 <context>
@@ -553,7 +606,7 @@ image to be your profile picture.</source>
         <source>JPG, JPEG or PNG.
 Max size of 2M</source>
         <translation>JPG、JPEG 或 PNG
-最大 2 MB</translation>
+最大 2&#xa0;MB</translation>
     </message>
     <message>
         <source>Email</source>
@@ -604,6 +657,7 @@ Max size of 2M</source>
     <name>ProfileView</name>
     <message>
         <source>Edit</source>
+        <extracomment>Link that lets the user change the profile.</extracomment>
         <translation>編輯</translation>
     </message>
     <message>
@@ -623,11 +677,18 @@ Max size of 2M</source>
     <name>QuickTextField</name>
     <message>
         <source>Hide</source>
+        <extracomment>Button in a password field: hides or shows the password.</extracomment>
         <translation>隱藏</translation>
     </message>
     <message>
         <source>Show</source>
         <translation>顯示</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>as in Show Password</comment>
+        <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -643,6 +704,7 @@ reset your password.</source>
     </message>
     <message>
         <source>Send</source>
+        <extracomment>Button that asks for the link.</extracomment>
         <translation>傳送</translation>
     </message>
     <message>
@@ -662,14 +724,17 @@ reset your password.</source>
     </message>
     <message>
         <source>General</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>一般</translation>
     </message>
     <message>
         <source>Launcher App List</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>啟動器應用程式清單</translation>
     </message>
     <message>
         <source>BYOD Switch</source>
+        <extracomment>Title of a tab.</extracomment>
         <translation>BYOD 切換</translation>
     </message>
 </context>
@@ -705,9 +770,18 @@ reset your password.</source>
     </message>
 </context>
 <context>
+    <name>SubmitButton</name>
+    <message>
+        <source>Please wait</source>
+        <extracomment>State of a button while a request runs, for screen readers.</extracomment>
+        <translation>請稍候</translation>
+    </message>
+</context>
+<context>
     <name>UpdatePanel</name>
     <message>
         <source>Close</source>
+        <extracomment>Button that closes the panel, for screen readers.</extracomment>
         <translation>關閉</translation>
     </message>
 </context>
@@ -715,10 +789,12 @@ reset your password.</source>
     <name>UpdateProgress</name>
     <message>
         <source>Update progress</source>
+        <extracomment>Name of the progress bar, for screen readers.</extracomment>
         <translation>更新進度</translation>
     </message>
     <message>
         <source>%1%</source>
+        <extracomment>A percentage.</extracomment>
         <translation>%1%</translation>
     </message>
 </context>
@@ -726,7 +802,24 @@ reset your password.</source>
     <name>WindowManager</name>
     <message>
         <source>Quit</source>
+        <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>結束</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Error</source>
+        <extracomment>Title of a message box.</extracomment>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Existing VORNApp cannot be connected</source>
+        <translation>無法連線至執行中的 VORNApp</translation>
+    </message>
+    <message>
+        <source>QQmlApplicationEngine load error!</source>
+        <translation>介面 (QQmlApplicationEngine) 載入錯誤！</translation>
     </message>
 </context>
 </TS>
