@@ -136,12 +136,14 @@ Window {
             spacing: 8
 
             TitleButton {
+                //: Button of the window, for screen readers.
                 accessibleName: qsTr("Minimise")
                 source: "qrc:/images/minimize_30x120.png"
                 onClicked: mainWindow.showMinimized()
             }
 
             TitleButton {
+                //: Button of the window, for screen readers: hides it to the tray.
                 accessibleName: qsTr("Close")
                 source: "qrc:/images/close_30x120.png"
                 onClicked: mainWindow.windows.hideToTray()

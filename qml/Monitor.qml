@@ -46,6 +46,7 @@ Window {
     minimumHeight: 810
     width: minimumWidth
     height: minimumHeight
+    //: Title of the window: the name of a product.
     title: qsTr("VORN Bar")
     color: Theme.windowColor
     visible: true
@@ -115,9 +116,11 @@ Window {
         }
     }
 
-    LatoBoldLabel {
+    FittedLabel {
         objectName: "waitingFace"
         anchors.centerIn: parent
+        maximumWidth: parent.width - 80
+        font.weight: Font.Bold
         visible: monitor.currentPage === monitor.page_id_waiting
         text: qsTr("Connecting, please wait.")
         font.pixelSize: Theme.monitorText
@@ -137,6 +140,7 @@ Window {
         anchors.fill: parent
         visible: monitor.currentPage === monitor.page_id_complete
         source: "qrc:/images/oobe_complete_95x66.png"
+        //: The page is this window, which closes by itself too.
         text: qsTr("Setup complete. You may now close this page.")
     }
 }

@@ -14,6 +14,7 @@ ControlButton {
     height: ring.height
     Accessible.selectable: true
     Accessible.selected: current
+    //: Name of the button with the picture, for screen readers. %1 is the first name.
     accessibleName: text !== "" ? qsTr("Profile of %1").arg(text) : qsTr("Profile")
 
     Rectangle {

@@ -1,6 +1,6 @@
 import QtQuick
 
 // The text of a control, which screen readers already read as the control's name.
-LatoRegularLabel {
+FittedLabel {
     Accessible.ignored: true
 }

@@ -10,10 +10,7 @@ QuickButton {
     height: 36
     radius: Theme.pillRadius
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
-
-        anchors.centerIn: parent
-        font.pixelSize: Theme.bodyText
     }
 }

@@ -62,10 +62,8 @@ Item {
         }
     }
 
-    ButtonLabel {
-        anchors.centerIn: parent
+    CenteredLabel {
         text: tab.text
-        font.pixelSize: Theme.bodyText
     }
 
     PressArea {

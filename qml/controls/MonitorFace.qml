@@ -13,10 +13,13 @@ Item {
         anchors.bottomMargin: 60
     }
 
-    LatoBoldLabel {
+    FittedLabel {
         id: label
 
         anchors.centerIn: parent
+        maximumWidth: parent.width - 80
+        horizontalAlignment: Text.AlignHCenter
+        font.weight: Font.Bold
         font.pixelSize: Theme.monitorText
         Accessible.role: Accessible.AlertMessage
     }

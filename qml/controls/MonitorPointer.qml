@@ -56,6 +56,7 @@ MouseArea {
 
     acceptedButtons: Qt.LeftButton
     Accessible.role: Accessible.Graphic
+    //: Name of the picture of that screen, for screen readers.
     Accessible.name: qsTr("The display's screen")
     onPressed: mouse => {
         pointer.holding = true;

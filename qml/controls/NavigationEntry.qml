@@ -30,6 +30,8 @@ QuickButton {
 
         x: 40
         anchors.verticalCenter: parent.verticalCenter
+        maximumWidth: parent.width - x - 10
+        maximumHeight: parent.height - 2
         font.pixelSize: Theme.bodyText
         font.weight: Font.Medium
     }

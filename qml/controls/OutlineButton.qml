@@ -17,11 +17,9 @@ QuickButton {
     border.width: 1
     border.color: outlineColor
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
 
-        anchors.centerIn: parent
-        font.pixelSize: Theme.bodyText
         color: button.outlineColor
     }
 }

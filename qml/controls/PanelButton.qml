@@ -15,11 +15,9 @@ QuickButton {
     hoverColor: Qt.darker(normalColor, 1.3)
     pressedColor: Qt.darker(normalColor, 1.6)
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
 
-        anchors.centerIn: parent
-        font.pixelSize: Theme.bodyText
         font.weight: Font.Bold
     }
 }

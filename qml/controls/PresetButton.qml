@@ -13,10 +13,9 @@ QuickButton {
     hoverColor: "#20BBC7CE"
     pressedColor: "#40BBC7CE"
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
 
-        anchors.centerIn: parent
         font.pixelSize: Theme.noteText
     }
 }

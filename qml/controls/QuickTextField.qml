@@ -23,6 +23,7 @@ T.TextField {
     property color errorBorderColor: Theme.errorRed
     property real borderWidth: 1
     property real borderRadius: Theme.pillRadius
+    //: Button in a password field: hides or shows the password.
     property string holdButtonText: showPassword ? qsTr("Hide") : qsTr("Show")
     property bool enablePasswordMode: false
     property bool showPassword: false
@@ -217,6 +218,7 @@ T.TextField {
         height: revealLabel.implicitHeight
         visible: field.enablePasswordMode
         cursorShape: Qt.PointingHandCursor
+        //: Name of that button, for screen readers: its text and the name of the field.
         accessibleName: qsTr("%1 %2", "as in Show Password").arg(field.holdButtonText).arg(field.accessibleName)
         onClicked: field.showPassword = !field.showPassword
         // Text keys that the button does not use must not reach the field that contains it.
@@ -243,7 +245,6 @@ T.TextField {
         text: field.placeholderText
         font: field.font
         color: field.placeholderTextColor
-        elide: Text.ElideRight
         visible: field.length === 0 && field.preeditText === ""
     }
 
@@ -252,6 +253,8 @@ T.TextField {
 
         x: field.leftPadding
         y: field.height + 2
+        maximumWidth: field.width - x
+        maximumHeight: 23
         text: field.errorMessage
         font.pixelSize: Theme.smallText
         color: field.errorBorderColor

@@ -6,8 +6,9 @@ QuickButton {
 
     required property bool current
     property alias text: label.text
+    property real maximumWidth: Infinity
 
-    width: label.implicitWidth + 30
+    width: label.width + 30
     height: 36
     radius: Theme.pillRadius
     normalColor: current ? Theme.tabGrey : "transparent"
@@ -17,10 +18,12 @@ QuickButton {
     Accessible.selectable: true
     Accessible.selected: current
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
 
-        anchors.centerIn: parent
+        maximumWidth: tab.maximumWidth - 30
+        // Centred in its own width, a single line would stand a part of a pixel beside its place.
+        horizontalAlignment: Text.AlignLeft
         font.pixelSize: 18
     }
 }

@@ -33,6 +33,8 @@ ControlButton {
     ButtonLabel {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 128
+        maximumWidth: card.width - 32
+        maximumHeight: 40
         text: card.title
         font.pixelSize: Theme.headingText
         font.weight: Font.Bold
@@ -42,6 +44,8 @@ ControlButton {
     ButtonLabel {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 174
+        maximumWidth: card.width - 33
+        maximumHeight: 66
         text: card.text
         font.pixelSize: Theme.bodyText
         color: Theme.mutedText

@@ -11,17 +11,16 @@ QuickButton {
 
     height: 36
     radius: 10
+    //: State of a button while a request runs, for screen readers.
     Accessible.description: busy ? qsTr("Please wait") : ""
     onClicked: {
         if (!button.busy)
             button.submitted();
     }
 
-    ButtonLabel {
+    CenteredLabel {
         id: label
 
-        anchors.centerIn: parent
-        font.pixelSize: Theme.bodyText
         opacity: button.busy ? 0.5 : 1
     }
 

@@ -7,9 +7,11 @@ ControlButton {
     property alias text: label.text
     property alias textColor: label.color
     property alias font: label.font
+    property alias maximumWidth: label.maximumWidth
+    property alias maximumHeight: label.maximumHeight
 
-    width: Math.ceil(label.implicitWidth)
-    height: Math.ceil(label.implicitHeight)
+    width: Math.ceil(label.width)
+    height: Math.ceil(label.height)
     cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link
 

@@ -27,6 +27,7 @@ Rectangle {
         height: 20
         visible: panel.closable
         focusColor: Theme.focusOnWhite
+        //: Button that closes the panel, for screen readers.
         accessibleName: qsTr("Close")
         onClicked: panel.closeClicked()
 

@@ -42,6 +42,7 @@ Row {
 
     spacing: 12
     Accessible.role: Accessible.ProgressBar
+    //: Name of the progress bar, for screen readers.
     Accessible.name: qsTr("Update progress")
     Accessible.description: label.text
 
@@ -63,6 +64,7 @@ Row {
     LatoRegularLabel {
         id: label
 
+        //: A percentage.
         text: qsTr("%1%").arg(root.value)
         font.pixelSize: Theme.bodyText
         color: Theme.panelText

@@ -22,6 +22,9 @@ Item {
     // Maximum width of the service's error text.
     property real responseWidth: width - responseLabel.x
 
+    // Room up to the window's edge.
+    readonly property real maximumWidth: 427
+
     signal linkClicked
     signal submitted
 
@@ -30,20 +33,24 @@ Item {
     Accessible.name: title
     Accessible.focusable: true
 
-    LatoBoldLabel {
+    FittedLabel {
         id: titleLabel
 
         y: 84
+        maximumWidth: form.maximumWidth
+        maximumHeight: 56
+        font.weight: Font.Bold
         font.pixelSize: 36
         Accessible.role: Accessible.Heading
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: sublineLabel
 
         y: 143
+        maximumWidth: form.maximumWidth - (link.visible ? link.width + 5 : 0)
+        maximumHeight: 50
         // An e-mail address can be wider than the window.
-        width: Math.min(implicitWidth, 427)
         wrapMode: Text.Wrap
         color: Theme.textGrey
         font.pixelSize: Theme.noteText
@@ -54,6 +61,7 @@ Item {
 
         x: sublineLabel.width + 5
         y: sublineLabel.y
+        maximumWidth: form.maximumWidth / 2
         visible: text !== ""
         onClicked: form.linkClicked()
     }

@@ -37,11 +37,13 @@ Popup {
         radius: Theme.windowRadius
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: heading
 
         x: 30
         y: 20
+        maximumWidth: popup.width - 2 * x
+        maximumHeight: 40
         text: qsTr("Change Profile Picture")
         font.pixelSize: Theme.bodyText
         font.weight: Font.Medium
@@ -56,20 +58,24 @@ Popup {
         onFailed: popup.error = qsTr("The picture cannot be read.")
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         x: 154
         y: 80
+        maximumWidth: popup.width - x - 6
+        maximumHeight: 54
         text: qsTr("Please select a jpg, jpeg or png image file with\nsize smaller than 2M to upload and crop an\nimage to be your profile picture.")
         font.pixelSize: Theme.smallText
         color: Theme.textGrey
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: errorLabel
 
         objectName: "pictureError"
         x: 154
         y: 135
+        maximumWidth: popup.width - x - 6
+        maximumHeight: 28
         font.pixelSize: Theme.smallText
         color: Theme.errorRed
         visible: text !== ""
@@ -83,6 +89,7 @@ Popup {
         width: 124
         height: 31
         outlineColor: Theme.textGrey
+        //: Button that opens the file dialog.
         text: qsTr("Choose File")
         textSize: 14
         onClicked: popup.chooseClicked()

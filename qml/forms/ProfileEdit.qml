@@ -65,6 +65,8 @@ Item {
         ButtonLabel {
             x: picture.width + 20
             anchors.verticalCenter: picture.verticalCenter
+            maximumWidth: firstNameField.x - 60 - x - 16
+            maximumHeight: picture.height
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
             font.pixelSize: Theme.smallText
             color: "#7C818D"

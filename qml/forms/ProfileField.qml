@@ -15,6 +15,8 @@ QuickTextField {
         id: captionLabel
 
         y: -27
+        maximumWidth: field.width
+        maximumHeight: 26
         font.pixelSize: Theme.bodyText
         color: Theme.textGrey
     }

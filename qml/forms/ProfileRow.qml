@@ -9,9 +9,11 @@ Item {
     width: 337
     height: captionLabel.height
 
-    LatoRegularLabel {
+    FittedLabel {
         id: captionLabel
 
+        maximumWidth: 186 - 16
+        maximumHeight: Math.ceil(1.2 * font.pixelSize) // one line, like the value
         font.pixelSize: Theme.bodyText
         color: Theme.textGrey
     }

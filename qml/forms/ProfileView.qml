@@ -38,8 +38,10 @@ Item {
         id: editLink
 
         objectName: "editLink"
-        x: 545
+        // A longer text ends inside the frame.
+        x: Math.min(545, view.width - 24 - width)
         y: 91
+        //: Link that lets the user change the profile.
         text: qsTr("Edit")
         font.pixelSize: Theme.bodyText
         onClicked: view.editClicked()

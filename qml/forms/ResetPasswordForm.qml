@@ -26,6 +26,7 @@ LoginForm {
     errorBelowFields: emailField.showError
     title: qsTr("Password Reset")
     subline: qsTr("Enter your email below and we'll send you a link to \nreset your password.")
+    //: Button that asks for the link.
     submitText: qsTr("Send")
     submitY: 280
 

@@ -7,25 +7,31 @@ Item {
 
     readonly property var device: deviceControl // qmllint disable unqualified
 
-    LatoBoldLabel {
+    FittedLabel {
         id: title
 
         x: 68
         y: 183
+        maximumWidth: byodSwitch.x - x - 16
+        maximumHeight: 34
+        font.weight: Font.Bold
         text: qsTr("Smart BYOD Switch")
         font.pixelSize: Theme.bodyText
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: explanation
 
         x: 68
         y: 220
+        maximumWidth: byodSwitch.x - x - 16
         text: qsTr("The VORN device’s microphone, camera, and speakers will automatically activate \nwhen start a BYOD meeting.")
         font.pixelSize: Theme.smallText
     }
 
     PanelSwitch {
+        id: byodSwitch
+
         objectName: "byodSwitch"
         x: 574
         y: 184

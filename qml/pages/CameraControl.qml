@@ -32,11 +32,12 @@ Item {
     FacePanel {
         id: frame
 
-        LatoRegularLabel {
+        FittedLabel {
             id: openCameraFace
 
             objectName: "openCameraFace"
             anchors.centerIn: parent
+            maximumWidth: frame.width - 40
             visible: page.currentPage === page.page_id_open_camera
             text: qsTr("Please turn on your camera in any app\nto make adjustments")
             color: Theme.textGrey

@@ -60,6 +60,9 @@ Item {
         y: 142
         width: 522
         height: 54
+        // The English text is a little wider than its box.
+        leftPadding: -30
+        rightPadding: -30
         text: qsTr("Update the K4V Windows firmware to version %1 to use the VORN App.\nPlease update the firmware first.").arg(dialog.device.k4vLowestVer)
     }
 

@@ -18,6 +18,8 @@ Item {
     // Milliseconds for which a completed update is shown before the program quits.
     property int quitDelay: 2000
     property alias progress: progress
+    // For both labels of the version, without the space between them.
+    readonly property real versionWidth: updateButton.x - 16 - versionLabel.x - 20
 
     // The program has to quit, so that the new version can start.
     signal quitRequested
@@ -78,22 +80,27 @@ Item {
         onTriggered: page.quitRequested()
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: versionLabel
 
         x: 68
         y: 186
+        // Two lines above the link, beside the new version and the button.
+        maximumWidth: Math.max(page.versionWidth / 2, page.versionWidth - newVersionLabel.implicitWidth)
+        maximumHeight: 40
         text: qsTr("Current Version:  %1").arg(page.currentVersion)
         font.pixelSize: Theme.bodyText
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: newVersionLabel
 
         objectName: "newVersionLabel"
         anchors.left: versionLabel.right
         anchors.leftMargin: 20
         y: versionLabel.y
+        maximumWidth: page.versionWidth - versionLabel.width
+        maximumHeight: versionLabel.maximumHeight
         text: qsTr("New Version:  %1").arg(page.newVersion)
         font.pixelSize: Theme.bodyText
         font.italic: true
@@ -105,15 +112,18 @@ Item {
         }
     }
 
-    LatoBoldLabel {
+    FittedLabel {
         id: upToDateLabel
 
         objectName: "upToDateLabel"
         anchors.left: versionLabel.right
         anchors.leftMargin: 20
         y: versionLabel.y
+        maximumWidth: page.versionWidth - versionLabel.width
+        maximumHeight: versionLabel.maximumHeight
         text: qsTr("You're up to date.")
         font.pixelSize: Theme.bodyText
+        font.weight: Font.Bold
         font.italic: true
         color: Theme.green
         visible: false
@@ -123,6 +133,7 @@ Item {
         x: 68
         y: 230
         text: qsTr("Term of Use and Privacy Policy")
+        maximumWidth: page.width - 2 * x
         textColor: Theme.textGrey
         font.pixelSize: Theme.smallText
     }
@@ -140,10 +151,9 @@ Item {
         enabled: page.currentPage === page.page_id_root
         onClicked: page.checkForUpdate()
 
-        ButtonLabel {
-            anchors.centerIn: parent
+        CenteredLabel {
+            //: Button: offers the update, or looks for one.
             text: page.hasNewVerion ? qsTr("Update") : qsTr("Check for Update")
-            font.pixelSize: Theme.bodyText
         }
     }
 
@@ -180,6 +190,7 @@ Item {
                 normalColor: Theme.white
                 border.width: 1
                 border.color: Theme.offGrey
+                //: Button that closes the offer of an update.
                 text: qsTr("Later")
                 textColor: Theme.mutedText
                 onClicked: page.currentPage = page.page_id_root

@@ -14,9 +14,11 @@ Item {
         return !checked || page.shownApps === 1;
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         x: 68
         y: 183
+        maximumWidth: page.width - 2 * x
+        maximumHeight: 44
         text: qsTr("Select which apps appear on your launcher. Only checked apps will be shown.")
         font.pixelSize: Theme.bodyText
     }

@@ -63,6 +63,7 @@ Item {
         interactive: false
         currentIndex: 0
         Accessible.role: Accessible.List
+        //: Name of the navigation, for screen readers.
         Accessible.name: qsTr("Pages")
         // The arrow keys would move the highlight without changing the page.
         keyNavigationEnabled: false
@@ -102,6 +103,8 @@ Item {
         ButtonLabel {
             x: 40
             anchors.verticalCenter: parent.verticalCenter
+            maximumWidth: parent.width - x - 10
+            maximumHeight: parent.height - 2
             text: qsTr("Settings")
             font.pixelSize: Theme.bodyText
         }

@@ -40,10 +40,13 @@ Item {
         }
     }
 
-    LatoBoldLabel {
+    FittedLabel {
         Accessible.role: Accessible.Heading
         x: 60
         y: 80
+        maximumWidth: 700
+        maximumHeight: 90
+        font.weight: Font.Bold
         text: qsTr("Hello!\nWelcome to VORN!")
         font.pixelSize: 30
     }
@@ -54,7 +57,8 @@ Item {
         objectName: "time"
         x: 938
         y: 100
-        text: Qt.formatTime(page.now, "hh:mm AP")
+        //: Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.
+        text: page.now.toLocaleTimeString(Qt.locale(), qsTr("hh:mm AP"))
         font.pixelSize: Theme.headingText
         horizontalAlignment: Text.AlignRight
     }
@@ -63,7 +67,8 @@ Item {
         objectName: "date"
         anchors.right: time.right
         y: 133
-        text: Qt.formatDate(page.now, "ddd, MMM dd, yyyy")
+        //: Form of the date in the way of Qt: ddd name of the day, MMM name of the month.
+        text: page.now.toLocaleDateString(Qt.locale(), qsTr("ddd, MMM dd, yyyy"))
         font.pixelSize: Theme.bodyText
     }
 
@@ -108,11 +113,13 @@ Item {
         }
     }
 
-    LatoRegularLabel {
+    FittedLabel {
         id: volumeTitle
 
         x: 162
         y: 314
+        maximumWidth: slider.x - x - 12
+        maximumHeight: 60
         text: qsTr("VORN K4V\nVolume")
         font.pixelSize: Theme.bodyText
     }
@@ -137,6 +144,7 @@ Item {
         objectName: "volumeValue"
         x: 941
         y: 329
+        //: A percentage.
         text: qsTr("%1%").arg(slider.value)
         font.pixelSize: Theme.bodyText
     }
@@ -153,6 +161,7 @@ Item {
         Accessible.role: Accessible.Heading
         x: 60
         y: 460
+        //: Heading above the two things that the display can show.
         text: qsTr("Device Source Mode")
         font.pixelSize: Theme.headingText
     }

@@ -66,6 +66,7 @@ Item {
     // The same state as text, for screen readers.
     function stateName(shown: bool): string {
         if (shown)
+            //: State of the microphone, speaker or camera, for screen readers.
             return qsTr("Connected");
         return page.connectTimeout ? qsTr("Not connected") : "";
     }
@@ -232,6 +233,7 @@ Item {
 
             FaceLabel {
                 y: 277
+                //: All devices of the display are connected.
                 text: qsTr("You are ready on Air")
             }
 
@@ -241,6 +243,7 @@ Item {
                 objectName: "goButton"
                 y: 364
                 width: 163
+                //: Button that begins the use of the display's devices.
                 text: qsTr("Go")
                 onClicked: page.go()
             }
@@ -312,6 +315,7 @@ Item {
                 objectName: "startSetupButton"
                 y: 318
                 width: 160
+                //: Button that begins the first set-up of the display.
                 text: qsTr("Start Setup")
                 onClicked: page.startSetup()
             }

@@ -67,6 +67,7 @@ FocusScope {
         interactive: false
         currentIndex: panel.currentPage
         highlightFollowsCurrentItem: false
+        //: Titles of two tabs: the camera is moved by hand, or follows the people by itself.
         model: [qsTr("Manual"), qsTr("Auto-Framing")]
         delegate: FramingTab {
             required property int index
@@ -105,25 +106,31 @@ FocusScope {
         anchors.fill: parent
         visible: panel.currentPage === panel.page_id_auto_framing
 
-        LatoBoldLabel {
+        FittedLabel {
             id: smartFramingTitle
 
             x: 131
             y: 126
+            maximumWidth: smartFramingSwitch.x - x - 8
+            maximumHeight: 27
+            font.weight: Font.Bold
             text: qsTr("Smart-Framing")
             font.pixelSize: Theme.bodyText
         }
 
-        LatoRegularLabel {
+        FittedLabel {
             id: smartFramingText
 
             x: 131
             y: 155
+            maximumWidth: smartFramingSwitch.x - x - 8
             text: qsTr("Auto focus on multiple individuals and combine \nin a frame (up to 6 individuals)")
             font.pixelSize: Theme.smallText
         }
 
         PanelSwitch {
+            id: smartFramingSwitch
+
             objectName: "smartFramingSwitch"
             x: 436
             y: 127

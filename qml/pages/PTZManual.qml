@@ -136,7 +136,9 @@ FocusScope {
 
                 objectName: "preset" + (index + 1)
                 number: modelData
+                //: Button that moves the camera to a saved position. %1 is a number from 1 to 3.
                 text: qsTr("Preset %1").arg(index + 1)
+                //: Description of a preset button, for screen readers.
                 Accessible.description: qsTr("Hold to save the position")
                 longPresse: true
                 onClicked: {
@@ -170,6 +172,7 @@ FocusScope {
         border.width: 1
         border.color: Theme.mutedText
         visible: false
+        //: Button above a preset: keeps the present position of the camera in it.
         text: qsTr("Save Position")
         onClicked: {
             const number = saveButton.preset.number;

@@ -113,7 +113,9 @@ Item {
     FileDialog {
         id: fileDialog
 
+        //: Title of the file dialog.
         title: qsTr("select picture")
+        //: Name of the kind of files in the file dialog.
         nameFilters: [qsTr("picture file") + " (*.jpg *.jpeg *.png )"]
         onAccepted: page.adoptPicture(String(selectedFile))
     }
@@ -155,24 +157,29 @@ Item {
             x: 60
             y: 428
             text: qsTr("Sign Out")
+            maximumWidth: 375 - x - 20
             textColor: Theme.mutedText
             font.pixelSize: Theme.bodyText
             font.underline: true
             onClicked: page.signOut()
         }
 
-        Row {
+        Flow {
             x: 375
             y: 432
+            width: parent.width - x - 20
 
-            LatoRegularLabel {
+            FittedLabel {
+                maximumWidth: parent.width
+                //: Followed by "coming soon".
                 text: qsTr("Digital Namecard Service ")
                 font.pixelSize: Theme.smallText
                 font.italic: true
                 color: Theme.textGrey
             }
 
-            LatoRegularLabel {
+            FittedLabel {
+                maximumWidth: parent.width
                 text: qsTr("coming soon")
                 font.pixelSize: Theme.smallText
                 font.italic: true

@@ -12,9 +12,11 @@ Item {
     readonly property int page_id_byodSwitch: 2
     property int currentPage: page_id_general
 
-    LatoBoldLabel {
+    FittedLabel {
         x: 50
         y: 67
+        maximumWidth: page.width - 2 * x
+        font.weight: Font.Bold
         text: qsTr("Settings")
         font.pixelSize: Theme.headingText
         Accessible.role: Accessible.Heading
@@ -34,8 +36,11 @@ Item {
         interactive: false
         keyNavigationEnabled: false
         model: [
+            //: Title of a tab.
             { text: qsTr("General"), id: page.page_id_general },
+            //: Title of a tab.
             { text: qsTr("Launcher App List"), id: page.page_id_launcherAppList },
+            //: Title of a tab.
             { text: qsTr("BYOD Switch"), id: page.page_id_byodSwitch }
         ]
         delegate: SettingsTab {
@@ -44,6 +49,7 @@ Item {
 
             current: ListView.isCurrentItem
             text: modelData.text
+            maximumWidth: 190
             onClicked: {
                 page.currentPage = modelData.id;
                 tabBar.currentIndex = index;
