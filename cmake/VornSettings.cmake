@@ -43,6 +43,12 @@ if(NOT MSVC)
     "$<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 endif()
 
+# Releases for Linux are hardened as Debian's packages are.
+if(UNIX AND NOT VORN_SANITIZE)
+  add_compile_options("$<$<NOT:$<CONFIG:Debug>>:-fstack-protector-strong;-Wp,-U_FORTIFY_SOURCE,-D_FORTIFY_SOURCE=2>")
+  add_link_options("$<$<NOT:$<CONFIG:Debug>>:LINKER:-z,relro,-z,now>")
+endif()
+
 # Applies to every target of the tree, the channel library included. Debug information of level 1 is
 # enough for the functions and lines in a report; full debug information takes a quarter of the build time.
 if(VORN_SANITIZE)

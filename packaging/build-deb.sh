@@ -29,4 +29,16 @@ umask 022
   tail -20 "$folder/cpack.log" >&2
   fail "cpack" "see $folder/cpack.log"
 }
-ls -l "$folder"/*.deb "$folder"/*.ddeb
+
+# CPack writes paths of the build into the checksums of the package of symbols, and gives it no documents.
+symbols=$(mktemp -d)
+trap 'rm -rf "$symbols"' EXIT
+dpkg-deb -R "$folder"/vornapp-dbgsym_*.ddeb "$symbols/root"
+mkdir -p "$symbols/root/usr/share/doc"
+ln -s vornapp "$symbols/root/usr/share/doc/vornapp-dbgsym"
+(cd "$symbols/root" && find usr -type f -print0 | LC_ALL=C sort -z | xargs -0 md5sum >DEBIAN/md5sums)
+find "$symbols/root" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
+name=$(basename "$folder"/vornapp-dbgsym_*.ddeb .ddeb)
+dpkg-deb --root-owner-group -b "$symbols/root" "$folder/$name.deb" >>"$folder/cpack.log"
+rm "$folder/$name.ddeb"
+ls -l "$folder"/*.deb

@@ -23,6 +23,8 @@ if [ -n "${2:-}" ]; then
 else
   ./packaging/build-deb.sh build/package
   package=$(echo build/package/vornapp_*.deb)
+  lintian --allow-root --fail-on error,warning build/package/vornapp-dbgsym_*.deb ||
+    fail "lintian on the package of symbols" "see the lines above"
 fi
 
 step "Checking the package"

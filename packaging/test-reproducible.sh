@@ -26,7 +26,7 @@ build() {
     tail -20 "$work/$1.log" >&2
     fail "building the package" "see the lines above"
   }
-  (cd "$work/$1/build/package" && sha256sum ./*.deb ./*.ddeb) | tee "$work/$1.sums"
+  (cd "$work/$1/build/package" && sha256sum ./*.deb) | tee "$work/$1.sums"
 }
 build first UTC 022
 build another/folder Pacific/Auckland 027

@@ -8,20 +8,22 @@ if(VORN_REVISION MATCHES "^v[0-9.]+-([1-9][0-9]*)-(g[0-9a-f]+)") # commits after
   string(APPEND CPACK_PACKAGE_VERSION "+${CMAKE_MATCH_1}.${CMAKE_MATCH_2}")
 endif()
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "desktop companion for VORN meeting-room displays")
-set(CPACK_PACKAGE_DESCRIPTION "VORNApp follows the connection to a display, launches meetings, shows and operates
-the screen of the display and controls its camera, from one window and the tray.
+set(CPACK_PACKAGE_DESCRIPTION "VORNApp follows the connection to a display, launches meetings, shows and
+operates the screen of the display and controls its camera, from one window
+and the tray.
 .
 ")
 if(VORN_PORTALHUB_LIBRARY)
   string(APPEND CPACK_PACKAGE_DESCRIPTION "This build contains the channel library of the display's maker.")
 else()
   string(APPEND CPACK_PACKAGE_DESCRIPTION
-    "This build contains a stand-in for the channel library of the display's maker,\n"
-    "which talks to the simulated display only.")
+    "This build contains a stand-in for the channel library of the display's\n"
+    "maker, which talks to the simulated display only.")
 endif()
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+# Moves the symbols into vornapp-dbgsym, and strips the program.
+set(CPACK_STRIP_FILES OFF)
 set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
