@@ -14,7 +14,10 @@ namespace
 
 constexpr quint16 ReceivePort = 49175;
 constexpr quint16 PointerPort = 49176;
-constexpr auto ReceiveWait = std::chrono::hours(1); // a datagram or the stop ends it earlier
+constexpr std::chrono::milliseconds ReceiveWait =
+    std::chrono::hours(1); // ended by a datagram or the stop
+/// Silence after which a flood is over and its sum is logged.
+constexpr std::chrono::milliseconds FloodEnd = std::chrono::seconds(1);
 
 } // namespace
 
@@ -64,13 +67,16 @@ void PointerLink::logDatagrams(const std::stop_token& stop)
     constexpr auto Function = "DeviceControl::RecvUdpDatagram";
     Log::info(Function) << "thread start";
     Log::FloodLimit flood(Function);
+    bool isFlooded = false;
     while (!stop.stop_requested()) {
         QNetworkDatagram datagram;
-        if (!m_udpClient.waitForDatagram(datagram, ReceiveWait)) {
+        if (!m_udpClient.waitForDatagram(datagram, isFlooded ? FloodEnd : ReceiveWait)) {
             flood.flush();
+            isFlooded = false;
             continue;
         }
-        if (!flood.admits())
+        isFlooded = !flood.admits();
+        if (isFlooded)
             continue;
         Log::info(Function) << "recv from " << datagram.senderAddress().toString() << ":"
                             << datagram.senderPort() << " [" << UdpClient::hexDump(datagram.data())
