@@ -39,11 +39,8 @@ private slots:
     void startsAProgramByPath();
     void startsAProgramBesideTheApplication();
     void killsByName();
-    void restartsAMissingProgram();
     void readsPathsFromTheRegistry_data();
     void readsPathsFromTheRegistry();
-    void findsTheZoomShortcutInOrder_data();
-    void findsTheZoomShortcutInOrder();
     void startsZoom_data();
     void startsZoom();
     void startsTheFirstTeamsThatCanBeStarted();
@@ -170,25 +167,6 @@ void tst_ProcessManager::killsByName()
     QVERIFY(!lines.first().endsWith(u':'));
 }
 
-void tst_ProcessManager::restartsAMissingProgram()
-{
-    const QString name = u"vorn-test-alive-%1"_s.arg(QCoreApplication::applicationPid());
-    install(u"bin/"_s + name, true);
-
-    m_programs.keepProcessAlive(name + ".exe"_L1, {});
-    QTRY_COMPARE(calls(), QStringList{name + " 2 [] []"_L1});
-    QCOMPARE(m_log->take().size(), 1);
-
-    m_programs.keepProcessAlive(name + ".exe"_L1, {});
-    QVERIFY(m_log->take().isEmpty());
-    QCOMPARE(calls().size(), 1);
-
-    QVERIFY(m_programs.killProcess(name, {}));
-    m_programs.keepProcessAlive(name + ".exe"_L1, {});
-    QTRY_COMPARE(calls().size(), 2);
-    QVERIFY(m_programs.killProcess(name, {}));
-}
-
 void tst_ProcessManager::readsPathsFromTheRegistry_data()
 {
     QTest::addColumn<QString>("value");
@@ -224,50 +202,6 @@ void tst_ProcessManager::readsPathsFromTheRegistry()
     QVERIFY(platform::writeRegistry(TeamsUrlKey, DefaultName, existing));
     QVERIFY(ProcessManager::readPathFromRegist(TeamsUrlKey, DefaultName, found));
     QCOMPARE(found, existing);
-}
-
-void tst_ProcessManager::findsTheZoomShortcutInOrder_data()
-{
-    QTest::addColumn<QStringList>("existing"); // below the home folder, by preference
-    QTest::addColumn<int>("errors");
-    const QString menu = u"data/applications/Zoom/Zoom Workplace.desktop"_s;
-    const QString desktop = u"Desktop/Zoom Workplace.desktop"_s;
-    const QString ownMenu = u"data/applications/Zoom Workplace.desktop"_s;
-    const QString package = u"system/applications/Zoom.desktop"_s;
-    QTest::newRow("start menu") << QStringList{menu, desktop, ownMenu, package} << 0;
-    QTest::newRow("desktop") << QStringList{desktop, ownMenu, package} << 1;
-    QTest::newRow("menu without folder") << QStringList{ownMenu, package} << 2;
-    QTest::newRow("package") << QStringList{package} << 2;
-    QTest::newRow("none") << QStringList{} << 2;
-}
-
-void tst_ProcessManager::findsTheZoomShortcutInOrder()
-{
-    QFETCH(QStringList, existing);
-    QFETCH(int, errors);
-    for (const QString& name : existing)
-        write(name, "");
-
-    QString shortcut;
-    QCOMPARE(ProcessManager::findZoomShortcut(shortcut), !existing.isEmpty());
-    QCOMPARE(shortcut, existing.isEmpty() ? QString() : path(existing.first()));
-
-    const QString function = u" ProcessManager::findZoomShortcut "_s;
-    const QStringList lines{u'I' + function + "findZoomShortcut"_L1,
-                            u'E' + function + "zoomAppDir:"_L1 +
-                                path(u"data/applications/Zoom not exist!"_s),
-                            u'E' + function + "desktopShortcut:"_L1 +
-                                path(u"Desktop/Zoom Workplace.desktop not exist!"_s)};
-    QCOMPARE(m_log->take(), lines.first(1 + errors));
-
-    // A menu folder without the shortcut.
-    QDir().mkpath(path(u"data/applications/Zoom"_s));
-    if (errors > 0) {
-        ProcessManager::findZoomShortcut(shortcut);
-        QCOMPARE(m_log->take().value(1),
-                 u'E' + function + "shortcut:"_L1 +
-                     path(u"data/applications/Zoom/Zoom Workplace.desktop not exist!"_s));
-    }
 }
 
 void tst_ProcessManager::startsZoom_data()

@@ -16,7 +16,6 @@ private slots:
     void movesEarlierLogsBeforeTheFirstLine();
     void renamesAFileIfItsNameExists();
     void keepsTheGreatestNames();
-    void countsTheMovedFile();
 
 private:
     [[nodiscard]] QString logPath(const QString& name) const { return m_logDir + u'/' + name; }
@@ -110,19 +109,6 @@ void tst_LogInit::keepsTheGreatestNames()
         lines().sliced(1),
         (QByteArrayList{"[ClearBackLog]Removed old log file:" + backupPath(names[0]).toUtf8(),
                         "[ClearBackLog]Removed old log file:" + backupPath(names[1]).toUtf8()}));
-}
-
-void tst_LogInit::countsTheMovedFile()
-{
-    const QStringList all{u"App.exe1.log"_s, u"App.exe2.log"_s, u"App.exe3.log"_s};
-    for (const int keepCount : {0, 2}) {
-        init();
-        QVERIFY(LogText::make(backupPath(all[0])));
-        QVERIFY(LogText::make(backupPath(all[1])));
-        QVERIFY(LogText::make(logPath(all[2])));
-        InitLog(m_logDir, m_backupDir, u"App.exe"_s, keepCount);
-        QCOMPARE(backups(), keepCount == 0 ? all : all.last(2));
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_LogInit)

@@ -27,10 +27,8 @@ private slots:
     void killsEveryProcessOfTheName_data();
     void killsEveryProcessOfTheName();
     void findsDeletedProgramsAndScripts();
-    void sparesLongerNames();
     void sparesItself();
     void reportsThatThereIsNone();
-    void ignoresZombies();
 
 private:
     QString install(const QString& name) const; // copies the helper
@@ -117,18 +115,6 @@ void tst_Processes::findsDeletedProgramsAndScripts()
     }
 }
 
-void tst_Processes::sparesLongerNames()
-{
-    const QString name = uniqueName(u"vorn-test-of-a-long-name-"_s);
-    HelperProcess process;
-    QVERIFY(process.startAndWait(install(name + u"-other"_s), {u"wait"_s}));
-    QVERIFY(!isRunning(name));
-    QVERIFY(platform::killByImageName(name, Patience).exitCode != 0);
-    process.closeWriteChannel();
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-}
-
 void tst_Processes::sparesItself()
 {
     if (IsWindows)
@@ -150,20 +136,6 @@ void tst_Processes::reportsThatThereIsNone()
     QVERIFY(IsWindows || outcome.errorText.contains(name)); // not in every version of Windows
     QVERIFY(IsWindows || !isRunning(QString()));
     QVERIFY(!isRunning(u".exe"_s));
-}
-
-void tst_Processes::ignoresZombies()
-{
-    if (IsWindows)
-        QSKIP("Windows has no zombies.");
-    const QString name = uniqueName(u"vorn-test-ended-"_s);
-    HelperProcess parent;
-    // The shell replaces itself by a program that never waits for its children.
-    QVERIFY(parent.startAndWait(
-        makeScript(u"parent"_s, "\"$1\" exit &\necho ready\nexec \"$2\" wait\n"),
-        {install(name), HelperProcess::path(u"platform_helper"_s)}));
-    QCOMPARE(parent.nextLine(), "ready");
-    QTRY_VERIFY(!isRunning(name));
 }
 
 QTEST_GUILESS_MAIN(tst_Processes)

@@ -25,8 +25,6 @@ private slots:
     void initTestCase();
     void findsTheProgramOfAnExecLine_data();
     void findsTheProgramOfAnExecLine();
-    void readsTheExecKeyOfTheMainGroup_data();
-    void readsTheExecKeyOfTheMainGroup();
     void resolvesNamesThroughPath();
     void reportsUnreadableEntries();
     void findsEntriesOfPackages();
@@ -85,34 +83,6 @@ void tst_Shortcuts::findsTheProgramOfAnExecLine()
         platform::programOfDesktopEntry("[Desktop Entry]\nType=Application\nExec=" + exec + '\n');
     QCOMPARE(found.has_value(), !program.isEmpty());
     QCOMPARE(found.value_or(QString()), program);
-}
-
-void tst_Shortcuts::readsTheExecKeyOfTheMainGroup_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("program");
-    QTest::newRow("actions") << QByteArray("[Desktop Entry]\nExec=main\n\n"
-                                           "[Desktop Action new]\nExec=other\n")
-                             << u"main"_s;
-    QTest::newRow("other group first")
-        << QByteArray(
-               "[Other]\nExec=other\n[Desktop Entry]\nTryExec=try\nExec[de]=x\nExec = main\n")
-        << u"main"_s;
-    QTest::newRow("comment, line ends of Windows")
-        << QByteArray("# Exec=no\r\n[Desktop Entry]\r\n#Exec=no\r\nExec=main\r\n") << u"main"_s;
-    QTest::newRow("link") << QByteArray("[Desktop Entry]\nType=Link\nURL=https://example.org\n")
-                          << QString();
-    QTest::newRow("not an entry") << QByteArray("\x7f"
-                                                "ELF\0\0\n=\n[",
-                                                10)
-                                  << QString();
-}
-
-void tst_Shortcuts::readsTheExecKeyOfTheMainGroup()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, program);
-    QCOMPARE(platform::programOfDesktopEntry(text).value_or(QString()), program);
 }
 
 void tst_Shortcuts::resolvesNamesThroughPath()

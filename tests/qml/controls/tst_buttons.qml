@@ -110,27 +110,6 @@ TestCase {
         compare(countTriggered(), held);
     }
 
-    function test_leavingAHeldButtonEndsItsRepeats_data(): var {
-        return [
-            { tag: "quick", component: quick, atExit: "pressed triggered", atRelease: "pressed triggered released" },
-            { tag: "control", component: control, atExit: "pressed triggered released", atRelease: "pressed triggered released" },
-        ];
-    }
-
-    function test_leavingAHeldButtonEndsItsRepeats(data: var): void {
-        const button = create(data.component, { longPresse: true, autoRepeat: true });
-        mousePress(button, 5, 5);
-        tryVerify(() => countTriggered() >= 2);
-        mouseMove(test, 300, 250);
-        compare(steps(), data.atExit);
-        const length = test.log.length;
-        wait(button.repeatInterval * 3); // no repeat may follow
-        compare(test.log.length, length);
-        mouseRelease(test, 300, 250);
-        compare(test.log.length, length + 1);
-        compare(steps(), data.atRelease);
-    }
-
     function test_controlButtonFades(): void {
         const button = create(control, { longPresse: true });
         mouseMove(button, 5, 5);
@@ -184,23 +163,5 @@ TestCase {
         keyRelease(data.key, data.modifiers);
         compare(steps(), data.expected);
         compare([button.color, button.opacity].join(), rest);
-    }
-
-    function test_pointerTakesOverFromAKey(): void {
-        const button = create(control, {});
-        button.forceActiveFocus();
-        keyPress(Qt.Key_Space);
-        mousePress(button, 5, 5);
-        keyRelease(Qt.Key_Space);
-        mouseRelease(button, 5, 5);
-        compare(steps(), "pressed released pressed released clicked");
-    }
-
-    function test_sizeFollowsTheContent(): void {
-        const button = create(control, {});
-        compare(button.width, button.label.width);
-        button.label.text = "Send";
-        compare(button.width, button.label.width);
-        compare(button.height, button.label.height);
     }
 }

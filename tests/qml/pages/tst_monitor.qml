@@ -117,24 +117,6 @@ DisplayTest {
         compare([...faces], ["completeFace"]);
     }
 
-    function test_otherModesCloseTheWindow_data(): var {
-        return [
-            { tag: "set up before any frame", played: false, mode: 1 },
-            { tag: "set up after a failure", played: true, mode: 1 },
-            { tag: "disconnected", played: false, mode: 0 }
-        ];
-    }
-
-    function test_otherModesCloseTheWindow(data: var): void {
-        if (data.played) {
-            screen.countFrame();
-            test.monitor.frameTimeout = 1;
-            tryVerify(() => test.visibleFace() === "failedFace");
-        }
-        test.answer(0, "isReady", data.mode);
-        tryCompare(test, "closed", 1);
-    }
-
     function test_windowCreatedAfterTheSetUpCloses(): void {
         test.monitor.close();
         tryVerify(() => test.monitor === null);
@@ -169,25 +151,6 @@ DisplayTest {
 
         mouseDoubleClickSequence(test.pointer(), 720, 405);
         compare(screen.takeDatagrams(), [0, 1, 0, 1].map(type => test.datagram(type, 1, 2, 1, 2)));
-    }
-
-    function test_barsSendNothing(): void {
-        // 45 pixels above and below.
-        test.showFrame(1920, 1080);
-        test.resize(1440, 900);
-        mouseClick(test.pointer(), 720, 44);
-        mouseClick(test.pointer(), 720, 856);
-        compare(screen.takeDatagrams(), []);
-        mouseClick(test.pointer(), 720, 45);
-        mouseClick(test.pointer(), 720, 855);
-        compare(screen.takeDatagrams(), [0, 1].map(type => test.datagram(type, 1, 2, 0, 1))
-            .concat([0, 1].map(type => test.datagram(type, 1, 2, 1, 1))));
-
-        mousePress(test.pointer(), 720, 450);
-        mouseMove(test.pointer(), 720, 20);
-        mouseRelease(test.pointer(), 720, 20);
-        test.monitor.hide();
-        compare(screen.takeDatagrams(), [test.datagram(0, 1, 2, 1, 2)]);
     }
 
     function test_holdEndsWithoutARelease_data(): var {

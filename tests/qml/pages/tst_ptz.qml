@@ -100,22 +100,6 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
-    function test_anotherKeyReplacesTheMovement(): void {
-        test.panel.forceActiveFocus();
-        keyPress(Qt.Key_Left);
-        keyPress(Qt.Key_Right);
-        compare(test.sent(), [test.scale(4, 0), test.scale(4, 1), test.scale(5, 0)]);
-        keyRelease(Qt.Key_Left);
-        compare(test.sent(), []);
-        keyRelease(Qt.Key_Right);
-        compare(test.sent(), [test.scale(5, 1)]);
-
-        // Shift is released before the plus key.
-        keyPress(Qt.Key_Plus, Qt.ShiftModifier);
-        keyRelease(Qt.Key_Equal);
-        compare(test.sent(), [test.scale(0, 0), test.scale(0, 1)]);
-    }
-
     function test_movementEndsWithTheFocusAndThePage(): void {
         test.panel.forceActiveFocus();
         keyPress(Qt.Key_Up);
@@ -176,28 +160,6 @@ DisplayTest {
         }
     }
 
-    function test_saveButtonIsDismissed(): void {
-        for (const place of ["up", "preset1", "zoomPanel"]) {
-            const save = test.raiseSaveButton("preset2");
-            mouseClick(test.control(place), 5, 5);
-            verify(!save.visible, place);
-            compare(test.sent(), []);
-        }
-
-        const save = test.raiseSaveButton("preset3");
-        mouseClick(test.control("framingTab1"));
-        mouseClick(test.control("framingTab0"));
-        verify(!save.visible);
-        compare(test.sent(), [test.autoFraming(true), test.autoFraming(false)]);
-
-        test.raiseSaveButton("preset3");
-        save.forceActiveFocus();
-        keyClick(Qt.Key_Escape);
-        verify(!save.visible);
-        verify(test.control("preset3").activeFocus);
-        compare(test.sent(), []);
-    }
-
     function test_tabsTurnAutoFramingOnAndOff(): void {
         mouseClick(test.control("framingTab1"));
         verify(test.control("autoFramingPage").visible);
@@ -215,22 +177,6 @@ DisplayTest {
         test.control("framingTab1").forceActiveFocus();
         keyClick(Qt.Key_Space);
         compare(test.sent(), [test.autoFraming(true), test.smartFraming(true)]);
-    }
-
-    function test_displayTurnsAutoFramingOnAndOff(): void {
-        test.control("preset1").forceActiveFocus();
-        test.answer(13, "autoframestatus", 1);
-        verify(test.control("autoFramingPage").visible);
-        verify((test.control("framingTab1") as FramingTab).current);
-        verify(test.control("framingTab1").activeFocus);
-        test.answer(15, "smartframestatus", 1);
-        verify((test.control("smartFramingSwitch") as PanelSwitch).checked);
-        const opened = createTemporaryObject(panelComponent, test) as PTZ;
-        compare(opened.currentPage, opened.page_id_auto_framing);
-        opened.destroy();
-        test.answer(13, "autoframestatus", 0);
-        verify(test.control("manualPage").visible);
-        compare(test.sent(), []);
     }
 
     Component {
