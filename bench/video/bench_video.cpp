@@ -5,6 +5,7 @@
 #include "device/NV12VideoSource.h"
 #include "device/VideoReceiver.h"
 #include "platform/FrameChannel.h"
+#include "threads/Worker.h"
 
 #include <glog/logging.h>
 
