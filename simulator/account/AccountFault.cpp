@@ -40,9 +40,9 @@ QByteArray success(qsizetype paddingSize)
 
 QByteArray compressedBomb()
 {
-    constexpr qsizetype unpackedSize = qsizetype{64} * 1024 * 1024;
+    constexpr qsizetype UnpackedSize = qsizetype{64} * 1024 * 1024;
     const QByteArray packed =
-        qCompress(QByteArray(unpackedSize, ' ')).sliced(4); // without the prefix that Qt adds
+        qCompress(QByteArray(UnpackedSize, ' ')).sliced(4); // without the prefix that Qt adds
     return head("200 OK", packed.size(), "Content-Encoding: deflate\r\n") + packed;
 }
 
