@@ -73,12 +73,13 @@ public:
     Q_INVOKABLE void stopService() { m_service.close(); }
 
 private:
+    // Destroyed last: DeviceControl posts a task when it ends.
+    QStringList m_tasks;
+    QStringList m_requests;
     DeviceWorld m_world;
     CameraControl m_camera;
     ScreenRig m_screen;
     AccountService m_service;
     std::optional<NetworkManager> m_network;
     PageWindows m_windows;
-    QStringList m_tasks;
-    QStringList m_requests;
 };
