@@ -12,6 +12,7 @@ Reads the CMakeLists.txt of each folder and the #include lines of the sources th
 Exit code 0 means that there is nothing to report.
 """
 
+import os
 import pathlib
 import re
 import subprocess
@@ -71,7 +72,7 @@ class Tree:
                 getattr(self, command)(path.parent, words[0], words[1:])
         # Lists that reach a target by a variable.
         for word in re.findall(r"[\w./-]+\.(?:cpp|h)\b", text):
-            self.listed.add(path.parent / word)
+            self.listed.add(pathlib.Path(os.path.normpath(path.parent / word)))
 
     def add(self, folder: pathlib.Path, name: str, sources: list[str], is_interface: bool = False) -> Target:
         target = self.targets.setdefault(name, Target(name, folder, is_interface))
