@@ -41,8 +41,7 @@ class tst_DisplayState : public QObject
 private slots:
     void aChangeIsLoggedAndSignalledOnce();
     void onlyChangesOfThisProgramAreSent();
-    void aConnectionBringsTheWindowForward();
-    void aDisconnectionResetsTheDisplay();
+    void aConnectionShowsTheWindowAndADisconnectionResetsTheDisplay();
     void readersAndLibraryCallbacksDoNotBlock();
     void everyChangeOfTheSourceIsWritten();
     void changesOfTheSettingAreRateLimited();
@@ -84,24 +83,16 @@ void tst_DisplayState::onlyChangesOfThisProgramAreSent()
     QCOMPARE(m_channel.takeIds(), (QList<int>{1, 9, 10, 12, 22}));
 }
 
-void tst_DisplayState::aConnectionBringsTheWindowForward()
-{
-    DisplayState display(m_channel, m_windows);
-    for (const int mode : {1, 3, 2})
-        display.setConnectMode(ConnectMode(mode));
-    QCOMPARE(m_windows.take(), (QStringList{u"no warning"_s, u"show"_s, u"warn"_s, u"show"_s,
-                                            u"no warning"_s, u"show"_s}));
-}
-
-void tst_DisplayState::aDisconnectionResetsTheDisplay()
+void tst_DisplayState::aConnectionShowsTheWindowAndADisconnectionResetsTheDisplay()
 {
     DisplayState display(m_channel, m_windows);
     QSignalSpy volumeReady(&display, &DisplayState::volumeReady);
-    display.setConnectMode(ConnectMode::Connected);
+    for (const int mode : {1, 3, 2})
+        display.setConnectMode(ConnectMode(mode));
+    QCOMPARE(m_windows.take().join(u", "_s), u"no warning, show, warn, show, no warning, show"_s);
     display.setVolumeReady(1);
     display.setByodSwitch(Selected, FromDisplay);
     display.setZoomSwitch(SourceState::Available, FromDisplay);
-    m_windows.take();
 
     display.setConnectMode(ConnectMode::None);
     QCOMPARE(display.byodSwitch(), Unavailable);
