@@ -98,6 +98,7 @@ class tst_DeviceCheck : public QObject
 private slots:
     void parsesRules_data();
     void parsesRules();
+    void limitsAndDescribesRules();
     void refusesUnusableFiles();
     void followsTheDisplaysDevices();
     void skipsAFailingClass();
@@ -151,6 +152,17 @@ void tst_DeviceCheck::parsesRules()
     QTEST(rules, "rules");
     QCOMPARE(parsed.error != nullptr, refused);
     QVERIFY(parsed.cutKinds.isEmpty());
+}
+
+void tst_DeviceCheck::limitsAndDescribesRules()
+{
+    const QByteArray nodes = QByteArray("{\"filter\":\"b\"},").repeated(MaxRulesOfKind) + "{}";
+    const auto parsed = parseDeviceRules("{\"vornmic\":[{\"nodes\":[" + nodes +
+                                         "]}],\"vorncam\":[{\"nodes\":[{\"filter\":\"c\"}]}]}");
+    QCOMPARE(parsed.cutKinds, QStringList{u"vornmic"_s});
+    QCOMPARE(parsed.rules[u"vornmic"_s].size(), MaxRulesOfKind);
+    QCOMPARE(describeDeviceRules(parsed.rules[u"vorncam"_s]).mid(1, 4),
+             (QStringList{u"vorndev :vorncam"_s, u"devtype :"_s, u"proptype:"_s, u"filter  :c"_s}));
 }
 
 void tst_DeviceCheck::refusesUnusableFiles()

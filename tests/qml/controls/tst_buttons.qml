@@ -110,6 +110,27 @@ TestCase {
         compare(countTriggered(), held);
     }
 
+    function test_leavingAHeldButtonEndsItsRepeats_data(): var {
+        return [
+            { tag: "quick", component: quick, atExit: "pressed triggered", atRelease: "pressed triggered released" },
+            { tag: "control", component: control, atExit: "pressed triggered released", atRelease: "pressed triggered released" },
+        ];
+    }
+
+    function test_leavingAHeldButtonEndsItsRepeats(data: var): void {
+        const button = create(data.component, { longPresse: true, autoRepeat: true });
+        mousePress(button, 5, 5);
+        tryVerify(() => countTriggered() >= 2);
+        mouseMove(test, 300, 250);
+        compare(steps(), data.atExit);
+        const length = test.log.length;
+        wait(button.repeatInterval * 3); // no repeat may follow
+        compare(test.log.length, length);
+        mouseRelease(test, 300, 250);
+        compare(test.log.length, length + 1);
+        compare(steps(), data.atRelease);
+    }
+
     function test_controlButtonFades(): void {
         const button = create(control, { longPresse: true });
         mouseMove(button, 5, 5);
