@@ -1,11 +1,13 @@
 #include "app/SingleInstance.h"
 
-#include "platform/InstanceSegment.h"
+#include "platform/InstanceObjects.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
-#include <QElapsedTimer>
 #include <QLocalSocket>
 #include <QThread>
+
+#include <utility>
 
 namespace
 {
@@ -13,49 +15,75 @@ namespace
 // Milliseconds.
 constexpr int ConnectTimeout = 1000;
 constexpr int WriteTimeout = 30000;
+constexpr int AnswerTimeout = 1000;
+constexpr int EndTimeout = 2000;         // between an instance's closing its server and its end
 constexpr int PauseBetweenAttempts = 50; // a connection to a missing server fails at once
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString& key, QString serverName)
-    : m_sharedMemory(key)
+SingleInstance::SingleInstance(QString name, QString serverName)
+    : m_name(std::move(name))
     , m_serverName(std::move(serverName))
 {
+    platform::setInstanceKey(m_sharedMemory, m_name);
+}
+
+SingleInstance::~SingleInstance()
+{
+    release();
 }
 
 SingleInstance::Outcome SingleInstance::start()
 {
-    QElapsedTimer waited;
-    waited.start();
+    const QDeadlineTimer deadline(platform::handOverPatienceMs());
     bool isFirstAttempt = true;
     do {
         if (!isFirstAttempt)
             QThread::msleep(PauseBetweenAttempts);
-        if (claim())
-            return Outcome::First;
+        const Claim claimed = claim();
+        if (claimed != Claim::Held)
+            return claimed == Claim::Made ? Outcome::First : Outcome::HandedOver;
         if (isFirstAttempt)
-            qDebug().noquote() << (m_claimError.isEmpty() ? QStringLiteral("sharedMemory attach")
-                                                          : m_claimError);
+            qDebug().noquote() << m_claimError;
         isFirstAttempt = false;
-        if (handOver())
+        const Reply reply = handOver();
+        if (reply == Reply::Closed)
+            return succeed();
+        if (reply == Reply::Accepted)
             return Outcome::HandedOver;
-    } while (waited.elapsed() < platform::handOverPatienceMs());
+    } while (!deadline.hasExpired());
     qDebug("Existing VORNApp cannot be connected");
     return Outcome::Unreachable;
 }
 
-bool SingleInstance::claim()
+/// Takes the place of an instance that closed the connection without an answer.
+SingleInstance::Outcome SingleInstance::succeed()
 {
-    const platform::InstanceLock lock(m_sharedMemory.key());
-    m_claimError.clear();
+    for (const QDeadlineTimer deadline(EndTimeout); !deadline.hasExpired();) {
+        const Claim claimed = claim();
+        if (claimed != Claim::Held)
+            return claimed == Claim::Made ? Outcome::First : Outcome::HandedOver;
+        QThread::msleep(PauseBetweenAttempts);
+    }
+    return Outcome::HandedOver; // it still runs
+}
+
+SingleInstance::Claim SingleInstance::claim()
+{
+    const platform::InstanceLock lock(m_name);
+    m_claimError = QStringLiteral("sharedMemory attach");
     // The last process that detaches removes the segment, also one that a crash has left. If it
     // still exists after that, another process is attached.
     if (segmentExists() && segmentExists())
-        return false;
+        return Claim::Held;
+    // A temp cleaner may have removed the segment's file from under a running instance.
+    const Reply reply = handOver();
+    if (reply != Reply::Missing)
+        return reply == Reply::Accepted ? Claim::Answered : Claim::Held;
     if (m_sharedMemory.create(1, QSharedMemory::ReadWrite))
-        return true;
+        return Claim::Made;
     m_claimError = QStringLiteral("Failed to create shared memory:") + m_sharedMemory.errorString();
-    return false;
+    return Claim::Held;
 }
 
 bool SingleInstance::segmentExists()
@@ -66,21 +94,27 @@ bool SingleInstance::segmentExists()
     return true;
 }
 
-bool SingleInstance::handOver() const
+SingleInstance::Reply SingleInstance::handOver() const
 {
     QLocalSocket socket;
     socket.connectToServer(m_serverName, QIODevice::ReadWrite);
     if (!socket.waitForConnected(ConnectTimeout))
-        return false;
+        return Reply::Missing;
     qDebug("send activate");
+    platform::passOnForegroundRight();
     socket.write("activate", 8);
     socket.waitForBytesWritten(WriteTimeout);
+    // An instance that is too busy to answer handles the request later.
+    const bool isAnswered = socket.waitForReadyRead(AnswerTimeout);
+    if (!isAnswered && socket.state() != QLocalSocket::ConnectedState)
+        return Reply::Closed;
     socket.disconnectFromServer();
-    return true;
+    return Reply::Accepted;
 }
 
 void SingleInstance::release()
 {
     if (m_sharedMemory.isAttached())
         m_sharedMemory.detach();
+    platform::removeInstanceFolder();
 }

@@ -3,8 +3,9 @@
 #include <QSharedMemory>
 #include <QString>
 
-/// Ensures that only one instance runs. The first instance holds a shared-memory segment while it
-/// runs; a later start asks it to show its window. Main thread; needs no application object.
+/// Ensures that only one instance of a user runs. The first instance holds a shared-memory segment
+/// while it runs; a later start asks it to show its window. Main thread; needs no application
+/// object.
 class SingleInstance
 {
 public:
@@ -14,7 +15,12 @@ public:
         Unreachable, ///< the running instance did not answer
     };
 
-    SingleInstance(const QString& key, QString serverName);
+    /// @param name  of the segment
+    /// @param serverName  of the local server that the first instance opens
+    SingleInstance(QString name, QString serverName);
+    ~SingleInstance();
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
 
     /// Becomes the first instance or contacts the running one. Waits for an instance that is still
     /// starting, and becomes the first one if it ends meanwhile.
@@ -23,11 +29,24 @@ public:
     void release();
 
 private:
-    bool claim();
-    bool segmentExists();
-    bool handOver() const;
+    enum class Reply {
+        Missing,  ///< no server
+        Accepted, ///< the instance shows its window, or will when it is less busy
+        Closed,   ///< the server closed the connection without an answer, as at its end
+    };
+    enum class Claim {
+        Made,     ///< this start holds the segment
+        Held,     ///< another instance holds it
+        Answered, ///< nobody holds it, but an instance accepted the request
+    };
 
-    QSharedMemory m_sharedMemory;
+    Claim claim();
+    bool segmentExists();
+    Reply handOver() const;
+    Outcome succeed();
+
+    const QString m_name;
     const QString m_serverName;
-    QString m_claimError; // reason of a failed claim; empty if another instance holds the segment
+    QSharedMemory m_sharedMemory;
+    QString m_claimError; // reason of a failed claim
 };

@@ -1,6 +1,7 @@
 #include "app/WindowManager.h"
 
 #include "logging/Log.h"
+#include "platform/InstanceObjects.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -20,7 +21,7 @@ constexpr int AnswerTimeout = 500; // ms
 
 const QString& WindowManager::serverName()
 {
-    static const QString s_name = u"VORNAppLocalServer"_s;
+    static const QString s_name = platform::instanceServerName(u"VORNAppLocalServer"_s);
     return s_name;
 }
 
@@ -41,14 +42,12 @@ WindowManager::~WindowManager()
     Log::info("WindowManager::~WindowManager") << "~WindowManager";
 }
 
-/// With access options Qt replaces an existing socket file, so first it is checked whether another
-/// process listens. A socket file without a listener is left over from a crash.
+/// A socket file without a listener is left over from a crash.
 bool WindowManager::listen()
 {
     if (isServerAnswering())
         return false;
     QLocalServer::removeServer(serverName());
-    m_localServer->setSocketOptions(QLocalServer::UserAccessOption);
     return m_localServer->listen(serverName());
 }
 
@@ -82,6 +81,11 @@ void WindowManager::showTrayIcon()
 void WindowManager::closeServer()
 {
     m_localServer->close();
+    // Without an answer these starts know that they have to run themselves.
+    for (auto* const socket : m_localServer->findChildren<QLocalSocket*>()) {
+        socket->disconnect(this);
+        socket->abort();
+    }
 }
 
 /// Shows the window when the peer has sent its bytes or disconnected; before that the peer may
@@ -96,6 +100,8 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
 {
     const auto reopen = [this, socket] {
         socket->disconnect(this);
+        socket->write("shown"); // tells the second start that its request is not lost
+        socket->flush();
         socket->deleteLater();
         Log::info("WindowManager::onNewConnection") << "VORNApp reopen!";
         emit requestShow(true);

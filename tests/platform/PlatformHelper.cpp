@@ -4,7 +4,7 @@
 
 #include "platform/CrashHandler.h"
 #include "platform/Folders.h"
-#include "platform/InstanceSegment.h"
+#include "platform/InstanceObjects.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
 #include "platform/ThreadName.h"

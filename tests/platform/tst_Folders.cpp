@@ -1,4 +1,5 @@
 #include "platform/Folders.h"
+#include "platform/InstanceObjects.h"
 #include "platform/VersionResource.h"
 #include "rig/HelperProcess.h"
 
@@ -45,6 +46,7 @@ private slots:
     void keepsSettingsBesideTheExecutableIfItCanWrite();
     void translatesProgramNames();
     void hasAVersionForTheRunningProgramOnly();
+    void keepsInstanceObjectsInFoldersOfTheUser();
 
 private:
     // Answer of the helper installed in `folder`, run by a user without root's permissions.
@@ -143,6 +145,25 @@ void tst_Folders::hasAVersionForTheRunningProgramOnly()
     for (const QString& other : {u"/bin/sh"_s, u"sh"_s, u"/missing"_s, QString(),
                                  HelperProcess::path(u"platform_helper"_s)})
         QVERIFY2(!platform::fileVersions(other), qPrintable(other));
+}
+
+void tst_Folders::keepsInstanceObjectsInFoldersOfTheUser()
+{
+    if (::geteuid() != 0)
+        QSKIP("Only root can give a folder to another user.");
+    const auto folder = [] { return QFileInfo(platform::instanceServerName(u"s"_s)).path(); };
+    const QString runtime = m_home->filePath(u"run"_s);
+    const QString own = m_home->filePath(u"VORNApp-0"_s);
+    qputenv("XDG_RUNTIME_DIR", runtime.toUtf8());
+    qputenv("TMPDIR", m_home->path().toUtf8());
+    QVERIFY(QDir().mkdir(runtime));
+    QCOMPARE(folder(), runtime);
+    QCOMPARE(::chown(qPrintable(runtime), Nobody, Nobody), 0);
+    QCOMPARE(folder(), own);
+    QCOMPARE(::chown(qPrintable(own), Nobody, Nobody), 0);
+    QCOMPARE(folder(), u"/tmp/VORNApp-0"_s);
+    platform::removeInstanceFolder();
+    QVERIFY(!QFile::exists(u"/tmp/VORNApp-0"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_Folders)

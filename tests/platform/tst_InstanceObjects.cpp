@@ -1,4 +1,4 @@
-#include "platform/InstanceSegment.h"
+#include "platform/InstanceObjects.h"
 #include "rig/HelperProcess.h"
 
 #include <QTemporaryDir>
@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_InstanceSegment : public QObject
+class tst_InstanceObjects : public QObject
 {
     Q_OBJECT
 
@@ -18,12 +18,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-void tst_InstanceSegment::initTestCase()
+void tst_InstanceObjects::initTestCase()
 {
     qputenv("TMPDIR", m_folder.path().toUtf8());
 }
 
-void tst_InstanceSegment::excludesOtherProcesses()
+void tst_InstanceObjects::excludesOtherProcesses()
 {
     const QString key = uniqueName(u"vorn_test_lock_"_s);
     HelperProcess holder;
@@ -38,5 +38,5 @@ void tst_InstanceSegment::excludesOtherProcesses()
     QCOMPARE(platform::InstanceLock(key, 20).isHeld(), IsWindows);
 }
 
-QTEST_GUILESS_MAIN(tst_InstanceSegment)
-#include "tst_InstanceSegment.moc"
+QTEST_GUILESS_MAIN(tst_InstanceObjects)
+#include "tst_InstanceObjects.moc"
