@@ -3,6 +3,7 @@
 #include "app/LoadCustomFont.h"
 #include "app/LogInit.h"
 #include "app/Program.h"
+#include "app/QtMessages.h"
 #include "app/Revision.h"
 #include "app/SingleInstance.h"
 #include "app/Translations.h"
@@ -65,11 +66,17 @@ void logProgram(const QString& appPath, const QString& fileName)
     Log::info("main") << "commit:" << sourceRevision();
 }
 
-// A Windows program has no console, so errors of the pages go to the log.
-void logQmlWarnings(const QList<QQmlError>& warnings)
+/// A second start brings the box to the front, as it would the window.
+void showLoadError(const WindowManager& windows)
 {
-    for (const QQmlError& warning : warnings)
-        Log::warning("main") << warning.toString();
+    QMessageBox box(QMessageBox::Critical, errorTitle(),
+                    QCoreApplication::translate("main", "QQmlApplicationEngine load error!"),
+                    QMessageBox::Ok);
+    QObject::connect(&windows, &WindowManager::requestShow, &box, [&box] {
+        box.raise();
+        box.activateWindow();
+    });
+    box.exec();
 }
 
 } // namespace
@@ -92,6 +99,7 @@ int main(int argc, char* argv[])
     const QString appPath = executable.absolutePath();
     const QString fileName = executable.fileName();
     InitLog(platform::programDataFolder(), platform::logBackupFolder(), fileName, KeptLogFiles);
+    logQtMessages([&instance] { instance.release(); });
     platform::installCrashHandler(reportCrashLine);
 
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -108,7 +116,6 @@ int main(int argc, char* argv[])
 
     qml_register_types_VORNApp();
     auto engine = std::make_unique<QQmlApplicationEngine>();
-    QObject::connect(engine.get(), &QQmlEngine::warnings, &app, logQmlWarnings);
     FirstFrame firstFrame(*engine, QUrl(u"qrc:/Main.qml"_s));
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
     firstFrame.serveLoader();
@@ -124,9 +131,7 @@ int main(int argc, char* argv[])
 
     if (!firstFrame.load(program.windowManager())) {
         Log::error("main") << "QQmlApplicationEngine load error";
-        QMessageBox::critical(
-            nullptr, errorTitle(),
-            QCoreApplication::translate("main", "QQmlApplicationEngine load error!"));
+        showLoadError(program.windowManager());
         engine.reset(); // before the objects in its context
         return LoadFailure;
     }
