@@ -9,6 +9,7 @@
 
 #include <qt_windows.h>
 
+#include <array>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,13 @@ UINT systemCodePage()
 
 namespace platform
 {
+
+QString systemTool(const QString& path)
+{
+    std::array<wchar_t, MAX_PATH> folder{};
+    GetSystemDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
+    return QString::fromWCharArray(folder.data()) + u'\\' + path;
+}
 
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
                 std::chrono::milliseconds patience, const std::stop_token& stop)

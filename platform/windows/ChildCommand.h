@@ -11,6 +11,10 @@ class QProcess;
 namespace platform
 {
 
+/// Full path of a tool in the system folder, so that a program of the same name elsewhere, for
+/// example beside ours, is never run.
+[[nodiscard]] QString systemTool(const QString& path);
+
 /// Runs one of the system's command-line tools and waits for its end. False when it could not
 /// start, crashed, did not end in time, or the stop was requested or the calling QThread
 /// interrupted meanwhile; it is killed then.

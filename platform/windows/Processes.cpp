@@ -13,7 +13,8 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
                             const std::stop_token& stop)
 {
     QProcess process;
-    if (!runCommand(process, u"taskkill"_s, {u"/IM"_s, name, u"/F"_s}, patience, stop))
+    if (!runCommand(process, systemTool(u"taskkill.exe"_s), {u"/IM"_s, name, u"/F"_s}, patience,
+                    stop))
         return {false, -1, process.errorString()};
     return {true, process.exitCode(), toolOutput(process.readAllStandardError())};
 }
@@ -22,8 +23,8 @@ RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds pat
                               const std::stop_token& stop)
 {
     QProcess process;
-    if (!runCommand(process, u"tasklist"_s, {u"/FI"_s, u"IMAGENAME eq %1"_s.arg(name)}, patience,
-                    stop))
+    if (!runCommand(process, systemTool(u"tasklist.exe"_s),
+                    {u"/FI"_s, u"IMAGENAME eq %1"_s.arg(name)}, patience, stop))
         return {false, false};
     return {true, QString::fromUtf8(process.readAll()).contains(name)};
 }

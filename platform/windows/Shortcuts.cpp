@@ -19,7 +19,8 @@ ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds pat
 
     QProcess process;
     ShortcutTarget result;
-    result.finished = runCommand(process, u"powershell"_s, {u"-Command"_s, script}, patience);
+    result.finished = runCommand(process, systemTool(u"WindowsPowerShell\\v1.0\\powershell.exe"_s),
+                                 {u"-Command"_s, script}, patience);
     if (!result.finished) {
         result.processError = process.errorString();
         return result;
