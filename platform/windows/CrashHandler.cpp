@@ -2,23 +2,18 @@
 
 #include "platform/windows/StackReserve.h"
 
-#include <QCoreApplication>
-#include <QDateTime>
-#include <QFile>
-
 #include <qt_windows.h>
 
 #include <dbghelp.h>
-#include <io.h>
 
 #include <array>
 #include <atomic>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <string_view>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -39,33 +34,60 @@ std::terminate_handler g_previousTerminate = nullptr;
 
 std::atomic<DWORD> g_reporter{0}; // the thread that crashed first
 
-QString dumpFileName(DWORD thread)
+// The crashed thread may hold the lock of the heap, so the dump is named, written and reported
+// without memory from it.
+std::array<wchar_t, MAX_PATH> g_program{};
+std::array<wchar_t, 2 * MAX_PATH> g_fileName{};
+std::array<char, 4 * MAX_PATH> g_outcome{};
+
+void storeProgramName()
 {
-    return u".\\%1-%2-%3-%4.dmp"_s.arg(QCoreApplication::applicationName(),
-                                       QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s),
-                                       QString::number(QCoreApplication::applicationPid()),
-                                       QString::number(thread));
+    std::array<wchar_t, MAX_PATH> path{};
+    GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()) - 1);
+    const std::wstring_view file(path.data());
+    const std::wstring_view name = file.substr(file.find_last_of(L'\\') + 1);
+    name.substr(0, name.rfind(L'.')).copy(g_program.data(), g_program.size() - 1);
 }
 
-QString writeDump(DWORD thread, EXCEPTION_POINTERS* exceptionPointers)
+void nameDump(DWORD thread)
 {
-    const QString name = dumpFileName(thread);
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return "Failed to create dump file:"_L1 + name;
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    _snwprintf(g_fileName.data(), g_fileName.size() - 1,
+               L".\\%ls-%04u%02u%02u-%02u%02u%02u-%lu-%lu.dmp", g_program.data(), now.wYear,
+               now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, GetCurrentProcessId(),
+               thread);
+}
 
+void setOutcome(const char* text)
+{
+    std::array<char, 3 * MAX_PATH> name{};
+    WideCharToMultiByte(CP_UTF8, 0, g_fileName.data(), -1, name.data(),
+                        static_cast<int>(name.size()) - 1, nullptr, nullptr);
+    std::snprintf(g_outcome.data(), g_outcome.size(), "%s%s", text, name.data());
+}
+
+void writeDump(DWORD thread, EXCEPTION_POINTERS* exceptionPointers)
+{
+    nameDump(thread);
+    const HANDLE file = CreateFileW(g_fileName.data(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        setOutcome("Failed to create dump file:");
+        return;
+    }
     MINIDUMP_EXCEPTION_INFORMATION information{};
     information.ThreadId = thread;
     information.ExceptionPointers = exceptionPointers;
     information.ClientPointers = TRUE;
-    const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
-    const BOOL written = MiniDumpWriteDump(GetCurrentProcess(), GetCurrentProcessId(), handle,
+    const BOOL written = MiniDumpWriteDump(GetCurrentProcess(), GetCurrentProcessId(), file,
                                            MiniDumpNormal, &information, nullptr, nullptr);
     const DWORD error = GetLastError();
-    file.close();
-    if (!written)
-        return "Failed to write dump file:"_L1 + QString::number(error);
-    return "Dump file created successfully at:"_L1 + name;
+    CloseHandle(file);
+    if (written)
+        setOutcome("Dump file created successfully at:");
+    else
+        std::snprintf(g_outcome.data(), g_outcome.size(), "Failed to write dump file:%lu", error);
 }
 
 /// Writes the dump and the log lines on a thread of its own, because the crashed thread may have no
@@ -81,10 +103,10 @@ struct Reporter {
     void run()
     {
         WaitForSingleObject(wake, INFINITE);
-        const QByteArray outcome = writeDump(thread, exceptionPointers).toUtf8();
+        writeDump(thread, exceptionPointers);
         SetEvent(written);
         writeLine("Creating dump file...");
-        writeLine(outcome.constData());
+        writeLine(g_outcome.data());
         SetEvent(logged);
     }
 };
@@ -187,6 +209,7 @@ namespace platform
 
 void installCrashHandler(CrashLine writeLine)
 {
+    storeProgramName();
     startReporter(writeLine);
     reserveStackForCrash();
     SetUnhandledExceptionFilter(onUnhandledException);
