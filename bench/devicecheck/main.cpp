@@ -1,4 +1,5 @@
 // Cost of one device-check round beyond the enumeration itself.
+#include "bench/Measure.h"
 #include "peripherals/DeviceCheck.h"
 #include "platform/DeviceEnumeration.h"
 
@@ -6,10 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <chrono>
 #include <cstdio>
-#include <numeric>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +28,7 @@ void write(const QString& path, const QByteArray& content)
         qFatal("cannot write %s", qPrintable(path));
 }
 
-/// Twelve devices, as many as a PC with a dock and a display has.
+/// Twelve devices, as on a PC with a dock and a display.
 void plugDevices(const QString& root)
 {
     for (int i = 0; i < 4; ++i) {
@@ -56,20 +54,6 @@ int listDevices()
     return static_cast<int>(devices.size());
 }
 
-template <typename Body>
-double secondsOf(Body body)
-{
-    const auto start = std::chrono::steady_clock::now();
-    body();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-/// One round in twenty lists the devices even without a change; a median would hide its cost.
-double mean(const std::vector<double>& values)
-{
-    return std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());
-}
-
 } // namespace
 
 int main()
@@ -85,14 +69,16 @@ int main()
     const int devices = listDevices();
     check.checkDevices(status);
 
-    // Measured in turn, so that both run under the same load of the machine.
-    std::vector<double> bare;
-    std::vector<double> round;
+    // Both run alternately, so that they meet the same disturbances. The mean is compared because
+    // one round in twenty lists the devices even if nothing changed, which a median would leave
+    // out.
+    bench::Values bare;
+    bench::Values round;
     for (int i = 0; i < 2000; ++i) {
-        bare.push_back(secondsOf(listDevices));
-        round.push_back(secondsOf([&] { check.checkDevices(status); }));
+        bare.push_back(bench::microsecondsOf(listDevices));
+        round.push_back(bench::microsecondsOf([&] { check.checkDevices(status); }));
     }
     std::printf("device check round: ratio %.2f against a bare enumeration (%d devices, %.0f us)\n",
-                mean(round) / mean(bare), devices, mean(bare) * 1e6);
+                bench::mean(round) / bench::mean(bare), devices, bench::mean(bare));
     return 0;
 }

@@ -1,19 +1,15 @@
-// Compares a line of our log with a plain line of glog. glog is process-wide, so two child
-// processes write the lines, and the parent runs them in turn.
+// Compares a line of our log with a bare line of glog. glog has one configuration per process, so
+// two child processes write the lines, in turn.
 #include "app/LogInit.h"
-#include "bench/Quantile.h"
+#include "bench/Measure.h"
 #include "logging/Log.h"
 
 #include <glog/logging.h>
 
 #include <QCoreApplication>
-#include <QProcess>
 #include <QTemporaryDir>
 
-#include <chrono>
 #include <cstdio>
-#include <string>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +19,6 @@ namespace
 constexpr int LineCount = 2000;
 constexpr int RoundCount = 61;
 constexpr double Aim = 1.20;
-constexpr int ReplyTimeoutMs = 60'000;
 
 void startBareGlog(const QString& folder)
 {
@@ -38,7 +33,7 @@ void startBareGlog(const QString& folder)
 void startOurs(const QString& folder)
 {
     InitLog(folder, folder + u"/back/"_s, u"ours"_s, 5);
-    FLAGS_alsologtostderr = false; // measure the file only
+    FLAGS_alsologtostderr = false; // measures the file only
 }
 
 void writeBareLine(int number)
@@ -51,64 +46,42 @@ void writeOurLine(int number)
     Log::info("DeviceControl::setVolume") << "volume:" << number << ", new:" << number + 1;
 }
 
-/// Writes a batch of lines for each character on standard input and prints nanoseconds per line.
+/// For each line of standard input, writes a batch of log lines and answers with nanoseconds per
+/// line.
 int runChild(void (*writeLine)(int))
 {
-    using Clock = std::chrono::steady_clock;
     for (int character = std::getchar(); character != EOF; character = std::getchar()) {
-        const auto start = Clock::now();
-        for (int number = 0; number < LineCount; ++number)
-            writeLine(number);
-        const std::chrono::duration<double, std::nano> taken = Clock::now() - start;
-        std::printf("%.1f\n", taken.count() / LineCount);
+        const double taken = bench::microsecondsOf([writeLine] {
+            for (int number = 0; number < LineCount; ++number)
+                writeLine(number);
+        });
+        std::printf("%.1f\n", taken * 1000 / LineCount);
         std::fflush(stdout);
     }
     return 0;
 }
 
-class Child
+// Has the child write a batch. Returns nanoseconds per line, or 0 if the child has ended.
+double runBatch(bench::Child& child)
 {
-public:
-    Child(const QString& mode, const QString& folder)
-    {
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QCoreApplication::applicationFilePath(), {mode, folder});
-    }
-    ~Child()
-    {
-        m_process.closeWriteChannel();
-        m_process.waitForFinished();
-    }
-    Q_DISABLE_COPY_MOVE(Child)
-
-    /// Nanoseconds per line, or 0 if the child has ended.
-    double runBatch()
-    {
-        m_process.write("\n");
-        while (!m_process.canReadLine()) {
-            if (!m_process.waitForReadyRead(ReplyTimeoutMs))
-                return 0;
-        }
-        return m_process.readLine().trimmed().toDouble();
-    }
-
-private:
-    QProcess m_process;
-};
+    child.write("\n");
+    return child.readLine().toDouble();
+}
 
 int compare()
 {
     const QTemporaryDir folder;
-    Child bare(u"bare"_s, folder.path());
-    Child ours(u"ours"_s, folder.path());
-    std::vector<double> bareTimes;
-    std::vector<double> ourTimes;
-    std::vector<double> ratios;
+    const QString program = QCoreApplication::applicationFilePath();
+    bench::Child bare(program, {u"bare"_s, folder.path()});
+    bench::Child ours(program, {u"ours"_s, folder.path()});
+    bench::Values bareTimes;
+    bench::Values ourTimes;
+    bench::Values ratios;
     for (int round = 0; round < RoundCount; ++round) {
-        // The order alternates, so that a drift of the machine's speed cancels out.
+        // The order alternates, so that a drift of the machine affects both alike.
         const bool bareFirst = round % 2 == 0;
-        const double first = bareFirst ? bare.runBatch() : ours.runBatch();
-        const double second = bareFirst ? ours.runBatch() : bare.runBatch();
+        const double first = bareFirst ? runBatch(bare) : runBatch(ours);
+        const double second = bareFirst ? runBatch(ours) : runBatch(bare);
         if (first <= 0 || second <= 0) {
             std::fputs("log line: a child process gave no answer\n", stderr);
             return 1;
@@ -118,7 +91,8 @@ int compare()
         ratios.push_back(ourTimes.back() / bareTimes.back());
     }
     std::printf("log line: ratio %.2f (aim %.2f); ours %.2f us, bare glog %.2f us\n",
-                median(ratios), Aim, median(ourTimes) / 1000, median(bareTimes) / 1000);
+                bench::median(ratios), Aim, bench::median(ourTimes) / 1000,
+                bench::median(bareTimes) / 1000);
     return 0;
 }
 

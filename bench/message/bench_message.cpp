@@ -1,13 +1,10 @@
-#include "bench/Quantile.h"
+#include "bench/Measure.h"
 #include "rig/Fakes.h"
 
 #include <glog/logging.h>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
-
-#include <cstdio>
 
 namespace
 {
@@ -21,7 +18,7 @@ std::string volumeMessage(int i)
            std::to_string(i % 2 == 0 ? 30 : 60) + "}";
 }
 
-/// The minimum for a reply: parse the message, change its type, serialise it.
+/// The minimum work for an answer: parse the message, change its type, serialise it.
 std::string bareReply(const std::string& text)
 {
     QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
@@ -32,25 +29,24 @@ std::string bareReply(const std::string& text)
 template <typename Work>
 double microsecondsEach(Work work)
 {
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < MessagesPerRound; ++i)
-        work(volumeMessage(i));
-    return double(timer.nsecsElapsed()) / 1000 / MessagesPerRound;
+    const double taken = bench::microsecondsOf([&] {
+        for (int i = 0; i < MessagesPerRound; ++i)
+            work(volumeMessage(i));
+    });
+    return taken / MessagesPerRound;
 }
 
-/// Measures both in turn, so that both run under the same load of the machine.
+/// Runs both alternately, so that they meet the same state of the machine.
 template <typename Baseline, typename Work>
 void compare(const char* what, Baseline baseline, Work work)
 {
-    std::vector<double> baselines;
-    std::vector<double> times;
+    bench::Values baselines;
+    bench::Values times;
     for (int round = 0; round < Rounds; ++round) {
         baselines.push_back(microsecondsEach(baseline));
         times.push_back(microsecondsEach(work));
     }
-    std::printf("%s: ratio %.2f (%.2f us against %.2f us; aim 2)\n", what,
-                median(times) / median(baselines), median(times), median(baselines));
+    bench::printRatio(what, bench::median(times), bench::median(baselines), "us", 2);
 }
 
 } // namespace

@@ -13,29 +13,21 @@ qint64 now()
 }
 
 FrameSource::FrameSource(const QString& mappingName, const QString& eventName)
+    : m_writer(QCoreApplication::applicationDirPath() + "/frame_writer"_L1,
+               {mappingName, eventName})
 {
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QCoreApplication::applicationDirPath() + "/frame_writer"_L1,
-                    {mappingName, eventName});
-    m_process.write("mapping " + QByteArray::number(qulonglong(framelayout::MappingSize)) +
-                    "\nevent\n");
-    QByteArray answers;
-    while (answers.count('\n') < 3 && m_process.waitForReadyRead())
-        answers += m_process.readAll();
-    if (answers.count("ok") != 2)
-        qFatal("the writing process did not make its objects");
-}
-
-FrameSource::~FrameSource()
-{
-    m_process.closeWriteChannel();
-    if (!m_process.waitForFinished())
-        m_process.kill();
+    m_writer.readLine(); // the program is ready
+    for (const QByteArray& command :
+         {"mapping " + QByteArray::number(qulonglong(framelayout::MappingSize)) + '\n',
+          "event\n"_ba}) {
+        m_writer.write(command);
+        if (m_writer.readLine() != "ok")
+            qFatal("the writing process did not make its objects");
+    }
 }
 
 void FrameSource::write(int count, std::chrono::microseconds interval)
 {
-    m_process.write("stamped " + QByteArray::number(count) + ' ' +
-                    QByteArray::number(qint64(interval.count())) + '\n');
-    m_process.waitForBytesWritten();
+    m_writer.write("stamped " + QByteArray::number(count) + ' ' +
+                   QByteArray::number(qint64(interval.count())) + '\n');
 }

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QProcess>
+#include "bench/Measure.h"
+
 #include <QString>
 
 #include <chrono>
 
-/// Microseconds of a clock that all processes of this machine share.
+/// Microseconds of a clock that is the same in all processes.
 qint64 now();
 
 /// The process that writes frames of 3840 x 2160 into the shared memory, each with the time when it
@@ -15,11 +16,10 @@ class FrameSource
 public:
     /// Starts the process and waits until it has made its objects.
     FrameSource(const QString& mappingName, const QString& eventName);
-    ~FrameSource();
 
-    /// Requests frames and returns at once.
+    /// Has frames written. Returns at once.
     void write(int count, std::chrono::microseconds interval);
 
 private:
-    QProcess m_process;
+    bench::Child m_writer;
 };

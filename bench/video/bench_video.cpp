@@ -1,4 +1,4 @@
-#include "bench/Quantile.h"
+#include "bench/Measure.h"
 #include "bench/video/FrameSource.h"
 #include "bench/video/MemoryUse.h"
 #include "device/FrameHeader.h"
@@ -33,10 +33,11 @@ namespace
 constexpr std::size_t LumaSize = 3840 * 2160;
 constexpr std::size_t ChromaSize = LumaSize / 2;
 constexpr std::size_t DataOffset = 1 + FrameHeader::HeaderSize;
-constexpr std::size_t FirstFrames =
-    12; // not counted, since their memory is touched for the first time
+constexpr std::size_t FirstFrames = 12; // until all pages are mapped
 
-using Times = std::vector<double>; // microseconds
+using Times = bench::Values; // microseconds
+using bench::median;
+using bench::quantile;
 
 /// Two bare copies of a frame's bytes into warm buffers, one after another.
 class BareCopy
@@ -55,7 +56,7 @@ private:
     std::size_t m_next = 0;
 };
 
-/// Wraps a channel and records when a wait ended.
+/// Wraps a channel and records the time at which a wait ends.
 class TimedChannel : public FrameChannel
 {
 public:
@@ -97,7 +98,7 @@ struct Names {
     }
 };
 
-/// The program's path from the shared memory to a sink, with measurements.
+/// The program's path from the shared memory to a sink, with time measurements.
 class Path
 {
 public:
@@ -119,8 +120,8 @@ public:
     ~Path() { m_worker->end(); }
     Q_DISABLE_COPY_MOVE(Path)
 
-    /// Requests frames and runs the event loop until no more arrive. Some frames are skipped when
-    /// the machine is busy.
+    /// Has frames written and runs the event loop until no more arrive. On a busy machine a few are
+    /// skipped.
     void receive(FrameSource& source, int count, std::chrono::microseconds interval)
     {
         constexpr auto Silence = 1s;
@@ -143,7 +144,7 @@ public:
         faults.clear();
     }
 
-    // Accessed only while nothing is received.
+    // Accessed only while no frames are received.
     bool isCompared = false;              ///< a bare copy follows each frame
     std::chrono::milliseconds slowness{}; ///< time that the sink takes for each frame
     Times copies;
@@ -188,7 +189,7 @@ private:
     std::unique_ptr<Worker> m_worker;
 };
 
-/// Times from the announcement to the end of two bare copies, without code of the program.
+/// Time from the announcement to the end of two bare copies, without the program's code.
 Times bareLatencies(const Names& names, FrameSource& source, int count)
 {
     const auto channel = names.channel();
@@ -261,7 +262,7 @@ void watchMemory(const Names& names, FrameSource& source)
     const qint64 before = residentBytes();
     std::size_t received = 0;
     while (received < Count) {
-        path.forget(); // so that the measurements do not count as growth
+        path.forget(); // the measurements would count as growth
         path.receive(source, Batch, Interval);
         received += path.copies.size();
     }
