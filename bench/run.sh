@@ -26,6 +26,9 @@ step "Ratios"
 "$bin/bench_video"
 dbus-run-session -- "$bin/bench_program"
 
+step "Floods"
+dbus-run-session -- "$bin/bench_flood"
+
 step "Processes spawned by the status loop"
 env HOME="$home" XDG_STATE_HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR="$home" TMPDIR="$home" \
   QT_QPA_PLATFORM=offscreen timeout -s TERM 20 \

@@ -1,0 +1,158 @@
+#include "bench/flood/FloodedProgram.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr auto PollInterval = 5ms;
+constexpr qint64 MaxUnwritten = qint64{1} * 1024 * 1024;
+
+} // namespace
+
+FloodedProgram::FloodedProgram()
+{
+    install();
+    m_display.listen(m_home.filePath(u"portalhub"_s));
+    QObject::connect(&m_display, &QLocalServer::newConnection, &m_display, [this] {
+        m_channel = m_display.nextPendingConnection();
+        QObject::connect(m_channel, &QLocalSocket::readyRead, m_channel, [this] { readReplies(); });
+    });
+    m_run = std::make_unique<ProgramRun>(m_home.filePath(u"app/VORNApp"_s), m_home.path());
+    if (!waitUntil([this] { return m_channel != nullptr; }))
+        qFatal("The program did not connect to the display.");
+    m_probe = std::make_unique<Probe>(m_home.path());
+}
+
+// The program keeps its settings in its own folder, so it runs from a copy.
+void FloodedProgram::install()
+{
+    const QDir source = QFileInfo(QStringLiteral(VORN_PROGRAM)).dir();
+    const QString folder = m_home.filePath(u"app"_s);
+    QDir().mkpath(folder);
+    const QFileInfoList files = source.entryInfoList(
+        {u"VORNApp"_s, u"PatchPilot"_s, u"config.json"_s, u"libPortalHub.so*"_s}, QDir::Files);
+    for (const QFileInfo& file : files)
+        QFile::copy(file.filePath(), folder + u'/' + file.fileName());
+    QSettings config(folder + u"/config.ini"_s, QSettings::IniFormat);
+    config.setValue(u"VORNApp/use_remote_device"_s, true);
+}
+
+bool FloodedProgram::waitUntil(const std::function<bool()>& isDone,
+                               std::chrono::milliseconds patience)
+{
+    QEventLoop loop;
+    QTimer poll;
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (isDone())
+            loop.quit();
+    });
+    poll.start(PollInterval);
+    loop.exec();
+    return isDone();
+}
+
+FloodedProgram::Figures FloodedProgram::measure(const std::function<void()>& flood)
+{
+    const double logBefore = logMegabytes();
+    m_probe->take();
+    flood();
+    const bench::Values answers = m_probe->take();
+    Figures figures;
+    if (!answers.empty()) {
+        figures.worst = std::ranges::max(answers);
+        figures.percentile = bench::quantile(answers, 0.99);
+    }
+    figures.resident = m_run->residentMegabytes();
+    figures.log = logMegabytes() - logBefore;
+    return figures;
+}
+
+int FloodedProgram::send(int count, const std::function<QByteArray(int)>& message,
+                         int expectedReplies)
+{
+    m_replies = 0;
+    int sent = 0;
+    QEventLoop loop;
+    const auto write = [&] {
+        for (; sent < count && m_channel->bytesToWrite() < MaxUnwritten; ++sent)
+            m_channel->write(message(sent));
+        if (sent == count)
+            loop.quit();
+    };
+    QObject::connect(m_channel, &QLocalSocket::bytesWritten, &loop, write);
+    QTimer::singleShot(0, &loop, write);
+    loop.exec();
+    // Waits as long as replies arrive.
+    qint64 before = -1;
+    while (m_replies < expectedReplies && m_replies != before) {
+        before = m_replies;
+        waitUntil([&] { return m_replies >= expectedReplies; });
+    }
+    return int(m_replies);
+}
+
+void FloodedProgram::readReplies()
+{
+    constexpr QByteArrayView Acknowledgement = "\"type\":3";
+    const QByteArray bytes = m_tail + m_channel->readAll();
+    m_tail = bytes.right(Acknowledgement.size() - 1);
+    for (qsizetype at = bytes.indexOf(Acknowledgement); at >= 0;
+         at = bytes.indexOf(Acknowledgement, at + 1))
+        ++m_replies;
+}
+
+QByteArray FloodedProgram::registryValue() const
+{
+    QFile file(m_home.filePath(u"VORNApp/registry.ini"_s));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray text = file.readAll();
+    const QByteArray key = "disable_local_dev=";
+    const qsizetype at = text.indexOf(key);
+    return at < 0 ? QByteArray() : text.mid(at + key.size(), 1);
+}
+
+QStringList FloodedProgram::logFiles() const
+{
+    QStringList found;
+    QDirIterator files(m_home.path(), {u"*.log"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        found.append(files.next());
+    return found;
+}
+
+double FloodedProgram::logMegabytes() const
+{
+    double bytes = 0;
+    for (const QString& name : logFiles())
+        bytes += double(QFileInfo(name).size());
+    return bytes / 1e6;
+}
+
+bool FloodedProgram::hasLogged(const QByteArray& text) const
+{
+    const QStringList names = logFiles();
+    return std::ranges::any_of(names, [&text](const QString& name) {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) && file.readAll().contains(text);
+    });
+}
+
+bool FloodedProgram::quit()
+{
+    m_probe.reset();
+    return m_run->quit();
+}

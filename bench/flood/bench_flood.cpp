@@ -1,0 +1,180 @@
+// bench_flood [<scale>]   floods the program on each of its inputs and compares it with the quiet
+// program of the same run. A scale below 1 shortens the floods. Exits with 1 if an aim is missed.
+#include "bench/flood/FloodedProgram.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <QUdpSocket>
+
+#include <cstdio>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Figures = FloodedProgram::Figures;
+
+namespace
+{
+
+constexpr quint16 UdpPort = 49175;
+constexpr double LongestAnswer = 2000; // milliseconds
+constexpr double LargestMemoryRatio = 1.2;
+constexpr double LargestLog = 64 + 8; // MB: the bound of the log and the file being written
+
+bool g_failed = false;
+
+void check(bool isMet, const char* what)
+{
+    std::printf("  [%c] %s\n", isMet ? 'x' : ' ', what);
+    std::fflush(stdout);
+    g_failed = g_failed || !isMet;
+}
+
+void printFigures(const char* what, const Figures& figures, const Figures& quiet)
+{
+    std::printf(
+        "%s\n  answers of the main thread: 99th percentile %.1f ms (ratio %.1f), worst %.0f "
+        "ms (ratio %.1f)\n  memory: %.0f MB (ratio %.2f); log: grew by %.1f MB\n",
+        what, figures.percentile, figures.percentile / quiet.percentile, figures.worst,
+        figures.worst / quiet.worst, figures.resident, figures.resident / quiet.resident,
+        figures.log);
+    check(figures.worst < LongestAnswer, "the window answers within 2 s");
+    check(figures.resident / quiet.resident < LargestMemoryRatio, "memory is flat");
+    check(figures.log < LargestLog, "the log is within its bound");
+}
+
+void stayQuiet(std::chrono::milliseconds duration)
+{
+    QEventLoop loop;
+    QTimer::singleShot(duration, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// Sends datagrams without a pause. Returns their number.
+qint64 floodUdp(std::chrono::milliseconds duration)
+{
+    const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(UdpPort);
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    const QByteArray data(100, '\x5a');
+    qint64 sent = 0;
+    const QDeadlineTimer deadline(duration);
+    while (!deadline.hasExpired()) {
+        for (int i = 0; i < 100; ++i) {
+            if (::sendto(socket, data.constData(), std::size_t(data.size()), 0,
+                         reinterpret_cast<const sockaddr*>(&address), sizeof address) >= 0)
+                ++sent;
+        }
+    }
+    ::close(socket);
+    return sent;
+}
+
+void testUdp(FloodedProgram& program, const Figures& quiet, double scale)
+{
+    qint64 sent = 0;
+    const Figures figures = program.measure(
+        [&] { sent = floodUdp(std::chrono::milliseconds(qint64(10'000 * scale))); });
+    std::printf("%lld datagrams", static_cast<long long>(sent));
+    printFigures(" on the UDP port", figures, quiet);
+    QUdpSocket socket;
+    bool isRead = false;
+    for (int i = 0; i < 30 && !isRead; ++i) { // the first datagrams may still meet a full socket
+        socket.writeDatagram("after the flood", QHostAddress::LocalHost, UdpPort);
+        isRead = program.waitUntil(
+            [&] { return program.hasLogged(QByteArray("after the flood").toHex(' ').toUpper()); },
+            1s);
+    }
+    check(isRead, "a datagram after the flood is read");
+}
+
+QByteArray sourceMessage(int number)
+{
+    const bool isByod = number % 2 == 1;
+    return "6 {\"byod_status\":" + QByteArray(isByod ? "2" : "1") +
+           ",\"cmd\":6,\"is_byodui_show\":1,\"seq\":" + QByteArray::number(number) +
+           ",\"type\":2,\"zoom_status\":1}\n";
+}
+
+void testSource(FloodedProgram& program, const Figures& quiet, double scale)
+{
+    const int count = int(100'000 * scale) * 2; // even, so that the last state is BYOD
+    int replies = 0;
+    const Figures figures =
+        program.measure([&] { replies = program.send(count, sourceMessage, count); });
+    std::printf("%d changes of message 6", count);
+    printFigures("", figures, quiet);
+    check(replies == count, "each is acknowledged");
+    check(program.waitUntil([&] { return program.registryValue() == "1"; }),
+          "the registry holds the last state");
+}
+
+// Four valid changes of the volume, then a malformed message.
+QByteArray channelMessage(int number)
+{
+    static const QByteArrayList s_malformed{
+        "1 \n"_ba,
+        "1 {\"cmd\":1,\"type\":2,\"vol\n"_ba,
+        "1 [1,2,3]\n"_ba,
+        "1 17\n"_ba,
+        "1 {\"cmd\":\"1\",\"type\":[],\"seq\":{},\"volume\":null}\n"_ba,
+        "1 {\"cmd\":11,\"type\":1,\"ota_ver\":\"\xff\xc0\xaf\"}\n"_ba,
+        "{\"cmd\":1}\n"_ba,
+        "99999999999999999999 {\"cmd\":1}\n"_ba};
+    if (number % 5 == 4)
+        return s_malformed.at(number / 5 % s_malformed.size());
+    return "1 {\"cmd\":1,\"seq\":" + QByteArray::number(number) +
+           ",\"type\":2,\"volume\":" + QByteArray::number(number % 101) + "}\n";
+}
+
+void testMessages(FloodedProgram& program, const Figures& quiet, double scale)
+{
+    const int count = int(200'000 * scale) * 5;
+    const int expected = count / 5 * 4;
+    int replies = 0;
+    const Figures figures =
+        program.measure([&] { replies = program.send(count, channelMessage, expected); });
+    std::printf("%d channel messages, a fifth of them malformed", count);
+    printFigures("", figures, quiet);
+    check(replies == expected, "each valid message is acknowledged");
+}
+
+// The last state before the end is "available", for which the value is 0.
+void testQuit(FloodedProgram& program, double scale)
+{
+    const int count = int(10'000 * scale) * 2 + 1;
+    const int replies = program.send(count, sourceMessage, count);
+    std::printf("%d changes of message 6, and the end at once\n", count);
+    check(replies == count, "each is acknowledged");
+    check(program.quit(), "the program ends");
+    check(program.registryValue() == "0", "the registry holds the last state");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication app(argc, argv);
+    const double scale = argc > 1 ? QByteArray(argv[1]).toDouble() : 1;
+    FloodedProgram program;
+    program.send(
+        1, [](int) { return "0 {\"cmd\":0,\"isReady\":1,\"seq\":1,\"type\":2}\n"_ba; }, 1);
+    const Figures quiet = program.measure([] { stayQuiet(10s); });
+    std::printf(
+        "the quiet program: answers of the main thread: 99th percentile %.1f ms, worst %.0f "
+        "ms; memory %.0f MB; log grew by %.2f MB\n",
+        quiet.percentile, quiet.worst, quiet.resident, quiet.log);
+    testUdp(program, quiet, scale);
+    testSource(program, quiet, scale);
+    testMessages(program, quiet, scale);
+    testQuit(program, scale);
+    return g_failed ? 1 : 0;
+}
