@@ -19,7 +19,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-SUPPORT = ("bench", "framewriter", "rig", "simulator", "tests", "tools")  # folders that the product stands without
+SUPPORT = ("bench", "framewriter", "fuzz", "rig", "simulator", "tests", "tools")  # folders that the product stands without
 SETTINGS = "vorn_settings"  # compiler settings, linked by every target
 SOURCE_LISTS = ("SOURCES", "WINDOWS_SOURCES", "LINUX_SOURCES")
 INCLUDE = re.compile(r'^\s*#\s*include\s+[<"]([^>"]+)[>"]', re.MULTILINE)

@@ -21,9 +21,9 @@ constexpr qint64 MaxUnwritten = qint64{1} * 1024 * 1024;
 
 } // namespace
 
-FloodedProgram::FloodedProgram()
+FloodedProgram::FloodedProgram(const QString& program)
 {
-    install();
+    install(program);
     m_display.listen(m_home.filePath(u"portalhub"_s));
     QObject::connect(&m_display, &QLocalServer::newConnection, &m_display, [this] {
         m_channel = m_display.nextPendingConnection();
@@ -36,9 +36,9 @@ FloodedProgram::FloodedProgram()
 }
 
 // The program keeps its settings in its own folder, so it runs from a copy.
-void FloodedProgram::install()
+void FloodedProgram::install(const QString& program)
 {
-    const QDir source = QFileInfo(QStringLiteral(VORN_PROGRAM)).dir();
+    const QDir source = QFileInfo(program).dir();
     const QString folder = m_home.filePath(u"app"_s);
     QDir().mkpath(folder);
     const QFileInfoList files = source.entryInfoList(

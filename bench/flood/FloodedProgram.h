@@ -24,8 +24,9 @@ public:
         double log = 0;        ///< growth of the log files, in MB
     };
 
-    /// Starts the program and waits until it is connected to the display.
-    FloodedProgram();
+    /// Starts the program, whose path is @p program, and waits until it is connected to the
+    /// display.
+    explicit FloodedProgram(const QString& program);
 
     /// Runs @p flood and measures meanwhile.
     Figures measure(const std::function<void()>& flood);
@@ -47,7 +48,7 @@ public:
     bool quit();
 
 private:
-    void install();
+    void install(const QString& program);
     QStringList logFiles() const;
     double logMegabytes() const;
     void readReplies();

@@ -1,5 +1,7 @@
-// bench_flood [<scale>]   floods the program on each of its inputs and compares it with the quiet
-// program of the same run. A scale below 1 shortens the floods. Exits with 1 if an aim is missed.
+// bench_flood [<scale> [<program>]]
+//
+// Floods the program on each of its inputs and compares it with the quiet program of the same run.
+// A scale below 1 shortens the floods. Exits with 1 if an aim is missed.
 #include "bench/flood/FloodedProgram.h"
 
 #include <QCoreApplication>
@@ -164,7 +166,8 @@ int main(int argc, char** argv)
 {
     const QCoreApplication app(argc, argv);
     const double scale = argc > 1 ? QByteArray(argv[1]).toDouble() : 1;
-    FloodedProgram program;
+    FloodedProgram program(argc > 2 ? QString::fromLocal8Bit(argv[2])
+                                    : QStringLiteral(VORN_PROGRAM));
     program.send(
         1, [](int) { return "0 {\"cmd\":0,\"isReady\":1,\"seq\":1,\"type\":2}\n"_ba; }, 1);
     const Figures quiet = program.measure([] { stayQuiet(10s); });

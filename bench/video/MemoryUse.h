@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// Page faults so far: of the calling thread on Linux, of the process on Windows.
+/// Page faults so far: those of the calling thread on Linux, those of the process on Windows.
 qint64 pageFaults();
 
 /// Resident memory of this process in bytes.

@@ -33,7 +33,8 @@ namespace
 constexpr std::size_t LumaSize = 3840 * 2160;
 constexpr std::size_t ChromaSize = LumaSize / 2;
 constexpr std::size_t DataOffset = 1 + FrameHeader::HeaderSize;
-constexpr std::size_t FirstFrames = 12; // until all pages are mapped
+constexpr std::size_t FirstFrames =
+    12; // not counted, since their memory is touched for the first time
 
 using Times = bench::Values; // microseconds
 using bench::median;
@@ -56,7 +57,7 @@ private:
     std::size_t m_next = 0;
 };
 
-/// Wraps a channel and records the time at which a wait ends.
+/// Wraps a channel and records when a wait ended.
 class TimedChannel : public FrameChannel
 {
 public:
@@ -98,7 +99,7 @@ struct Names {
     }
 };
 
-/// The program's path from the shared memory to a sink, with time measurements.
+/// The program's path from the shared memory to a sink, with measurements.
 class Path
 {
 public:
@@ -120,8 +121,8 @@ public:
     ~Path() { m_worker->end(); }
     Q_DISABLE_COPY_MOVE(Path)
 
-    /// Has frames written and runs the event loop until no more arrive. On a busy machine a few are
-    /// skipped.
+    /// Requests frames and runs the event loop until no more arrive. Some frames are skipped when
+    /// the machine is busy.
     void receive(FrameSource& source, int count, std::chrono::microseconds interval)
     {
         constexpr auto Silence = 1s;
@@ -144,7 +145,7 @@ public:
         faults.clear();
     }
 
-    // Accessed only while no frames are received.
+    // Accessed only while nothing is received.
     bool isCompared = false;              ///< a bare copy follows each frame
     std::chrono::milliseconds slowness{}; ///< time that the sink takes for each frame
     Times copies;
@@ -189,7 +190,7 @@ private:
     std::unique_ptr<Worker> m_worker;
 };
 
-/// Time from the announcement to the end of two bare copies, without the program's code.
+/// Times from the announcement to the end of two bare copies, without code of the program.
 Times bareLatencies(const Names& names, FrameSource& source, int count)
 {
     const auto channel = names.channel();
@@ -262,7 +263,7 @@ void watchMemory(const Names& names, FrameSource& source)
     const qint64 before = residentBytes();
     std::size_t received = 0;
     while (received < Count) {
-        path.forget(); // the measurements would count as growth
+        path.forget(); // so that the measurements do not count as growth
         path.receive(source, Batch, Interval);
         received += path.copies.size();
     }
