@@ -6,13 +6,12 @@
 #include <QImage>
 #include <QImageReader>
 #include <QUrl>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
-
-constexpr int BytesPerPixel = 4;
 
 bool startsWithDrive(QStringView path)
 {
@@ -36,24 +35,70 @@ bool isRaster(const QByteArray& format)
     return !format.isEmpty() && !format.startsWith("svg");
 }
 
-QImage load(const QString& path)
+/// Whether a JPEG file has its data in one pass. A file with several passes is decoded whole.
+bool isBaselineJpeg(const QByteArray& head)
+{
+    qsizetype at = 2;
+    while (at + 4 <= head.size() && quint8(head[at]) == 0xff) {
+        const quint8 marker = head[at + 1];
+        if (marker == 0xc0 || marker == 0xc1)
+            return true;
+        if (marker == 0xc2 || marker == 0xda)
+            return false;
+        at += 2 + qFromBigEndian<quint16>(head.constData() + at + 2);
+    }
+    return false;
+}
+
+/// Whether a PNG file has 8 bits a colour, no palette and no interlacing.
+bool isPlainPng(const QByteArray& head)
+{
+    return head.size() > 28 && head[24] == 8 && (head[25] == 2 || head[25] == 6) && head[28] == 0;
+}
+
+/// Whether the reader can scale the picture down without decoding it whole.
+bool scalesWhileReading(QImageReader& reader)
+{
+    constexpr qint64 HeadSize = 256 * 1024; // embedded thumbnails come first
+    if (reader.format() == "jpeg")
+        return isBaselineJpeg(reader.device()->peek(HeadSize));
+    return reader.format() == "png" && isPlainPng(reader.device()->peek(32));
+}
+
+/// Opens a picture of acceptable size and sets the size at which it is read. False if there is
+/// none.
+bool prepare(QImageReader& reader, QFile& file)
 {
     // Opening a pipe blocks until another process writes to it; devices never end.
-    if (!QFileInfo(path).isFile())
-        return {};
-    QFile file(path);
+    if (!QFileInfo(file).isFile())
+        return false;
     // Some decoders read the whole file into memory first.
     if (!file.open(QIODevice::ReadOnly) || file.size() > ImageFile::MaxFileSize)
-        return {};
-
-    QImageReader reader(&file);
+        return false;
     reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    reader.setDevice(&file);
+    const bool scales = scalesWhileReading(reader);
     if (!isRaster(reader.format()))
-        return {};
+        return false;
+
     const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > ImageFile::MaxDecodedSize / BytesPerPixel)
-        return {};
-    return reader.read();
+    const qint64 pixels = qint64{size.width()} * size.height();
+    // JPEG can be scaled by powers of two without a larger picture in between.
+    int divisor = 1;
+    while (pixels / (divisor * divisor) > ImageFile::MaxPixels)
+        divisor *= 2;
+    const QImage::Format format = reader.imageFormat();
+    const int bits =
+        format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
+    const bool isReadWhole = divisor == 1 || !scales;
+    if (pixels > ImageFile::MaxSourcePixels ||
+        (isReadWhole && pixels * bits / 8 > ImageFile::MaxDecodedSize))
+        return false;
+    if (divisor > 1)
+        reader.setScaledSize(
+            QSize(size.width() / divisor, size.height() / divisor).expandedTo({1, 1}));
+    return true;
 }
 
 bool isNamedJpeg(const QString& path)
@@ -94,9 +139,18 @@ qint64 size(const QString& path)
     return QFileInfo(path).size();
 }
 
+bool isPicture(const QString& path)
+{
+    QFile file(path);
+    QImageReader reader;
+    return prepare(reader, file) && reader.canRead();
+}
+
 Encoded encode(const QString& path)
 {
-    const QImage image = load(path);
+    QFile file(path);
+    QImageReader reader;
+    const QImage image = prepare(reader, file) ? reader.read() : QImage();
     if (image.isNull())
         return {Encoded::Status::NotLoaded, {}};
 

@@ -10,9 +10,13 @@
 namespace ImageFile
 {
 
-/// Largest decoded picture, in bytes at 4 a pixel; larger ones are refused before any pixel is
-/// decoded.
-inline constexpr qint64 MaxDecodedSize = 128LL * 1024 * 1024;
+/// A picture with more pixels is scaled down when it is read.
+inline constexpr qint64 MaxPixels = 4'000'000;
+/// A picture with more pixels is refused, as reading it takes many seconds.
+inline constexpr qint64 MaxSourcePixels = 256'000'000;
+/// Most memory that decoding a picture may take, in bytes. Large pictures stay below it if their
+/// format can be scaled down while it is read: most JPEG files, and PNG files with 8 bits a colour.
+inline constexpr qint64 MaxDecodedSize = 48LL * 1024 * 1024;
 /// Largest file that is opened as a picture, in bytes.
 inline constexpr qint64 MaxFileSize = 128LL * 1024 * 1024;
 
@@ -24,6 +28,10 @@ inline constexpr qint64 MaxFileSize = 128LL * 1024 * 1024;
 /// Size in bytes of the file at a normalised path; 0 when there is none.
 [[nodiscard]] qint64 size(const QString& path);
 
+/// Whether the file at a normalised path is a picture that encode() accepts, as far as its head
+/// shows.
+[[nodiscard]] bool isPicture(const QString& path);
+
 /// Result of encode().
 struct Encoded {
     enum class Status { Ok, NotLoaded, NotEncoded };
@@ -32,7 +40,8 @@ struct Encoded {
 };
 
 /// Loads the picture at a normalised path, detecting its format from the content, and encodes it
-/// as JPEG if the path ends in ".jpg" or ".jpeg" (any case), otherwise as PNG.
+/// as JPEG if the path ends in ".jpg" or ".jpeg" (any case), otherwise as PNG. The orientation that
+/// a camera noted in the file is applied. Any thread.
 [[nodiscard]] Encoded encode(const QString& path);
 
 } // namespace ImageFile

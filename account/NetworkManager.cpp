@@ -3,20 +3,21 @@
 #include "account/AccountIdentity.h"
 #include "account/ImageFile.h"
 #include "account/ReplyBody.h"
-#include "account/SystemProxy.h"
 #include "logging/Log.h"
 
 #include <QJsonDocument>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QUrlQuery>
 
+#include <string_view>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
+
+// A log line holds no more.
+constexpr qsizetype LoggedBytes = 30'000;
 
 constexpr auto FormType = "application/x-www-form-urlencoded"_L1;
 constexpr auto JsonType = "application/json"_L1;
@@ -65,33 +66,39 @@ QByteArray compactJson(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
+std::string_view loggedPart(const QByteArray& text)
+{
+    return {text.constData(), size_t(qMin(text.size(), LoggedBytes))};
+}
+
 } // namespace
 
 NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity)
-    : NetworkManager(baseUrl, identity, RequestGuard::Limits())
+    : NetworkManager(baseUrl, identity, RequestGuard::Settings())
 {
 }
 
 NetworkManager::NetworkManager(const QString& baseUrl, const AccountIdentity& identity,
-                               const RequestGuard::Limits& limits)
+                               RequestGuard::Settings settings)
     : m_identity(identity)
-    , m_networkAccess(new QNetworkAccessManager(this))
-    , m_limits(limits)
+    , m_settings(std::move(settings))
     , m_baseUrl(baseUrl)
     , m_loginUrl(baseUrl + "/nc/auth/login"_L1)
     , m_registerUrl(baseUrl + "/nc/users/register"_L1)
     , m_forgotPasswordUrl(baseUrl + "/nc/users/forgot-password"_L1)
 {
-    m_networkAccess->setProxyFactory(new SystemProxy); // owned by the access manager
-    m_networkAccess->setRedirectPolicy(QNetworkRequest::UserVerifiedRedirectPolicy);
-    Log::info("NetworkManager::NetworkManager") << "URL_LOGIN          :" << m_loginUrl;
-    Log::info("NetworkManager::NetworkManager") << "URL_REGISTER       :" << m_registerUrl;
-    Log::info("NetworkManager::NetworkManager") << "URL_FORGOT_PASSWORD:" << m_forgotPasswordUrl;
+    constexpr auto Function = "NetworkManager::NetworkManager";
+    m_encoder.setMaxThreadCount(1);
+    Log::info(Function) << "URL_LOGIN          :" << m_loginUrl;
+    Log::info(Function) << "URL_REGISTER       :" << m_registerUrl;
+    Log::info(Function) << "URL_FORGOT_PASSWORD:" << m_forgotPasswordUrl;
+    if (webAddress(m_loginUrl).isEmpty())
+        Log::error(Function) << "unusable address of the account service:" << baseUrl;
 }
 
 NetworkManager::~NetworkManager()
 {
-    qDeleteAll(findChildren<RequestGuard*>()); // before the access manager that they use
+    qDeleteAll(findChildren<RequestGuard*>()); // while the cookies exist
 }
 
 void NetworkManager::login(const QString& email, const QString& password)
@@ -101,16 +108,14 @@ void NetworkManager::login(const QString& email, const QString& password)
 
     const QUrl url = withQuery(m_loginUrl, {{u"username"_s, encodeCredential(email)},
                                             {u"password"_s, encodeCredential(password)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, FormType), QByteArray());
+    send(
+        takeTicket(Login), url,
+        [request = withContentType(url, FormType)](QNetworkAccessManager& access) {
+            return access.post(request, QByteArray());
+        },
+        [this](const QJsonObject& object) { emit loginSuccess(object); },
+        &NetworkManager::loginFailed, tr("Login request timed out."));
     Log::info("NetworkManager::login") << "send:" << url.toString();
-
-    const auto onSuccess = [this, number = ++m_latestLogin](const QJsonObject& object) {
-        if (number == m_latestLogin)
-            emit loginSuccess(object);
-        else // The program may have been signed in and out since.
-            Log::info("NetworkManager::login") << "another sign-in followed, dropped";
-    };
-    watch(reply, onSuccess, &NetworkManager::loginFailed, tr("Login request timed out."));
 }
 
 void NetworkManager::registerUser(const QString& firstName, const QString& lastName,
@@ -126,12 +131,14 @@ void NetworkManager::registerUser(const QString& firstName, const QString& lastN
                                          {"lastName"_L1, lastName},
                                          {"email"_L1, encodeCredential(email)},
                                          {"password"_L1, encodeCredential(password)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, JsonType), json);
-    Log::info("NetworkManager::registerUser") << "send:" << url.toString() << " json:" << json;
-
-    watch(
-        reply, [this](const QJsonObject&) { emit registrationSuccess(); },
+    send(
+        takeTicket(Registration), url,
+        [request = withContentType(url, JsonType), json](QNetworkAccessManager& access) {
+            return access.post(request, json);
+        },
+        [this](const QJsonObject&) { emit registrationSuccess(); },
         &NetworkManager::registrationFailed, tr("Registration request timed out."));
+    Log::info("NetworkManager::registerUser") << "send:" << url.toString() << " json:" << json;
 }
 
 void NetworkManager::resetPassword(const QString& email)
@@ -139,12 +146,14 @@ void NetworkManager::resetPassword(const QString& email)
     Log::info("NetworkManager::resetPassword") << "email:" << email;
 
     const QUrl url = withQuery(m_forgotPasswordUrl, {{u"email"_s, encodeCredential(email)}});
-    QNetworkReply* reply = m_networkAccess->post(withContentType(url, FormType), QByteArray());
-    Log::info("NetworkManager::resetPassword") << "send:" << url.toString();
-
-    watch(
-        reply, [this](const QJsonObject&) { emit passwordResetSent(); },
+    send(
+        takeTicket(PasswordReset), url,
+        [request = withContentType(url, FormType)](QNetworkAccessManager& access) {
+            return access.post(request, QByteArray());
+        },
+        [this](const QJsonObject&) { emit passwordResetSent(); },
         &NetworkManager::passwordResetFailed, tr("Password reset request timed out."));
+    Log::info("NetworkManager::resetPassword") << "send:" << url.toString();
 }
 
 void NetworkManager::profileUpdate(const QString& firstName, const QString& lastName,
@@ -157,61 +166,71 @@ void NetworkManager::profileUpdate(const QString& firstName, const QString& last
     Log::info("NetworkManager::profileUpdate") << "title    :" << title;
     Log::info("NetworkManager::profileUpdate") << "imagePath:" << imagePath;
 
-    const QString userId = m_identity.userId();
-    const QString token = m_identity.token();
-    if (userId.isEmpty() || token.isEmpty()) {
+    const Ticket ticket = takeTicket(ProfileUpdate);
+    if (ticket.userId.isEmpty() || ticket.token.isEmpty()) {
         Log::error("NetworkManager::profileUpdate") << "Missing user ID or token for edit request";
         return;
     }
+    const Profile profile{firstName, lastName, company, title};
+    if (imagePath.isEmpty()) {
+        sendProfile(ticket, profile, m_identity.rawPicture());
+        return;
+    }
+    m_encoder.start([this, ticket, profile, imagePath] {
+        const auto send = [this, ticket, profile, picture = loadImageToBase64(imagePath)] {
+            if (isAwaited(ticket))
+                sendProfile(ticket, profile, picture);
+        };
+        QMetaObject::invokeMethod(this, send, Qt::QueuedConnection);
+    });
+}
 
-    const QUrl url = profileUrl(userId);
-    QNetworkRequest request = withContentType(url, JsonType);
-    authorise(request, token);
-    const QString picture =
-        imagePath.isEmpty() ? m_identity.rawPicture() : loadImageToBase64(imagePath);
-    if (picture.size() > m_limits.bodySize / 4 * 3) {
+void NetworkManager::sendProfile(const Ticket& ticket, const Profile& profile,
+                                 const QString& picture)
+{
+    if (picture.size() > m_settings.bodySize / 4 * 3) {
         Log::error("NetworkManager::profileUpdate")
-            << "picture of " << picture.size() << " letters is too large to be sent";
+            << "picture of " << picture.size() << " characters is too large to be sent";
         emit profileUpdateFailed(tr("The picture is too large."));
         return;
     }
-    const QByteArray json = compactJson({{"firstName"_L1, firstName},
-                                         {"lastName"_L1, lastName},
-                                         {"company"_L1, company},
-                                         {"title"_L1, title},
+    const QUrl url = profileUrl(ticket.userId);
+    QNetworkRequest request = withContentType(url, JsonType);
+    authorise(request, ticket.token);
+    const QByteArray json = compactJson({{"firstName"_L1, profile.firstName},
+                                         {"lastName"_L1, profile.lastName},
+                                         {"company"_L1, profile.company},
+                                         {"title"_L1, profile.title},
                                          {"picture"_L1, picture}});
-    QNetworkReply* reply = m_networkAccess->put(request, json);
-    Log::info("NetworkManager::profileUpdate") << "send:" << url.toString() << " json:" << json;
-
-    watch(reply, unlessUserChanged([this](const QJsonObject& object) {
-              emit profileUpdateSuccess(object);
-          }),
-          &NetworkManager::profileUpdateFailed, tr("Profile update request timed out."));
+    send(
+        ticket, url,
+        [request, json](QNetworkAccessManager& access) { return access.put(request, json); },
+        [this](const QJsonObject& object) { emit profileUpdateSuccess(object); },
+        &NetworkManager::profileUpdateFailed, tr("Profile update request timed out."));
+    Log::info("NetworkManager::profileUpdate")
+        << "send:" << url.toString() << " json:" << loggedPart(json);
 }
 
 void NetworkManager::requestUserProfile()
 {
-    const QString userId = m_identity.userId();
-    const QString token = m_identity.token();
-    Log::info("NetworkManager::requestUserProfile") << "userid:" << userId;
-    Log::info("NetworkManager::requestUserProfile") << "token :" << token;
-    if (userId.isEmpty() || token.isEmpty()) {
+    const Ticket ticket = takeTicket(ProfileRead);
+    Log::info("NetworkManager::requestUserProfile") << "userid:" << ticket.userId;
+    Log::info("NetworkManager::requestUserProfile") << "token :" << ticket.token;
+    if (ticket.userId.isEmpty() || ticket.token.isEmpty()) {
         Log::error("NetworkManager::requestUserProfile")
             << "Missing user ID or token for profile request";
         emit profileRequestFailed(tr("Missing user ID or token"));
         return;
     }
 
-    const QUrl url = profileUrl(userId);
+    const QUrl url = profileUrl(ticket.userId);
     QNetworkRequest request(url);
-    authorise(request, token);
-    QNetworkReply* reply = m_networkAccess->get(request);
+    authorise(request, ticket.token);
+    send(
+        ticket, url, [request](QNetworkAccessManager& access) { return access.get(request); },
+        [this](const QJsonObject& object) { emit profileRequestSuccess(object); },
+        &NetworkManager::profileRequestFailed, tr("Profile request timed out."));
     Log::info("NetworkManager::requestUserProfile") << "send:" << url.toString();
-
-    watch(reply, unlessUserChanged([this](const QJsonObject& object) {
-              emit profileRequestSuccess(object);
-          }),
-          &NetworkManager::profileRequestFailed, tr("Profile request timed out."));
 }
 
 int NetworkManager::imageSize(const QString& imagePath)
@@ -221,6 +240,11 @@ int NetworkManager::imageSize(const QString& imagePath)
     Log::info("NetworkManager::imageSize")
         << "Loading image from: " << path << ", fileSize:" << size;
     return static_cast<int>(size);
+}
+
+bool NetworkManager::isPicture(const QString& imagePath)
+{
+    return ImageFile::isPicture(ImageFile::normaliseImagePath(imagePath));
 }
 
 QString NetworkManager::loadImageToBase64(const QString& imagePath)
@@ -251,35 +275,52 @@ QUrl NetworkManager::profileUrl(const QString& userId) const
     return webAddress(m_baseUrl + "/nc/users/"_L1 + QString::fromLatin1(segment));
 }
 
-NetworkManager::SuccessCallback NetworkManager::unlessUserChanged(SuccessCallback onSuccess) const
+NetworkManager::Ticket NetworkManager::takeTicket(Kind kind)
 {
-    return [this, onSuccess = std::move(onSuccess), userId = m_identity.userId(),
-            token = m_identity.token()](const QJsonObject& object) {
-        if (m_identity.userId() == userId && m_identity.token() == token)
-            onSuccess(object);
-        else
-            Log::info("NetworkManager::handleResponse")
-                << "profile reply dropped, no longer signed in as userid:" << userId;
-    };
+    const Ticket ticket{kind, ++m_latest[kind], m_identity.userId(), m_identity.token()};
+    if (!m_cookies || kind == Login || ticket.token != m_cookieToken) {
+        m_cookies = std::make_shared<QNetworkCookieJar>();
+        m_cookieToken = ticket.token;
+    }
+    return ticket;
 }
 
-void NetworkManager::watch(QNetworkReply* reply, SuccessCallback onSuccess, FailureSignal failed,
-                           const QString& timeoutText)
+bool NetworkManager::isAwaited(const Ticket& ticket) const
 {
-    auto* guard = new RequestGuard(reply, m_limits, this);
-    connect(guard, &RequestGuard::timedOut, this,
-            [this, failed, timeoutText] { emit(this->*failed)(timeoutText); });
-    connect(guard, &RequestGuard::finished, this,
-            [this, guard, onSuccess = std::move(onSuccess), failed] {
-                guard->deleteLater();
-                QJsonObject object;
-                const std::optional<QString> failure = decodeReply(*guard, object);
-                if (!failure)
-                    onSuccess(object);
-                else
-                    emit(this->*failed)(failure->isEmpty() ? tr("Unknown error occurred.")
-                                                           : *failure);
-            });
+    const bool isProfile = ticket.kind == ProfileUpdate || ticket.kind == ProfileRead;
+    const bool isLatest = ticket.number == m_latest[ticket.kind];
+    const bool isSignedIn =
+        m_identity.userId() == ticket.userId && m_identity.token() == ticket.token;
+    if (isLatest && (!isProfile || isSignedIn))
+        return true;
+    if (isLatest)
+        Log::info("NetworkManager::handleResponse")
+            << "dropped, no longer signed in as userid:" << ticket.userId;
+    else
+        Log::info("NetworkManager::handleResponse") << "dropped, a later request followed";
+    return false;
+}
+
+void NetworkManager::send(const Ticket& ticket, const QUrl& url, RequestGuard::Send send,
+                          const SuccessCallback& onSuccess, FailureSignal failed,
+                          const QString& timeoutText)
+{
+    auto* guard = new RequestGuard(url, std::move(send), m_cookies, m_settings, this);
+    connect(guard, &RequestGuard::timedOut, this, [this, ticket, failed, timeoutText] {
+        if (isAwaited(ticket))
+            emit(this->*failed)(timeoutText);
+    });
+    connect(guard, &RequestGuard::finished, this, [this, guard, ticket, onSuccess, failed] {
+        guard->deleteLater();
+        QJsonObject object;
+        const std::optional<QString> failure = decodeReply(*guard, object);
+        if (!isAwaited(ticket))
+            return;
+        if (!failure)
+            onSuccess(object);
+        else
+            emit(this->*failed)(failure->isEmpty() ? tr("Unknown error occurred.") : *failure);
+    });
 }
 
 /// Returns the text of the failure, or nothing and the reply's object on success.
@@ -287,9 +328,13 @@ std::optional<QString> NetworkManager::decodeReply(RequestGuard& guard, QJsonObj
 {
     constexpr auto Function = "NetworkManager::handleResponse";
     const QByteArray body = guard.takeBody();
-    Log::info(Function) << "response:" << body;
+    Log::info(Function) << "response:" << loggedPart(body);
 
-    if (body.isEmpty() && guard.hasError()) {
+    if (guard.error() == QNetworkReply::ProxyAuthenticationRequiredError) {
+        Log::error(Function) << "The proxy asks for a password. error:" << guard.errorText();
+        return tr("Connection to server failed. The proxy asks for a password.");
+    }
+    if (body.isEmpty() && guard.error() != QNetworkReply::NoError) {
         Log::error(Function) << "Connection to server failed. error:" << guard.errorText();
         return tr("Connection to server failed.");
     }

@@ -4,6 +4,46 @@
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+// In characters.
+constexpr qsizetype LongestMessage = 500;
+constexpr qsizetype LongestToken = 8192;
+constexpr qsizetype LongestText = 256;
+
+QString cleaned(const QString& text, qsizetype longest)
+{
+    QString clean = text.left(longest);
+    if (!clean.isEmpty() && clean.back().isHighSurrogate())
+        clean.chop(1);
+    for (QChar& character : clean) {
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    }
+    return clean;
+}
+
+/// Changes only what needs it, since the object may hold a large picture.
+void clean(QJsonObject& object)
+{
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        if (member->isObject()) {
+            QJsonObject inner = member->toObject();
+            clean(inner);
+            *member = inner;
+        } else if (member->isString() && member.key() != "picture"_L1) {
+            const QString text = member->toString();
+            const QString clean =
+                cleaned(text, member.key() == "token"_L1 ? LongestToken : LongestText);
+            if (clean != text)
+                *member = clean;
+        }
+    }
+}
+
+} // namespace
+
 ReplyBody decodeReplyBody(const QByteArray& body)
 {
     ReplyBody reply;
@@ -25,6 +65,7 @@ ReplyBody decodeReplyBody(const QByteArray& body)
         success != reply.object.constEnd() ? success->toBool() : reply.object.contains("userId"_L1);
     reply.kind = succeeded ? ReplyBody::Kind::Success : ReplyBody::Kind::Refused;
     if (const auto text = reply.object.constFind("message"_L1); text != reply.object.constEnd())
-        reply.message = text->toString();
+        reply.message = cleaned(text->toString(), LongestMessage);
+    clean(reply.object);
     return reply;
 }

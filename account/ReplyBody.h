@@ -24,4 +24,8 @@ struct ReplyBody {
 };
 
 /// Decodes a reply body. Accepts any bytes, depends on nothing else.
+///
+/// The texts in it end up on pages, in the log and in the store. In the message and in the members
+/// of the object, to any depth, control characters are replaced by blanks and texts are cut to a
+/// sane length. A picture is left as it is.
 [[nodiscard]] ReplyBody decodeReplyBody(const QByteArray& body);

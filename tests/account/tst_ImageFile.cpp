@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
@@ -77,6 +79,9 @@ private slots:
     void encodes();
     void refusesWhatIsNoPictureFile();
     void reportsAPictureThatCannotBeEncoded();
+    void appliesTheOrientation();
+    void limitsTheMemoryOfLargePictures_data();
+    void limitsTheMemoryOfLargePictures();
 
 private:
     QTemporaryDir m_folder;
@@ -142,6 +147,8 @@ void tst_ImageFile::encodes()
 
     const ImageFile::Encoded encoded = ImageFile::encode(file.fileName());
     QCOMPARE(encoded.status, format.isEmpty() ? Status::NotLoaded : Status::Ok);
+    // A truncated file has a good head.
+    QCOMPARE(ImageFile::isPicture(file.fileName()), !format.isEmpty() || name == "cut.png"_L1);
     QCOMPARE(formatOf(encoded.bytes), format);
     if (!format.isEmpty())
         QCOMPARE(QImage::fromData(encoded.bytes).size(), QSize(64, 48));
@@ -173,6 +180,56 @@ void tst_ImageFile::reportsAPictureThatCannotBeEncoded()
     const ImageFile::Encoded encoded = ImageFile::encode(path);
     QCOMPARE(encoded.status, Status::NotEncoded);
     QVERIFY(encoded.bytes.isEmpty());
+}
+
+void tst_ImageFile::appliesTheOrientation()
+{
+    const QString path = m_folder.filePath(u"turned.jpg"_s);
+    QImageWriter writer(path);
+    writer.setTransformation(QImageIOHandler::TransformationRotate90);
+    QVERIFY(writer.write(QImage(64, 48, QImage::Format_RGB32)));
+    QCOMPARE(QImage::fromData(ImageFile::encode(path).bytes).size(), QSize(48, 64));
+}
+
+void tst_ImageFile::limitsTheMemoryOfLargePictures_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("jpg") << QSize(4000, 3500) << QImage::Format_RGB32 << u"a.jpg"_s << true;
+    QTest::newRow("progressive jpg")
+        << QSize(4000, 3500) << QImage::Format_RGB32 << u"progressive.jpg"_s << false;
+    QTest::newRow("png") << QSize(4000, 3500) << QImage::Format_RGB32 << u"a.png"_s << true;
+    QTest::newRow("grey png") << QSize(8000, 7000) << QImage::Format_Grayscale8 << u"b.png"_s
+                              << false;
+}
+
+void tst_ImageFile::limitsTheMemoryOfLargePictures()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const QImage::Format, format);
+    QFETCH(const QString, name);
+    QFETCH(const bool, accepted);
+    const QString path = m_folder.filePath(name);
+    QImageWriter writer(path);
+    writer.setProgressiveScanWrite(name.startsWith("progressive"_L1));
+    {
+        QImage picture(size, format);
+        picture.fill(Qt::gray);
+        QVERIFY(writer.write(picture));
+    }
+    const int before = QImageReader::allocationLimit();
+    QImageReader::setAllocationLimit(int(ImageFile::MaxPixels * 4 / 1'000'000) + 1);
+    const ImageFile::Encoded encoded = ImageFile::encode(path);
+    QImageReader::setAllocationLimit(before);
+    QCOMPARE(encoded.status, accepted ? Status::Ok : Status::NotLoaded);
+    QCOMPARE(ImageFile::isPicture(path), accepted);
+    if (accepted) {
+        const QSize written = QImage::fromData(encoded.bytes).size();
+        QCOMPARE_LE(qint64{written.width()} * written.height(), ImageFile::MaxPixels);
+        QCOMPARE(written.width(), size.width() / 2);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ImageFile)

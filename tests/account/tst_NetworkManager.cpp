@@ -27,7 +27,8 @@ private slots:
     void readsReplyShapes_data();
     void readsReplyShapes();
     void logsRequestAndReply();
-    void dropsTheProfileOfAFormerUser();
+    void cutsTextsOfTheService();
+    void reportsNothingToAFormerUser();
     void reportsOnlyTheLatestSignIn();
 
 private:
@@ -126,6 +127,7 @@ void tst_NetworkManager::sendsTheChosenPicture()
     LogCapture log;
     QCOMPARE(m_network->imageSize(url), size);
     m_network->profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, url);
+    QVERIFY2(isIdle(*m_network), "the picture was encoded on this thread");
     QTRY_COMPARE(m_requests.size(), 1);
     const QJsonObject sent = QJsonDocument::fromJson(m_requests[0].body).object();
     const QByteArray bytes = QByteArray::fromBase64(sent["picture"_L1].toString().toLatin1());
@@ -141,6 +143,15 @@ void tst_NetworkManager::sendsTheChosenPicture()
                           u"I NetworkManager::loadImageToBase64"_s + from,
                           u"I NetworkManager::loadImageToBase64"_s + from,
                           u"E NetworkManager::loadImageToBase64 Failed to load image: "_s + path}));
+
+    QTRY_VERIFY(isIdle(*m_network));
+    m_network->profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, url);
+    signInAs(u"42"_s, u"another"_s);
+    const QString dropped =
+        u"I NetworkManager::handleResponse dropped, no longer signed in as userid:42"_s;
+    QStringList lines;
+    QTRY_VERIFY((lines += log.take()).contains(dropped));
+    QCOMPARE(m_requests.size(), 2);
 }
 
 /// The reply of each sign-in would contain it and be cut off, which locks the user out.
@@ -217,28 +228,54 @@ void tst_NetworkManager::logsRequestAndReply()
                           u"W NetworkManager::handleResponse Response is not a JSON object"_s}));
 }
 
-void tst_NetworkManager::dropsTheProfileOfAFormerUser()
+void tst_NetworkManager::cutsTextsOfTheService()
 {
-    m_service->setFault(Kind::LargeBody);
-    signInAs(u"1"_s, u"tok"_s);
-    connect(m_service.get(), &AccountService::requestReceived, this,
-            [this] { signInAs(u"1"_s, u"tok of a later sign-in"_s); });
-    m_network->requestUserProfile();
-    m_network->profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
-    QTRY_VERIFY(isIdle(*m_network));
-    QCOMPARE(m_requests.size(), 2);
+    const QByteArray text = R"(tab\tend\r\n\u0000)" + QByteArray(100'000, 'x');
+    m_service->setCannedReply(Endpoint::Login, R"({"success":false,"message":")" + text + "\"}");
+    m_network->login(u"a"_s, u"b"_s);
+    QVERIFY(m_recorder->waitForEvents(1));
+    const QString cut = u"tab end   "_s + QString(490, u'x');
+    QCOMPARE(m_recorder->events.takeFirst(), u"loginFailed: "_s + cut);
+
+    const QByteArray user = R"({"firstName":")" + text + R"(","picture":")" + text + "\"}";
+    m_service->setCannedReply(Endpoint::Login, R"({"success":true,"data":{"user":)" + user + "}}");
+    m_network->login(u"a"_s, u"b"_s);
+    QVERIFY(m_recorder->waitForEvents(1));
+    const QJsonObject read = m_recorder->lastObject["data"_L1]["user"_L1].toObject();
+    QCOMPARE(read["firstName"_L1].toString(), cut.left(256));
+    QCOMPARE(read["picture"_L1].toString().size(), 100'010);
+}
+
+void tst_NetworkManager::reportsNothingToAFormerUser()
+{
+    for (const Kind fault : {Kind::LargeBody, Kind::ErrorObject}) {
+        m_service->setFault(fault);
+        signInAs(u"1"_s, u"tok"_s);
+        connect(
+            m_service.get(), &AccountService::requestReceived, this,
+            [this] { signInAs(u"1"_s, u"tok of a later sign-in"_s); }, Qt::SingleShotConnection);
+        m_network->requestUserProfile();
+        m_network->profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
+        QTRY_VERIFY(isIdle(*m_network));
+    }
+    QCOMPARE(m_requests.size(), 4);
     QCOMPARE(m_recorder->events, QStringList());
 }
 
 /// The first reply could arrive after the second, or after a sign-out that followed it.
 void tst_NetworkManager::reportsOnlyTheLatestSignIn()
 {
-    m_service->setFault(Kind::LargeBody);
-    m_network->login(u"anna"_s, u"pw"_s);
-    m_network->login(u"bert"_s, u"pw"_s);
-    QTRY_VERIFY(isIdle(*m_network));
-    QCOMPARE(m_requests.size(), 2);
-    QCOMPARE(m_recorder->events, QStringList{u"loginSuccess"_s});
+    for (const Kind first : {Kind::LargeBody, Kind::ErrorObject}) {
+        QObject scope;
+        connect(m_service.get(), &AccountService::requestReceived, &scope, [this, first] {
+            m_service->setFault(m_requests.size() == 1 ? first : Kind::LargeBody);
+        });
+        m_network->login(u"anna"_s, u"pw"_s);
+        m_network->login(u"bert"_s, u"pw"_s);
+        QTRY_VERIFY(isIdle(*m_network));
+        QCOMPARE(std::exchange(m_requests, {}).size(), 2);
+        QCOMPARE(std::exchange(m_recorder->events, {}), QStringList{u"loginSuccess"_s});
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_NetworkManager)

@@ -17,9 +17,9 @@ constexpr int ShortTimeout = 250;
 constexpr int Patience = 30'000;
 
 /// The body size is one that an endless reply reaches soon.
-RequestGuard::Limits limits(int requestTimeout)
+RequestGuard::Settings settings(int requestTimeout)
 {
-    return {requestTimeout, 8LL * 1024 * 1024};
+    return {.requestTimeout = requestTimeout, .bodySize = 8LL * 1024 * 1024};
 }
 
 const QString NoConnection = u"Connection to server failed."_s;
@@ -130,7 +130,7 @@ void tst_NetworkManagerFaults::reportsEachFault()
 
     m_service->setFault(endpoint, fault);
     NetworkManager network(m_service->baseUrl(), m_identity,
-                           limits(timesOut ? ShortTimeout : Patience));
+                           settings(timesOut ? ShortTimeout : Patience));
     SignalRecorder recorder(network);
     request.send(network);
     QVERIFY(recorder.waitForEvents(expected.size()));
@@ -157,7 +157,7 @@ void tst_NetworkManagerFaults::readsNoMoreThanItsBound()
     constexpr qint64 limit = 100 * 1024 * 1024;
     m_service->setFault(Kind::EndlessBody);
     QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
-    NetworkManager network(m_service->baseUrl(), m_identity, limits(Patience));
+    NetworkManager network(m_service->baseUrl(), m_identity, settings(Patience));
     network.login(u"a"_s, u"b"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!closed.isEmpty(), 30'000);
     QTRY_VERIFY(isIdle(network));
@@ -171,7 +171,7 @@ void tst_NetworkManagerFaults::abortsWithoutASignalWhenDestroyed()
         QSignalSpy received(m_service.get(), &AccountService::requestReceived);
         QSignalSpy closed(m_service.get(), &AccountService::connectionClosed);
         auto network =
-            std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity, limits(Patience));
+            std::make_unique<NetworkManager>(m_service->baseUrl(), m_identity, settings(Patience));
         const SignalRecorder recorder(*network);
         for (const Request& request : Requests)
             request.send(*network);

@@ -1,6 +1,7 @@
 #include "tests/account/AccountTestSupport.h"
 
 #include "simulator/account/AccountService.h"
+#include "tests/support/LogCapture.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -12,6 +13,9 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <future>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -52,14 +56,19 @@ QByteArray redirectTo(const QString& address)
     return httpReply("307 Temporary Redirect\r\nLocation: " + address.toLatin1(), {}, 0);
 }
 
-/// Answers every request with the same bytes and records what it received.
+const QByteArray Good = httpReply("200 OK", Success, Success.size());
+
+/// Answers each connection with the next of the given replies, the last one repeatedly, and records
+/// what it received.
 class FixedReply : public QObject
 {
 public:
-    FixedReply(QTcpServer& server, const QByteArray& reply)
+    FixedReply(QTcpServer& server, const QByteArrayList& itsReplies)
+        : replies(itsReplies)
     {
-        connect(&server, &QTcpServer::pendingConnectionAvailable, this, [this, &server, reply] {
+        connect(&server, &QTcpServer::pendingConnectionAvailable, this, [this, &server] {
             QTcpSocket* client = server.nextPendingConnection();
+            const QByteArray reply = replies.value(connections++, replies.last());
             connect(client, &QTcpSocket::readyRead, this, [this, client, reply] {
                 received += client->readAll();
                 client->write(reply);
@@ -69,7 +78,9 @@ public:
         listening = server.listen(QHostAddress::LocalHost);
     }
 
+    QByteArrayList replies;
     bool listening = false;
+    qsizetype connections = 0;
     QByteArray received;
 };
 
@@ -103,8 +114,8 @@ private slots:
     void cleanup();
     void checksCertificates_data();
     void checksCertificates();
-    void redirectsOnlyOnTheSameHost_data();
-    void redirectsOnlyOnTheSameHost();
+    void redirectsOnlyOnTheSameServer_data();
+    void redirectsOnlyOnTheSameServer();
     void neverRedirectsToPlainHttp();
     void failsOnUnusableAddress_data();
     void failsOnUnusableAddress();
@@ -114,6 +125,9 @@ private slots:
 #ifdef Q_OS_LINUX
     void usesSystemProxy();
 #endif
+    void waitsForProxiesWithinTheTimeout();
+    void answersWhileAHeadDoesNotEnd();
+    void keepsCookiesForOneAccount();
 
 private:
     QStringList signIn(const QString& baseUrl);
@@ -164,34 +178,37 @@ void tst_NetworkManagerTransport::checksCertificates()
     }
     QSslServer server;
     useCertificate(server);
-    const FixedReply reply(server, httpReply("200 OK", Success, Success.size()));
+    const FixedReply reply(server, {Good});
     QVERIFY(reply.listening);
     QCOMPARE(signIn(address(u"https"_s, server)),
              QStringList{trusted ? u"loginSuccess"_s : NoConnection});
     QCOMPARE(reply.received.isEmpty(), !trusted);
 }
 
-void tst_NetworkManagerTransport::redirectsOnlyOnTheSameHost_data()
+void tst_NetworkManagerTransport::redirectsOnlyOnTheSameServer_data()
 {
     QTest::addColumn<QString>("host");
-    QTest::addColumn<QString>("event");
-    QTest::newRow("same host") << u"127.0.0.1"_s << u"loginSuccess"_s;
-    QTest::newRow("another name") << u"localhost"_s << NoConnection;
+    QTest::addColumn<bool>("samePort");
+    QTest::newRow("same server") << u"127.0.0.1"_s << true;
+    QTest::newRow("another name") << u"localhost"_s << true;
+    QTest::newRow("another port") << u"127.0.0.1"_s << false;
 }
 
-void tst_NetworkManagerTransport::redirectsOnlyOnTheSameHost()
+void tst_NetworkManagerTransport::redirectsOnlyOnTheSameServer()
 {
     QFETCH(const QString, host);
-    QFETCH(const QString, event);
-    AccountService target;
-    QVERIFY(target.listen());
-    target.setCannedReply(AccountFault::Endpoint::Login, Success);
-    QSignalSpy reached(&target, &AccountService::requestReceived);
+    QFETCH(const bool, samePort);
     QTcpServer server;
-    const FixedReply reply(
-        server, redirectTo(u"http://%1:%2/nc/auth/login"_s.arg(host).arg(target.port())));
-    QCOMPARE(signIn(address(u"http"_s, server)), QStringList{event});
-    QCOMPARE(reached.size(), event == NoConnection ? 0 : 1);
+    QTcpServer other;
+    const FixedReply otherReply(other, {Good});
+    FixedReply reply(server, {});
+    const quint16 port = samePort ? server.serverPort() : other.serverPort();
+    reply.replies = {redirectTo(u"http://%1:%2/nc"_s.arg(host).arg(port)), Good};
+    const bool isSafe = samePort && host == "127.0.0.1"_L1;
+    QCOMPARE(signIn(address(u"http"_s, server)),
+             QStringList{isSafe ? u"loginSuccess"_s : NoConnection});
+    QCOMPARE(reply.connections, isSafe ? 2 : 1);
+    QCOMPARE(otherReply.connections, 0);
 }
 
 void tst_NetworkManagerTransport::neverRedirectsToPlainHttp()
@@ -207,7 +224,7 @@ void tst_NetworkManagerTransport::neverRedirectsToPlainHttp()
     QSignalSpy reached(&target, &AccountService::requestReceived);
     QSslServer server;
     useCertificate(server);
-    const FixedReply reply(server, redirectTo(target.baseUrl() + u"/nc/auth/login"_s));
+    const FixedReply reply(server, {redirectTo(target.baseUrl() + u"/nc/auth/login"_s)});
     QCOMPARE(signIn(address(u"https"_s, server)), QStringList{NoConnection});
     QVERIFY(!reply.received.isEmpty());
     QVERIFY(reached.isEmpty());
@@ -233,7 +250,11 @@ void tst_NetworkManagerTransport::failsOnUnusableAddress()
 
     m_identity.m_userId = u"1"_s;
     m_identity.m_token = u"tok"_s;
+    LogCapture log;
     NetworkManager network(baseUrl, m_identity);
+    QCOMPARE(log.take().last(), u"E NetworkManager::NetworkManager unusable address of the account "
+                                "service:"_s +
+                                    baseUrl);
     SignalRecorder recorder(network);
     network.login(u"a"_s, u"b"_s);
     network.registerUser(u"a"_s, u"b"_s, u"c"_s, u"d"_s);
@@ -272,7 +293,7 @@ void tst_NetworkManagerTransport::readsTheBodyWhateverTheHeadSays()
 {
     QFETCH(const QByteArray, reply);
     QTcpServer server;
-    const FixedReply fixed(server, reply);
+    const FixedReply fixed(server, {reply});
     QFETCH(const QString, event);
     QCOMPARE(signIn(address(u"http"_s, server)), QStringList{event});
 }
@@ -281,7 +302,7 @@ void tst_NetworkManagerTransport::reachesThisComputerWithoutProxy()
 {
     qputenv("http_proxy", "http://127.0.0.1:9");
     QTcpServer server;
-    const FixedReply reply(server, httpReply("200 OK", Success, Success.size()));
+    const FixedReply reply(server, {Good});
     QCOMPARE(signIn(address(u"http"_s, server)), QStringList{u"loginSuccess"_s});
 }
 
@@ -289,12 +310,98 @@ void tst_NetworkManagerTransport::reachesThisComputerWithoutProxy()
 void tst_NetworkManagerTransport::usesSystemProxy()
 {
     QTcpServer proxy;
-    const FixedReply reply(proxy, httpReply("200 OK", Success, Success.size()));
+    const FixedReply reply(
+        proxy, {Good, httpReply("407 No\r\nProxy-Authenticate: Basic realm=\"x\"", "?", 1)});
     qputenv("http_proxy", address(u"http"_s, proxy).toLatin1());
     QCOMPARE(signIn(u"http://service.invalid"_s), QStringList{u"loginSuccess"_s});
     QVERIFY(reply.received.startsWith("POST http://service.invalid/nc/auth/login?username=YQ&"));
+    QCOMPARE(signIn(u"http://service.invalid"_s),
+             QStringList{NoConnection + u" The proxy asks for a password."_s});
 }
 #endif
+
+/// The system may ask the network for its proxies.
+void tst_NetworkManagerTransport::waitsForProxiesWithinTheTimeout()
+{
+    std::promise<void> answer;
+    const auto lookUp = [answered = answer.get_future().share()](const QNetworkProxyQuery&) {
+        answered.wait();
+        return QList{QNetworkProxy(QNetworkProxy::NoProxy)};
+    };
+    NetworkManager network(u"http://service.invalid"_s, m_identity,
+                           {.requestTimeout = 50, .lookUpProxies = lookUp});
+    SignalRecorder recorder(network);
+    network.login(u"a"_s, u"b"_s);
+    QVERIFY(recorder.waitForEvents(2));
+    QCOMPARE(recorder.events,
+             (QStringList{NoConnection, u"loginFailed: Login request timed out."_s}));
+    answer.set_value();
+    QTRY_VERIFY(isIdle(network));
+}
+
+/// A server that sends a head without an end occupies Qt's network thread.
+void tst_NetworkManagerTransport::answersWhileAHeadDoesNotEnd()
+{
+    std::promise<quint16> port;
+    std::thread server([&port] {
+        QTcpServer listener;
+        port.set_value(listener.listen(QHostAddress::LocalHost) ? listener.serverPort() : 0);
+        const auto next = [&listener] {
+            if (!listener.hasPendingConnections())
+                listener.waitForNewConnection(30'000);
+            QTcpSocket* const client = listener.nextPendingConnection();
+            client->waitForReadyRead(30'000);
+            return client;
+        };
+        QTcpSocket* const endless = next();
+        const QByteArray head =
+            "HTTP/1.1 200 OK\r\n" + QByteArray("X-Head: more\r\n").repeated(10'000);
+        while (!listener.hasPendingConnections()) {
+            endless->write(head);
+            endless->waitForBytesWritten(1000);
+            listener.waitForNewConnection(0);
+        }
+        // It goes on while the second request is answered.
+        QTcpSocket* const client = next();
+        while (client->state() == QTcpSocket::ConnectedState) {
+            endless->write(head);
+            endless->waitForBytesWritten(1000);
+            client->write(Good);
+            client->disconnectFromHost();
+            client->waitForDisconnected(0);
+        }
+        endless->abort();
+    });
+    NetworkManager network(u"http://127.0.0.1:%1"_s.arg(port.get_future().get()), m_identity,
+                           {.requestTimeout = 1000});
+    SignalRecorder recorder(network);
+    network.login(u"a"_s, u"b"_s);
+    const bool timedOut = recorder.waitForEvents(2);
+    network.login(u"a"_s, u"b"_s);
+    const bool answered = recorder.waitForEvents(3);
+    server.join();
+    QVERIFY(timedOut && answered);
+    QCOMPARE(recorder.events.last(), u"loginSuccess"_s);
+}
+
+void tst_NetworkManagerTransport::keepsCookiesForOneAccount()
+{
+    QTcpServer server;
+    FixedReply reply(server,
+                     {httpReply("200 OK\r\nSet-Cookie: who=anna", Success, Success.size())});
+    NetworkManager network(address(u"http"_s, server), m_identity);
+    SignalRecorder recorder(network);
+    m_identity.m_userId = u"1"_s;
+    for (const auto& [token, cookie] :
+         {std::pair(u"t1"_s, false), {u"t1"_s, true}, {u"t2"_s, false}}) {
+        m_identity.m_token = token;
+        reply.received.clear();
+        network.requestUserProfile();
+        QVERIFY(recorder.waitForEvents(1));
+        recorder.events.clear();
+        QCOMPARE(reply.received.contains("who=anna"), cookie);
+    }
+}
 
 QTEST_GUILESS_MAIN(tst_NetworkManagerTransport)
 #include "tst_NetworkManagerTransport.moc"

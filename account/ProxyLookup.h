@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QFuture>
+#include <QList>
+#include <QNetworkProxy>
+#include <QUrl>
+
+#include <functional>
+
+using ProxyLookup = std::function<QList<QNetworkProxy>(const QNetworkProxyQuery& query)>;
+
+/// Starts to look up the proxies for an address. The system may ask the network about them and take
+/// many seconds, so this happens on a thread of its own, which nothing waits for. This computer is
+/// reached directly, whatever the settings say.
+[[nodiscard]] QFuture<QList<QNetworkProxy>> findProxies(const QUrl& url, ProxyLookup lookUp);
