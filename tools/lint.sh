@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# ./tools/lint.sh [--fast]   checks format, shell scripts, rooms, QML, the Windows code and static analysis.
+# ./tools/lint.sh [--fast]   checks format, scripts, licences, rooms, translations, QML and C++.
 #
 # The fast checks come first. With --fast, the checks that compile are left out.
 set -euo pipefail
@@ -14,6 +14,7 @@ case "${1:-}" in
 esac
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${lint_packages[@]}"
 cd "$root"
+mkdir -p build
 
 step "Format of C++"
 git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror ||
@@ -21,6 +22,12 @@ git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror ||
 
 step "Shell scripts"
 git ls-files -z '*.sh' .ci/run | xargs -0 shellcheck || fail "shellcheck" "see the lines above"
+
+step "Licences"
+reuse lint >build/reuse.log 2>&1 || {
+  cat build/reuse.log >&2
+  fail "reuse lint" "see the lines above"
+}
 
 step "Rooms"
 ./tools/check-rooms.py || fail "the rooms" "correct the include, or the targets in the room's CMakeLists.txt"
@@ -37,7 +44,6 @@ step "Windows code"
 ./tools/check-windows.sh || fail "compiling as Windows code" "see the lines above"
 
 step "Static analysis"
-mkdir -p build
 configure_and_build build/dev --preset dev
 git ls-files -z '*.cpp' ':!:*/windows/*' ':!:tests/' ':!:bench/' ':!:tools/' |
   xargs -0 -P "$(nproc)" -n 4 clang-tidy --quiet -p build/dev --extra-arg=-Wno-unknown-warning-option 2>/dev/null ||
