@@ -1,11 +1,13 @@
 #include "app/Program.h"
 
+#include "account/ImageFile.h"
 #include "app/StandardTasks.h"
 #include "peripherals/DeviceCheck.h"
 #include "persistence/InstalledVersions.h"
 #include "platform/Folders.h"
 
 #include <QDir>
+#include <QImageReader>
 #include <QtQml>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +24,8 @@ QString settingsFile(const QString& name)
 
 Program::Program(const QString& executablePath)
 {
+    // The pages show what ImageFile accepts.
+    QImageReader::setAllocationLimit(int(ImageFile::MaxDecodedSize / (1024 * 1024)));
     m_fileInfo.emplace(settingsFile(u"config.ini"_s));
     m_programs.emplace(m_fileInfo->googleMeetingUrl());
     m_windowManager.emplace();

@@ -13,6 +13,11 @@ Popup {
 
     signal chooseClicked
 
+    // Shows that the chosen file is no picture that can be read.
+    function refuse(): void {
+        popup.error = qsTr("The picture cannot be read.");
+    }
+
     width: 420
     height: 239
     padding: 0
@@ -55,7 +60,7 @@ Popup {
         x: 50
         y: 65
         imageSource: popup.defaultPicture
-        onFailed: popup.error = qsTr("The picture cannot be read.")
+        onFailed: popup.refuse()
     }
 
     FittedLabel {

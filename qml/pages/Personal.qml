@@ -47,6 +47,11 @@ Item {
             picturePopup.error = qsTr("The file must be under 2MB.");
             return;
         }
+        if (!page.service.isPicture(file)) {
+            page.chosenFile = ""; // Save would replace the present picture by none
+            picturePopup.refuse();
+            return;
+        }
         picturePopup.preview = file;
         edit.imageSource = file;
     }

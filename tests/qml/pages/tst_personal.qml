@@ -101,6 +101,9 @@ PageTest {
         tryVerify(() => page.picturePopup.opened);
         choose(small);
         compare(decodeURI(page.picturePopup.preview), decodeURI(small));
+        choose(rig.makePicture("cut.png", 10));
+        compare(page.picturePopup.error, "The picture cannot be read.");
+        compare(page.chosenFile, ""); // an empty picture would be sent
         choose(large);
         compare(page.picturePopup.error, "The file must be under 2MB.");
         compare(decodeURI(page.picturePopup.preview), decodeURI(small));
