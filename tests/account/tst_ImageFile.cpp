@@ -73,12 +73,9 @@ class tst_ImageFile : public QObject
     Q_OBJECT
 
 private slots:
-    void normalisesPaths_data();
-    void normalisesPaths();
     void encodes_data();
     void encodes();
     void refusesWhatIsNoPictureFile();
-    void reportsAPictureThatCannotBeEncoded();
     void appliesTheOrientation();
     void limitsTheMemoryOfLargePictures_data();
     void limitsTheMemoryOfLargePictures();
@@ -86,31 +83,6 @@ private slots:
 private:
     QTemporaryDir m_folder;
 };
-
-void tst_ImageFile::normalisesPaths_data()
-{
-    QTest::addColumn<QString>("given");
-    QTest::addColumn<QString>("path");
-    const auto row = [](const char* given, const char* path) {
-        QTest::newRow(given) << QString::fromUtf8(given) << QString::fromUtf8(path);
-    };
-    row("file:///C:/a b%20c.png", "C:/a b c.png");
-    row("file:///home/x/100%.png", "/home/x/100%.png");
-    row("file:///home/x/a%2520b#c?d%23%C3%A4.png", "/home/x/a%20b#c?d#\xc3\xa4.png");
-    row("file://server/share/a%20b.png", "//server/share/a b.png");
-    row("file://server", "file://server");
-    row("FILE:///C:/a.png", "FILE:///C:/a.png");
-    row("qrc:/images/x.png", ":/images/x.png");
-    row("C:/100%25 #1.png", "C:/100%25 #1.png");
-    row("", "");
-}
-
-void tst_ImageFile::normalisesPaths()
-{
-    QFETCH(const QString, given);
-    const QString path = ImageFile::normaliseImagePath(given);
-    QTEST(path, "path");
-}
 
 void tst_ImageFile::encodes_data()
 {
@@ -170,16 +142,6 @@ void tst_ImageFile::refusesWhatIsNoPictureFile()
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QCOMPARE(ImageFile::encode(pipe).status, Status::NotLoaded);
 #endif
-}
-
-void tst_ImageFile::reportsAPictureThatCannotBeEncoded()
-{
-    // Wider than a JPEG can be.
-    const QString path = m_folder.filePath(u"ribbon.jpg"_s);
-    QVERIFY(QImage(70'000, 1, QImage::Format_RGB32).save(path, "PNG"));
-    const ImageFile::Encoded encoded = ImageFile::encode(path);
-    QCOMPARE(encoded.status, Status::NotEncoded);
-    QVERIFY(encoded.bytes.isEmpty());
 }
 
 void tst_ImageFile::appliesTheOrientation()

@@ -22,7 +22,6 @@ private slots:
     void sendsEachRequest_data();
     void sendsEachRequest();
     void sendsTheChosenPicture();
-    void refusesAPictureThatCouldNotBeReturned();
     void sendsNoProfileRequestWithoutASignIn();
     void readsReplyShapes_data();
     void readsReplyShapes();
@@ -152,21 +151,6 @@ void tst_NetworkManager::sendsTheChosenPicture()
     QStringList lines;
     QTRY_VERIFY((lines += log.take()).contains(dropped));
     QCOMPARE(m_requests.size(), 2);
-}
-
-/// The reply of each sign-in would contain it and be cut off, which locks the user out.
-void tst_NetworkManager::refusesAPictureThatCouldNotBeReturned()
-{
-    signInAs(u"1"_s, u"tok"_s);
-    NetworkManager network(m_service->baseUrl(), m_identity, {.bodySize = 4000});
-    const SignalRecorder recorder(network);
-    m_identity.m_rawPicture = QString(3001, u'A');
-    network.profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
-    QCOMPARE(recorder.events, QStringList{u"profileUpdateFailed: The picture is too large."_s});
-    m_identity.m_rawPicture.chop(1);
-    network.profileUpdate(u"A"_s, u"B"_s, u"C"_s, u"D"_s, {});
-    QTRY_VERIFY(isIdle(network));
-    QCOMPARE(m_requests.size(), 1);
 }
 
 void tst_NetworkManager::sendsNoProfileRequestWithoutASignIn()

@@ -119,8 +119,6 @@ private slots:
     void neverRedirectsToPlainHttp();
     void failsOnUnusableAddress_data();
     void failsOnUnusableAddress();
-    void readsTheBodyWhateverTheHeadSays_data();
-    void readsTheBodyWhateverTheHeadSays();
     void reachesThisComputerWithoutProxy();
 #ifdef Q_OS_LINUX
     void usesSystemProxy();
@@ -266,36 +264,6 @@ void tst_NetworkManagerTransport::failsOnUnusableAddress()
     for (const QString& event : recorder.events)
         QVERIFY2(event.endsWith("Failed: Connection to server failed."_L1), qPrintable(event));
     QVERIFY(QDir(folder.filePath(u"nc/users"_s)).isEmpty());
-}
-
-void tst_NetworkManagerTransport::readsTheBodyWhateverTheHeadSays_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("event");
-    const QByteArray refusal = R"({"success":false,"message":"Go away."})";
-    QTest::newRow("asks for credentials")
-        << httpReply("401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"x\"", refusal,
-                     refusal.size())
-        << u"loginFailed: Go away."_s;
-    QTest::newRow("success in an error")
-        << httpReply("500 Broken", Success, Success.size()) << u"loginSuccess"_s;
-    QTest::newRow("more announced than sent")
-        << httpReply("200 OK", Success, 1000) << u"loginSuccess"_s;
-    QTest::newRow("less announced than sent")
-        << httpReply("200 OK", Success + "trailing", Success.size()) << u"loginSuccess"_s;
-    const QByteArray packed = qCompress(Success).sliced(4);
-    QTest::newRow("compressed") << httpReply("200 OK\r\nContent-Encoding: deflate", packed,
-                                             packed.size())
-                                << u"loginSuccess"_s;
-}
-
-void tst_NetworkManagerTransport::readsTheBodyWhateverTheHeadSays()
-{
-    QFETCH(const QByteArray, reply);
-    QTcpServer server;
-    const FixedReply fixed(server, {reply});
-    QFETCH(const QString, event);
-    QCOMPARE(signIn(address(u"http"_s, server)), QStringList{event});
 }
 
 void tst_NetworkManagerTransport::reachesThisComputerWithoutProxy()

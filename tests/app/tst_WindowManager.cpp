@@ -45,7 +45,6 @@ private slots:
     void showsTheWindowForASecondStart();
     void doesNotBlockTheLoopForASilentPeer();
     void hasNoTrayIconIfTheNameIsTaken();
-    void removesAStaleSocket();
     void showsTheWindowOnADoubleClickOnly();
     void emitsRequestsOnTheMainThread();
 
@@ -101,16 +100,6 @@ void tst_WindowManager::hasNoTrayIconIfTheNameIsTaken()
     QTRY_COMPARE(shown.count(), 1);
     connectedPeer().reset();
     QTRY_COMPARE(shown.count(), 2);
-}
-
-void tst_WindowManager::removesAStaleSocket()
-{
-    leaveStaleSocket(WindowManager::serverName());
-    LogCapture log;
-    WindowManager manager;
-    QCOMPARE(log.take(), QStringList{u"I WindowManager::WindowManager WindowManager"_s});
-    manager.showTrayIcon();
-    QVERIFY(manager.findChild<QSystemTrayIcon*>()->isVisible());
 }
 
 void tst_WindowManager::showsTheWindowOnADoubleClickOnly()

@@ -42,19 +42,10 @@ class tst_UdpClient : public QObject
     Q_OBJECT
 
 private slots:
-    void pointerDatagramIsExact();
     void exchangesDatagrams();
     void survivesAFlood();
-    void takenPortIsReported();
     void stopWakesTheWaitingThread();
 };
-
-void tst_UdpClient::pointerDatagramIsExact()
-{
-    QCOMPARE(pointerDatagram(0, 0.5F, 0.5F).toHex(' '),
-             "56 4f 52 4e 00 02 00 0b 00 00 01 00 3f 00 00 00 3f 00 00 00");
-    QCOMPARE(pointerDatagram(2, 0.0F, 1.0F).toHex(' ').mid(27), "02 01 00 00 00 00 00 3f 80 00 00");
-}
 
 void tst_UdpClient::exchangesDatagrams()
 {
@@ -111,17 +102,6 @@ void tst_UdpClient::survivesAFlood()
     };
     QTRY_VERIFY(isLater());
     QCOMPARE(log.take().filter(u"datagrams dropped"_s).size(), 1);
-}
-
-void tst_UdpClient::takenPortIsReported()
-{
-    QUdpSocket owner;
-    QVERIFY(owner.bind(QHostAddress::LocalHost));
-    LogCapture log;
-    UdpClient client;
-    QVERIFY(!client.bind(owner.localPort()));
-    client.send("x", 1, owner.localPort(), QHostAddress(QHostAddress::LocalHost));
-    QCOMPARE(log.take().last(), u"E UdpClient::send Cannot send data: socket not bound"_s);
 }
 
 void tst_UdpClient::stopWakesTheWaitingThread()

@@ -45,8 +45,6 @@ private slots:
     void initTestCase();
     void showsColours_data();
     void showsColours();
-    void survivesUnusualShapes_data();
-    void survivesUnusualShapes();
 
 private:
     bool showsPatches(const QSize& size);
@@ -110,25 +108,6 @@ void tst_VideoOutput::showsColours()
     SetupPicture picture(size);
     receive(m_source, size, picture.draw({}, std::nullopt, 1));
     QTRY_VERIFY(showsPatches(size));
-}
-
-void tst_VideoOutput::survivesUnusualShapes_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize size : {QSize(1, 1), QSize(65535, 126), QSize(126, 65535), QSize(16400, 500)})
-        QTest::addRow("%dx%d", size.width(), size.height()) << size;
-}
-
-void tst_VideoOutput::survivesUnusualShapes()
-{
-    QFETCH(QSize, size);
-    const qsizetype chroma = qsizetype((size.width() + 1) / 2) * 2 * ((size.height() + 1) / 2);
-    receive(m_source, size, QByteArray(qsizetype(size.width()) * size.height() + chroma, '\x60'));
-    QTRY_COMPARE(m_source.videoSink()->videoSize(), size);
-    m_window->grabWindow();
-    SetupPicture picture({960, 540});
-    receive(m_source, {960, 540}, picture.draw({}, std::nullopt, 1));
-    QTRY_VERIFY(showsPatches({960, 540}));
 }
 
 QTEST_MAIN(tst_VideoOutput)

@@ -29,7 +29,6 @@ private slots:
     void logsAnUnusableFile();
     void makesUpForAFailedClearing_data();
     void makesUpForAFailedClearing();
-    void keepsOtherUsersOut();
     void logsAFailedStatement();
 
 private:
@@ -223,18 +222,6 @@ void tst_DBManager::makesUpForAFailedClearing()
     db.emplace(m_path);
     QCOMPARE(db->getUserData(u"email"_s, {}).toString(), u"newer"_s);
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{u"userdata.db"_s});
-}
-
-void tst_DBManager::keepsOtherUsersOut()
-{
-    if (QSysInfo::kernelType() == u"winnt")
-        return; // There the folder decides.
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
-    const DBManager db(m_path);
-    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-    QVERIFY(!(QFile::permissions(m_path) & others));
 }
 
 void tst_DBManager::logsAFailedStatement()

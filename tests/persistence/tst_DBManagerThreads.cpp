@@ -40,7 +40,6 @@ private slots:
     }
 
     void servesSeveralThreadsAtOnce();
-    void removesTheConnectionsOfAnEndedThread();
     void signOutDropsPendingWrites();
     void storesAChangeWholeOnceTheFileIsUnlocked();
 
@@ -72,24 +71,6 @@ void tst_DBManagerThreads::servesSeveralThreadsAtOnce()
         thread.join();
     QCOMPARE(failed.load(), 0);
     QCOMPARE(rows(), Threads * Writes + 1);
-}
-
-void tst_DBManagerThreads::removesTheConnectionsOfAnEndedThread()
-{
-    std::unique_ptr<DBManager> db;
-    {
-        Poster poster(storeTask([&]() -> UserSettings& { return *db; }));
-        QSignalSpy drained(&poster, &Poster::drained);
-        for (const QString& path : {m_path, m_path + u"2"_s}) {
-            db = std::make_unique<DBManager>(path);
-            emit poster.addTask(u"saveDB"_s, {u"path"_s, path, db->currentSignIn()});
-            emit poster.addTask(u"drained"_s, {});
-            QVERIFY(drained.wait(30'000));
-            QCOMPARE(db->getUserData(u"path"_s, {}).toString(), path);
-            db.reset();
-        }
-    }
-    QVERIFY(QSqlDatabase::connectionNames().isEmpty());
 }
 
 void tst_DBManagerThreads::signOutDropsPendingWrites()

@@ -19,7 +19,6 @@ public:
     static void initMain();
 
 private slots:
-    void keepsDefaultsWithoutAFile();
     void readsAndLogsEveryValue();
     void keepsDefaultForAnUnusableValue_data();
     void keepsDefaultForAnUnusableValue();
@@ -64,17 +63,6 @@ QString tst_FileInfo::write(const QByteArray& content) const
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) < 0)
         qFatal("cannot write %s", qPrintable(file.fileName()));
     return file.fileName();
-}
-
-void tst_FileInfo::keepsDefaultsWithoutAFile()
-{
-    LogCapture log;
-    const QString path = m_dir.filePath(u"none.ini"_s);
-    const FileInfo info(path);
-    compareWithDefaults(info);
-    QCOMPARE(info.configPath(), path);
-    QCOMPARE(log.take(), QStringList{u"E FileInfo::FileInfo "_s + path + u" not exist!!!"_s});
-    QVERIFY(!QFile::exists(path));
 }
 
 void tst_FileInfo::readsAndLogsEveryValue()

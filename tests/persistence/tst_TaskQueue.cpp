@@ -14,7 +14,6 @@ class tst_TaskQueue : public QObject
 private slots:
     void init() { m_done.clear(); }
     void runsOneTaskPerTurnInPostingOrder();
-    void startsATaskAtOnceWhenIdle();
     void keepsOnlyTheNewestWriteOfAValue();
     void aTaskTriedAgainHoldsUpItsOwnKindOnly();
     void performsWritesAndDiscardsLaunchesAtItsEnd();
@@ -63,16 +62,6 @@ void tst_TaskQueue::runsOneTaskPerTurnInPostingOrder()
     QCOMPARE(m_done, QStringList{u"b"_s});
     QTRY_COMPARE(m_done.join(u' '), u"b event a b event c event"_s);
     QCOMPARE(log.take().join(u' ').remove(u"I TaskQueue::processTask "_s), u"b a unknown b c"_s);
-}
-
-void tst_TaskQueue::startsATaskAtOnceWhenIdle()
-{
-    TaskQueue queue({task(u"a"_s)});
-    for (int round = 1; round <= 2; ++round) {
-        queue.addTask(u"a"_s, {});
-        QCOMPARE(m_done.size(), round);
-        QCoreApplication::processEvents(); // ends the chain of turns
-    }
 }
 
 void tst_TaskQueue::keepsOnlyTheNewestWriteOfAValue()

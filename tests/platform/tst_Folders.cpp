@@ -44,8 +44,6 @@ private slots:
     void init();
     void findsTheFoldersOfTheLog();
     void keepsSettingsBesideTheExecutableIfItCanWrite();
-    void translatesProgramNames();
-    void hasAVersionForTheRunningProgramOnly();
     void keepsInstanceObjectsInFoldersOfTheUser();
 
 private:
@@ -121,30 +119,6 @@ void tst_Folders::keepsSettingsBesideTheExecutableIfItCanWrite()
     QCOMPARE(settingsFolderOf(folder), own);
     QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\nuse_remote_device=false\n");
     QFile::setPermissions(folder, writable); // so that it can be removed
-}
-
-void tst_Folders::translatesProgramNames()
-{
-    QCOMPARE(platform::executableFileName(u"ms-teams.exe"_s), u"ms-teams"_s);
-    QCOMPARE(platform::executableFileName(u"Zoom"_s), u"Zoom"_s);
-    QCOMPARE(platform::programBesideApplication(u"platform_helper.exe"_s),
-             HelperProcess::path(u"platform_helper"_s));
-    QCOMPARE(platform::programBesideApplication(u"vorn-test-missing.exe"_s),
-             u"vorn-test-missing"_s);
-}
-
-void tst_Folders::hasAVersionForTheRunningProgramOnly()
-{
-    for (const QString& self :
-         {QCoreApplication::applicationFilePath(), u"/proc/self/exe"_s, u"tst_Folders"_s}) {
-        const auto versions = platform::fileVersions(self);
-        QVERIFY2(versions.has_value(), qPrintable(self));
-        QVERIFY(versions->file != (std::array<quint16, 4>{}));
-        QCOMPARE(versions->product, versions->file);
-    }
-    for (const QString& other : {u"/bin/sh"_s, u"sh"_s, u"/missing"_s, QString(),
-                                 HelperProcess::path(u"platform_helper"_s)})
-        QVERIFY2(!platform::fileVersions(other), qPrintable(other));
 }
 
 void tst_Folders::keepsInstanceObjectsInFoldersOfTheUser()

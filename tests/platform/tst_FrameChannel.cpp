@@ -56,7 +56,6 @@ private slots:
     void survivesTruncatedMemory();
     void refusesReservedMemory();
     void survivesATruncatedEvent();
-    void interruptEndsAWait();
     void interruptEndsTheNextWait();
 
 private:
@@ -271,18 +270,6 @@ void tst_FrameChannel::survivesATruncatedEvent()
     QCOMPARE(wait(), Outcome::Interrupted);
     QCOMPARE(wait(), Outcome::Failed);
     QVERIFY(!m_channel->isOpen());
-}
-
-void tst_FrameChannel::interruptEndsAWait()
-{
-    QVERIFY(openAll());
-    for (int i = 0; i < 200; ++i) {
-        auto outcome = std::async(std::launch::async, [this] { return wait(); });
-        m_channel->interrupt();
-        QCOMPARE(outcome.get(), Outcome::Interrupted);
-    }
-    // No interruption is left that a wait would take for a frame.
-    QCOMPARE(wait(Short), Outcome::TimedOut);
 }
 
 void tst_FrameChannel::interruptEndsTheNextWait()

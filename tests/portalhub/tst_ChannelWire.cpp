@@ -1,6 +1,5 @@
 #include "portalhub/LineReader.h"
 #include "portalhub/MessageLine.h"
-#include "portalhub/OutgoingQueue.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -8,7 +7,7 @@
 using namespace channel;
 using namespace Qt::StringLiterals;
 
-/// The wire format, the splitting into lines and the bounded queue.
+/// The wire format and the splitting into lines.
 class tst_ChannelWire : public QObject
 {
     Q_OBJECT
@@ -19,7 +18,6 @@ private slots:
     void encodedTextIsOneLine();
     void linesAreFoundInAnyPiecesOfTheStream();
     void overlongLinesAreSkipped();
-    void queueCountsTheUnwrittenBytesOfTheSocket();
 };
 
 void tst_ChannelWire::linesAreParsed_data()
@@ -101,25 +99,6 @@ void tst_ChannelWire::overlongLinesAreSkipped()
     reader.reset();
     reader.append("new\n");
     QCOMPARE(reader.next(), "new");
-}
-
-void tst_ChannelWire::queueCountsTheUnwrittenBytesOfTheSocket()
-{
-    using Result = OutgoingQueue::Result;
-    OutgoingQueue queue(10);
-    QCOMPARE(queue.push("x"), Result::Closed);
-    queue.open();
-    QCOMPARE(queue.push("1234"), Result::FirstWaiting);
-    QCOMPARE(queue.push("5678"), Result::Accepted);
-    QCOMPARE(queue.push("9ab"), Result::Full);
-    QCOMPARE(queue.take(), "12345678");
-    QCOMPARE(queue.push("9ab"), Result::Full); // the socket has not written it
-    queue.setUnwritten(5);
-    QCOMPARE(queue.push("9ab"), Result::FirstWaiting);
-    queue.close();
-    QCOMPARE(queue.take(), QByteArray());
-    queue.open();
-    QCOMPARE(queue.push("0123456789"), Result::FirstWaiting);
 }
 
 QTEST_GUILESS_MAIN(tst_ChannelWire)

@@ -63,7 +63,6 @@ private slots:
     void shippedScenariosRun();
     void scenarioEndsWithItsExitCode_data();
     void scenarioEndsWithItsExitCode();
-    void standardInputRunsBesideAScenario();
 
 private:
     void run(const QByteArray& scenario);
@@ -150,24 +149,6 @@ void tst_Scenario::scenarioEndsWithItsExitCode()
     const Program program(m_folder->filePath(u"hub"_s));
     QTEST(exitCode(), "code");
     QTEST(QByteArray::fromStdString(m_errors.str()), "error");
-}
-
-void tst_Scenario::standardInputRunsBesideAScenario()
-{
-    run("wait-client\necho over\n");
-    m_simulator->enterCommand(u"status"_s);
-    m_simulator->enterCommand(u"nonsense"_s);
-    m_simulator->enterCommand(u"wait-client 0.01"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"failed"_s).size(), 1, Patience);
-    QCOMPARE(events(u"bad-command"_s).size(), 1);
-    QCOMPARE(events(u"status"_s).size(), 1);
-    QVERIFY(events(u"scenario-finished"_s).isEmpty());
-    const Program program(m_folder->filePath(u"hub"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(events(u"scenario-finished"_s).size(), 1, Patience);
-    QCOMPARE(events(u"echo"_s).size(), 1);
-    QVERIFY(m_finished->isEmpty());
-    m_simulator->enterCommand(u"quit"_s);
-    QCOMPARE(exitCode(), 1); // because a command has failed
 }
 
 QTEST_GUILESS_MAIN(tst_Scenario)
