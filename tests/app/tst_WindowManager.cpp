@@ -16,16 +16,6 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// Creates a socket file without a listener, as a crash leaves it.
-void leaveStaleSocket(const QString& path)
-{
-    QLocalServer server;
-    QVERIFY(server.listen(path));
-    QVERIFY(QFile::rename(path, path + u'x')); // so that closing does not remove it
-    server.close();
-    QVERIFY(QFile::rename(path + u'x', path));
-}
-
 std::unique_ptr<QLocalSocket> connectedPeer()
 {
     auto peer = std::make_unique<QLocalSocket>();
