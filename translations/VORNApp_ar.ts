@@ -472,6 +472,10 @@ Zoom Room screen</source>
         <source>Request failed with unknown reason.</source>
         <translation>فشل الطلب لسبب غير معروف.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>فشل الاتصال بالخادم. يطلب خادم الوكيل كلمة مرور.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

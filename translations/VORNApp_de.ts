@@ -472,6 +472,10 @@ Zoom-Room-Bildschirm spiegeln</translation>
         <source>Invalid JSON response: %1</source>
         <translation>Ungültige JSON-Antwort: %1</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Die Verbindung zum Server ist fehlgeschlagen. Der Proxy verlangt ein Passwort.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

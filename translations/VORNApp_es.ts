@@ -472,6 +472,10 @@ pantalla de Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>La solicitud falló por un motivo desconocido.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Error de conexión con el servidor. El proxy pide una contraseña.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

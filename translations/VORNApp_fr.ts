@@ -472,6 +472,10 @@ l’écran Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>La demande a échoué pour une raison inconnue.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>La connexion au serveur a échoué. Le serveur proxy demande un mot de passe.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

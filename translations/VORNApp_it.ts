@@ -472,6 +472,10 @@ schermo di Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>Richiesta non riuscita per un motivo sconosciuto.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Connessione al server non riuscita. Il proxy richiede una password.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

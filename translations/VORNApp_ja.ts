@@ -472,6 +472,10 @@ Zoom Room の画面にミラーリングします</translation>
         <source>Request failed with unknown reason.</source>
         <translation>不明な理由により要求が失敗しました。</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>サーバーへの接続に失敗しました。プロキシがパスワードを要求しています。</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

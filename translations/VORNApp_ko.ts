@@ -472,6 +472,10 @@ Zoom Room 화면에 미러링합니다</translation>
         <source>Request failed with unknown reason.</source>
         <translation>알 수 없는 이유로 요청이 실패했습니다.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>서버에 연결하지 못했습니다. 프록시에 비밀번호가 필요합니다.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

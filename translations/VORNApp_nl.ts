@@ -472,6 +472,10 @@ het scherm van de Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>De aanvraag is om onbekende reden mislukt.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>De verbinding met de server is mislukt. De proxy vraagt om een wachtwoord.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

@@ -472,6 +472,10 @@ ekranie Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>Żądanie nie powiodło się z nieznanego powodu.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Nie udało się połączyć z serwerem. Serwer proxy wymaga hasła.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

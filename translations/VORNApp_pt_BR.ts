@@ -472,6 +472,10 @@ tela do Zoom Room</translation>
         <source>Request failed with unknown reason.</source>
         <translation>A solicitação falhou por motivo desconhecido.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Falha na conexão com o servidor. O proxy pede uma senha.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

@@ -472,6 +472,10 @@ Zoom Room-skärmen</translation>
         <source>Request failed with unknown reason.</source>
         <translation>Begäran misslyckades av okänd anledning.</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>Det gick inte att ansluta till servern. Proxyn kräver ett lösenord.</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

@@ -472,6 +472,10 @@ Zoom Room 屏幕</translation>
         <source>Request failed with unknown reason.</source>
         <translation>请求因未知原因失败。</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>连接服务器失败。代理要求输入密码。</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>

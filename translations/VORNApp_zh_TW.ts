@@ -472,6 +472,10 @@ Zoom Room 螢幕</translation>
         <source>Request failed with unknown reason.</source>
         <translation>要求因不明原因失敗。</translation>
     </message>
+    <message>
+        <source>Connection to server failed. The proxy asks for a password.</source>
+        <translation>無法連線至伺服器。Proxy 要求輸入密碼。</translation>
+    </message>
 </context>
 <context>
     <name>PTZ</name>
