@@ -15,7 +15,6 @@ private slots:
     void usesBlocksAgain();
     void growsInNumberAndSize();
     void blocksReturnOnAnyThreadAndLater();
-    void discardedFrameIsInvalid();
 };
 
 void tst_FrameMemory::usesBlocksAgain()
@@ -61,21 +60,6 @@ void tst_FrameMemory::blocksReturnOnAnyThreadAndLater()
     another.reset();
     memory.reset();
     std::memset(block.data(), 1, 100);
-}
-
-void tst_FrameMemory::discardedFrameIsInvalid()
-{
-    FrameFactory factory;
-    const QVideoFrameFormat format(QSize(34, 20), QVideoFrameFormat::Format_NV12);
-    QVERIFY(!factory.make(format, [](const auto&) { return false; }).isValid());
-    QVideoFrame frame = factory.make(format, [](const auto& planes) {
-        planes[0].data[planes[0].bytesPerLine] = 7;
-        return planes[0].rows >= 20 && planes[1].rows >= 10;
-    });
-    factory.freeUnused();
-    QVERIFY(frame.map(QVideoFrame::ReadOnly));
-    QCOMPARE(int(frame.bits(0)[frame.bytesPerLine(0)]), 7);
-    frame.unmap();
 }
 
 QTEST_GUILESS_MAIN(tst_FrameMemory)

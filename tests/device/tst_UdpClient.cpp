@@ -1,4 +1,3 @@
-#include "device/PointerDatagram.h"
 #include "device/UdpClient.h"
 #include "support/LogCapture.h"
 
@@ -44,7 +43,6 @@ class tst_UdpClient : public QObject
 private slots:
     void exchangesDatagrams();
     void survivesAFlood();
-    void stopWakesTheWaitingThread();
 };
 
 void tst_UdpClient::exchangesDatagrams()
@@ -102,19 +100,6 @@ void tst_UdpClient::survivesAFlood()
     };
     QTRY_VERIFY(isLater());
     QCOMPARE(log.take().filter(u"datagrams dropped"_s).size(), 1);
-}
-
-void tst_UdpClient::stopWakesTheWaitingThread()
-{
-    UdpClient client;
-    bool received = true;
-    std::thread waiting([&] {
-        QNetworkDatagram datagram;
-        received = client.waitForDatagram(datagram, 1h);
-    });
-    client.stop();
-    waiting.join();
-    QVERIFY(!received);
 }
 
 QTEST_GUILESS_MAIN(tst_UdpClient)

@@ -46,14 +46,6 @@ int writeValues(const QString& key, const QString& prefix, int count)
     return 0;
 }
 
-int killOwnName()
-{
-    const QString name = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    const auto outcome = platform::killByImageName(name, std::chrono::seconds(1));
-    print(QByteArray::number(outcome.exitCode));
-    return 0;
-}
-
 // Deliberate crashes. Volatile values keep the compiler from removing them.
 
 std::mutex g_logLock;
@@ -116,8 +108,6 @@ int run(const QStringList& arguments)
     }
     if (mode == "registry"_L1)
         return writeValues(first, arguments.value(3), arguments.value(4).toInt());
-    if (mode == "kill-own-name"_L1)
-        return killOwnName();
     if (mode == "lock"_L1) {
         const platform::InstanceLock lock(first);
         return lock.isHeld() ? waitForEnd() : 1;

@@ -55,7 +55,6 @@ private slots:
     void keepsTheObjectsOfADeadWriter();
     void survivesTruncatedMemory();
     void refusesReservedMemory();
-    void survivesATruncatedEvent();
     void interruptEndsTheNextWait();
 
 private:
@@ -258,18 +257,6 @@ void tst_FrameChannel::refusesReservedMemory()
     const auto result = m_channel->open();
     QCOMPARE(result.failedAt, Step::View);
     QCOMPARE(result.error, quint32(487)); // ERROR_INVALID_ADDRESS
-}
-
-void tst_FrameChannel::survivesATruncatedEvent()
-{
-    if (IsWindows)
-        QSKIP("Windows cannot truncate an event.");
-    QVERIFY(openAll());
-    QVERIFY(m_writer->command("cut-event"));
-    m_channel->interrupt();
-    QCOMPARE(wait(), Outcome::Interrupted);
-    QCOMPARE(wait(), Outcome::Failed);
-    QVERIFY(!m_channel->isOpen());
 }
 
 void tst_FrameChannel::interruptEndsTheNextWait()

@@ -27,7 +27,6 @@ private slots:
     void killsEveryProcessOfTheName_data();
     void killsEveryProcessOfTheName();
     void findsDeletedProgramsAndScripts();
-    void sparesItself();
     void reportsThatThereIsNone();
 
 private:
@@ -113,18 +112,6 @@ void tst_Processes::findsDeletedProgramsAndScripts()
         QCOMPARE(platform::killByImageName(running, Patience).exitCode, 0);
         QVERIFY(!isRunning(running));
     }
-}
-
-void tst_Processes::sparesItself()
-{
-    if (IsWindows)
-        QSKIP("The tool of Windows kills every process of the name.");
-    const QString program = install(uniqueName(u"vorn-test-self-"_s));
-    QProcess process;
-    process.start(program, {u"kill-own-name"_s});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.readAllStandardOutput().trimmed(), "128"); // no other process found
 }
 
 void tst_Processes::reportsThatThereIsNone()

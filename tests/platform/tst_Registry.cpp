@@ -30,7 +30,6 @@ private slots:
     void keepsValues();
     void sharesAFileWithOtherPrograms();
     void keepsTheValuesOfConcurrentWriters();
-    void reportsThatItCannotWrite();
 
 private:
     std::unique_ptr<QTemporaryDir> m_home;
@@ -121,16 +120,6 @@ void tst_Registry::keepsTheValuesOfConcurrentWriters()
             QCOMPARE(platform::readRegistry(Key, prefix + QString::number(i)),
                      IsWindows ? QVariant(i) : QVariant(u"%1"_s.arg(i)));
     }
-}
-
-void tst_Registry::reportsThatItCannotWrite()
-{
-    if (IsWindows)
-        QSKIP("The registry is no file on Windows.");
-    QFile blocker(m_home->filePath(u"VORNApp"_s)); // a file in place of the folder
-    QVERIFY(blocker.open(QIODevice::WriteOnly));
-    QVERIFY(!platform::writeRegistry(Key, u"version"_s, u"1"_s));
-    QVERIFY(!platform::readRegistry(Key, u"never"_s).isValid());
 }
 
 QTEST_GUILESS_MAIN(tst_Registry)

@@ -21,12 +21,6 @@ DisplayTest {
         return findChild(test.page, name) as Item;
     }
 
-    function source(byod: int, zoom: int): void {
-        rig.report(6, JSON.stringify({
-            cmd: 6, seq: 1, type: 1, byod_status: byod, zoom_status: zoom, is_byodui_show: 1
-        }));
-    }
-
     name: "MeetingControl"
     width: 1092
     height: 835
@@ -71,29 +65,5 @@ DisplayTest {
         compare(test.sent(), [test.volume(37)]);
         slider.increase(); // as a screen reader does
         compare(test.sent(), [test.volume(38)]);
-    }
-
-    function test_cardsSelectTheSource(): void {
-        const byod = test.control("byodCard") as SourceCard;
-        const zoom = test.control("zoomCard") as SourceCard;
-        for (const card of [byod, zoom]) {
-            mouseClick(card);
-            verify(!card.enabled);
-            verify(!findChild(card, "selectedBar").visible);
-        }
-        compare(test.sent(), []);
-
-        test.source(1, 1);
-        verify(byod.enabled && zoom.enabled);
-        mouseClick(byod);
-        compare(test.sent(), ['{"byod_status":2,"cmd":9,"seq":#,"type":2}']);
-        compare([byod.value, zoom.value], [2, 0]);
-        verify(findChild(byod, "selectedBar").visible);
-
-        test.source(1, 1);
-        zoom.forceActiveFocus();
-        keyClick(Qt.Key_Return);
-        compare(test.sent(), ['{"cmd":10,"seq":#,"type":2,"zoom_status":2}']);
-        compare([byod.value, zoom.value], [0, 2]);
     }
 }
