@@ -1,13 +1,13 @@
 #include "launch/ProcessManager.h"
 
 #include "logging/Log.h"
+#include "platform/Browser.h"
 #include "platform/Folders.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
 #include "platform/Shortcuts.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -15,8 +15,6 @@
 #include <QThread>
 #include <QUrl>
 
-#include <future>
-#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -28,8 +26,6 @@ constexpr std::chrono::seconds CommandPatience{30};
 // The main thread ends a companion program during the quit, which must not take long.
 constexpr std::chrono::milliseconds MainThreadPatience{1'500};
 constexpr std::chrono::seconds ShortcutPatience{3};
-// Short, because the main thread may be waiting for the calling thread to end.
-constexpr std::chrono::seconds OpenPatience{1};
 
 constexpr QLatin1StringView ZoomUninstallKey{
     "HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\ZoomUMX"};
@@ -51,24 +47,6 @@ bool isMainThread()
 {
     const QCoreApplication* const application = QCoreApplication::instance();
     return application && QThread::currentThread() == application->thread();
-}
-
-// The desktop services may be called on the main thread only. At the end of the program the main
-// thread waits for the calling thread, so the wait for the answer is bounded.
-bool openInBrowser(const QUrl& address)
-{
-    QCoreApplication* const application = QCoreApplication::instance();
-    if (!application)
-        return false;
-    if (isMainThread())
-        return QDesktopServices::openUrl(address);
-
-    const auto promise = std::make_shared<std::promise<bool>>();
-    auto opened = promise->get_future();
-    QMetaObject::invokeMethod(
-        application, [address, promise] { promise->set_value(QDesktopServices::openUrl(address)); },
-        Qt::QueuedConnection);
-    return opened.wait_for(OpenPatience) == std::future_status::ready && opened.get();
 }
 
 } // namespace
@@ -109,7 +87,10 @@ bool ProcessManager::killProcess(const QString& name, const std::stop_token& sto
     const auto outcome = platform::killByImageName(
         name, isMainThread() ? MainThreadPatience : CommandPatience, stop);
     if (!outcome.finished) {
-        Log::error(Function) << "kill " << name << " Failed to execute taskkill command!";
+        if (stop.stop_requested())
+            Log::info(Function) << "kill " << name << " interrupted";
+        else
+            Log::error(Function) << "kill " << name << " Failed to execute taskkill command!";
         return false;
     }
     if (outcome.exitCode != 0) {
@@ -123,6 +104,8 @@ bool ProcessManager::killProcess(const QString& name, const std::stop_token& sto
 void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token& stop)
 {
     const auto outcome = platform::isImageRunning(name, CommandPatience, stop);
+    if (!outcome.finished && stop.stop_requested())
+        return; // nothing failed, the program ends
     if (!outcome.finished) {
         // The text names the updater, whatever `name` is.
         Log::error("ProcessManager::keepProcessAlive")
@@ -202,6 +185,8 @@ bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
 {
     constexpr auto Function = "ProcessManager::getShortcutTarget";
     const auto result = platform::shortcutTarget(shortcut, ShortcutPatience);
+    if (!result.finished && QThread::currentThread()->isInterruptionRequested())
+        return false; // nothing failed, the program ends
     if (!result.finished) {
         Log::error(Function) << "Process failed or timeout:" << result.processError;
         return false;
@@ -263,5 +248,5 @@ bool ProcessManager::startTeamsIn(const QString& folder, const QString& fileName
 
 bool ProcessManager::openGoogleMeeting()
 {
-    return !openInBrowser(QUrl(m_googleMeetingUrl));
+    return !platform::openInBrowser(QUrl(m_googleMeetingUrl));
 }

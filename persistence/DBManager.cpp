@@ -2,6 +2,7 @@
 
 #include "logging/Log.h"
 
+#include <QDateTime>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -39,13 +40,53 @@ void DBManager::initialize()
 {
     const std::scoped_lock lock(m_mutex);
     m_clearingIsDue = QFile::exists(clearingNote());
+    if (m_connections.open() && isUnusable())
+        setAside();
     if (!m_connections.open())
         Log::error("DBManager::initialize") << "Failed to open database";
     else // The file holds the token of the account.
         QFile::setPermissions(m_dbPath, QFile::ReadOwner | QFile::WriteOwner);
-    if (!report(m_connections.run(u"CREATE TABLE IF NOT EXISTS user_settings "
-                                  "(key TEXT PRIMARY KEY NOT NULL, value BLOB)"_s)))
+    if (!report(makeTable()))
         Log::error("DBManager::initialize") << "Failed to create tables";
+}
+
+/// Whether the file is damaged, no database, or one of another layout.
+bool DBManager::isUnusable()
+{
+    constexpr int OtherLayout = 1;
+    constexpr int Damaged = 11;
+    constexpr int NoDatabase = 26;
+    const Result check = m_connections.run(u"PRAGMA quick_check(1)"_s);
+    if (check.isDone() && check.value.toString() != "ok"_L1)
+        return true;
+    const int code = check.isDone() && makeTable().isDone()
+                         ? m_connections.run(u"SELECT key, value FROM user_settings LIMIT 0"_s).code
+                         : check.code;
+    return code == OtherLayout || code == Damaged || code == NoDatabase;
+}
+
+void DBManager::setAside()
+{
+    m_connections.close();
+    m_hasTable = false;
+    const QString aside =
+        m_dbPath + QDateTime::currentDateTime().toString(u"'-unusable-'yyyyMMdd-HHmmss-zzz"_s);
+    if (QFile::rename(m_dbPath, aside))
+        Log::error("DBManager::initialize") << "unusable database moved to " << aside;
+    else
+        Log::error("DBManager::initialize") << "cannot move the unusable database to " << aside;
+    QFile::remove(m_dbPath + "-journal"_L1); // belongs to the old file
+}
+
+/// Makes the table unless it is there. It may be missing because the file was locked at the start.
+DBManager::Result DBManager::makeTable()
+{
+    if (m_hasTable)
+        return {};
+    Result result = m_connections.run(u"CREATE TABLE IF NOT EXISTS user_settings "
+                                      "(key TEXT PRIMARY KEY NOT NULL, value BLOB)"_s);
+    m_hasTable = result.isDone();
+    return result;
 }
 
 bool DBManager::openDatabase()
@@ -69,7 +110,7 @@ QVariant DBManager::getUserData(const QString& key, const QVariant& defaultValue
         Log::error(Function) << "Database not open";
         return defaultValue;
     }
-    if (!report(clearIfDue()))
+    if (!report(prepare()))
         return defaultValue;
     const Result result =
         m_connections.run(u"SELECT value FROM user_settings WHERE key = :key"_s, {{u"key"_s, key}});
@@ -105,16 +146,14 @@ bool DBManager::clearUserData()
     const std::scoped_lock lock(m_mutex);
     ++m_signIn;
     m_clearingIsDue = true;
-    const Result result = clear();
-    if (m_clearingIsDue)
-        noteClearing();
-    return report(result);
+    noteClearing(); // first, so that an end in between does not bring the account back
+    return report(clear());
 }
 
 /// Stores all of the values or none.
 DBManager::Result DBManager::store(const QList<Value>& values)
 {
-    Result result = clearIfDue();
+    Result result = prepare();
     if (result.isDone())
         result = m_connections.run(u"BEGIN IMMEDIATE"_s);
     if (!result.isDone())
@@ -132,11 +171,12 @@ DBManager::Result DBManager::store(const QList<Value>& values)
     return result;
 }
 
-/// Makes up for a deletion that failed. Done unless the data is still there.
-DBManager::Result DBManager::clearIfDue()
+/// Makes up for a deletion that failed and for a table that could not be made at the start. Done
+/// unless old data is still there.
+DBManager::Result DBManager::prepare()
 {
     if (!m_clearingIsDue)
-        return {};
+        return makeTable();
     Result result = clear();
     if (m_clearingIsDue)
         return result;
@@ -146,7 +186,9 @@ DBManager::Result DBManager::clearIfDue()
 
 DBManager::Result DBManager::clear()
 {
-    Result result = m_connections.run(u"DELETE FROM user_settings"_s);
+    Result result = makeTable();
+    if (result.isDone())
+        result = m_connections.run(u"DELETE FROM user_settings"_s);
     if (!result.isDone())
         return result;
     m_clearingIsDue = false;

@@ -15,8 +15,11 @@
 /// Any thread, except for the constructor and the destructor, which run on the main thread while
 /// the application object lives. Failures are logged and returned, never thrown.
 ///
-/// A sign-out whose deletion fails is noted in a file beside the database, and the deletion is made
-/// before anything else is read or written, if necessary by the next run.
+/// A sign-out is noted in a file beside the database until its deletion is made. One that fails is
+/// made before anything else is read or written, if necessary by the next run.
+///
+/// A file that is damaged or has another layout is set aside under a name with the time, and a new
+/// one is made.
 class DBManager : public UserSettings
 {
 public:
@@ -40,11 +43,14 @@ private:
     using Result = SqlConnections::Result;
 
     void initialize();
+    bool isUnusable();
+    void setAside();
+    Result makeTable();
     [[nodiscard]] QString clearingNote() const;
 
     Result store(const QList<Value>& values);
     Result clear();
-    Result clearIfDue();
+    Result prepare();
     void noteClearing();
 
     // Guards all of the below: comparing the sign-in and writing are one step, and the connections
@@ -52,6 +58,7 @@ private:
     std::mutex m_mutex;
     SqlConnections m_connections;
     QString m_dbPath;
+    bool m_hasTable = false;
     bool m_clearingIsDue = false;
     std::atomic<quint64> m_signIn{1}; // read without the lock
 };

@@ -1,12 +1,16 @@
 #include "persistence/FileInfo.h"
 
 #include "logging/Log.h"
+#include "persistence/IniEdit.h"
 #include "persistence/Keys.h"
 #include "platform/Registry.h"
 #include "platform/VersionResource.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
 #include <QSettings>
 
 #include <utility>
@@ -20,10 +24,30 @@ constexpr int DefaultInterval = 5000;
 constexpr int LongestInterval = 24 * 60 * 60 * 1000;
 // A real file has about a dozen lines, and QSettings loads a file of any size.
 constexpr qint64 LargestConfig = 1 << 20;
+constexpr int LockWaitMs = 500;
 
 void logKept(const QString& key)
 {
     Log::error("FileInfo::FileInfo") << "value of " << key << " cannot be used, default kept";
+}
+
+/// Like QSettings, locks the file against other writers and replaces it as a whole.
+bool writeIniValue(const QString& path, const QString& key, const QVariant& value)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QLockFile lock(path + ".lock"_L1);
+    if (!lock.tryLock(LockWaitMs))
+        return false;
+    QFile file(path);
+    if (file.exists() && (!QFileInfo(file).isFile() || file.size() > LargestConfig))
+        return false;
+    if (file.exists() && !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = file.isOpen() ? file.readAll() : QByteArray();
+    file.close();
+    QSaveFile written(path);
+    return written.open(QIODevice::WriteOnly) &&
+           written.write(withIniValue(content, key, value)) >= 0 && written.commit();
 }
 
 } // namespace
@@ -57,14 +81,15 @@ void FileInfo::readConfig()
                 << m_configPath << " is larger than " << LargestConfig << " bytes, ignored";
             return;
         }
-        Log::info("FileInfo::FileInfo") << m_configPath << '\n' << content;
         file.close();
+        logContent(content);
     } else {
         Log::info("FileInfo::FileInfo")
             << "open " << m_configPath << " error:" << file.errorString();
     }
 
     const QSettings settings(m_configPath, QSettings::IniFormat);
+    (void)settings.allKeys(); // the status is known once every section is parsed
     if (settings.status() == QSettings::FormatError)
         Log::error("FileInfo::FileInfo") << m_configPath << " holds lines that cannot be read";
     readString(settings, keys::config::LowestFirmware, m_k4vLowestVer);
@@ -73,8 +98,17 @@ void FileInfo::readConfig()
     readBool(settings, keys::config::LaunchZoom, m_supportLaunchZoom);
     readBool(settings, keys::config::LaunchTeams, m_supportLaunchTeams);
     readBool(settings, keys::config::LaunchGoogle, m_supportLaunchGoogle);
-    readString(settings, keys::config::ServerUrl, m_serverUrl);
+    readServerUrl(settings);
     readString(settings, keys::config::GoogleMeetingUrl, m_googleMeetingUrl);
+}
+
+/// The lines of the file stay lines of the log, while its other control characters are escaped.
+void FileInfo::logContent(const QByteArray& content) const
+{
+    auto message = Log::info("FileInfo::FileInfo");
+    message << m_configPath;
+    for (const QByteArray& line : content.split('\n'))
+        message << "\n" << line;
 }
 
 void FileInfo::readString(const QSettings& settings, const QString& key, QString& member) const
@@ -88,6 +122,20 @@ void FileInfo::readString(const QSettings& settings, const QString& key, QString
     else
         logKept(key);
     Log::info("FileInfo::FileInfo") << key << ':' << member;
+}
+
+/// Blanks and trailing slashes are taken off, since paths are appended to the address.
+void FileInfo::readServerUrl(const QSettings& settings)
+{
+    const QString byDefault = m_serverUrl;
+    readString(settings, keys::config::ServerUrl, m_serverUrl);
+    while (!m_serverUrl.isEmpty() && (m_serverUrl.back().isSpace() || m_serverUrl.back() == u'/'))
+        m_serverUrl.chop(1);
+    m_serverUrl = m_serverUrl.trimmed();
+    if (!m_serverUrl.isEmpty())
+        return;
+    m_serverUrl = byDefault;
+    logKept(keys::config::ServerUrl);
 }
 
 void FileInfo::readBool(const QSettings& settings, const QString& key, bool& member) const
@@ -117,13 +165,8 @@ void FileInfo::saveConfig(const QString& iniPath, const QString& key, const QVar
         Log::error("FileInfo::saveConfig") << "path or key missing";
         return;
     }
-    {
-        QSettings settings(iniPath, QSettings::IniFormat);
-        settings.setValue(key, value);
-        settings.sync();
-        if (settings.status() == QSettings::AccessError)
-            Log::error("FileInfo::saveConfig") << "cannot write " << iniPath;
-    }
+    if (!writeIniValue(iniPath, key, value))
+        Log::error("FileInfo::saveConfig") << "cannot write " << iniPath;
     const QSettings written(iniPath, QSettings::IniFormat);
     Log::info("FileInfo::saveConfig")
         << "check " << iniPath << ' ' << key << ':' << written.value(key).toString();

@@ -27,11 +27,13 @@ public:
     bool supportLaunchZoom() const { return m_supportLaunchZoom; }
     bool supportLaunchTeams() const { return m_supportLaunchTeams; }
     bool supportLaunchGoogle() const { return m_supportLaunchGoogle; }
-    /// Base URL of the account service.
+    /// Base URL of the account service, without a slash at its end.
     const QString& serverUrl() const { return m_serverUrl; }
     const QString& googleMeetingUrl() const { return m_googleMeetingUrl; }
 
-    /// Writes one value to an INI file, reads it back and logs it. Task thread.
+    /// Writes one value to an INI file, reads it back and logs it. All other lines stay as they
+    /// are. Task thread.
+    /// @param key  "Section/name"
     void saveConfig(const QString& iniPath, const QString& key, const QVariant& value) const;
     /// Writes one value to the registry, reads it back and logs it. Booleans are stored as the
     /// integers 0 and 1. Task thread.
@@ -40,7 +42,9 @@ public:
 
 private:
     void readConfig();
+    void logContent(const QByteArray& content) const;
     void readString(const QSettings& settings, const QString& key, QString& member) const;
+    void readServerUrl(const QSettings& settings);
     void readBool(const QSettings& settings, const QString& key, bool& member) const;
     void readInterval(const QSettings& settings, const QString& key, int& member) const;
 

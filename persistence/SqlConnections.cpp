@@ -58,10 +58,9 @@ quint64 nextId()
     return ++s_last;
 }
 
-bool isLockError(const QSqlError& error)
+int codeOf(const QSqlError& error)
 {
-    constexpr int Busy = 5; // SQLITE_BUSY; the upper bytes carry details
-    return (error.nativeErrorCode().toInt() & 0xff) == Busy;
+    return error.nativeErrorCode().toInt() & 0xff; // the upper bytes carry details
 }
 
 } // namespace
@@ -117,6 +116,11 @@ bool SqlConnections::open()
     return true;
 }
 
+void SqlConnections::close()
+{
+    connection().close();
+}
+
 void SqlConnections::applySetting(const QString& pragma, const char* failure)
 {
     const Result result = runOpen(pragma, {});
@@ -128,7 +132,7 @@ SqlConnections::Result SqlConnections::run(const QString& sql,
                                            const QMap<QString, QVariant>& params)
 {
     if (!open())
-        return {Result::Outcome::NotOpen, sql, {}, {}};
+        return {Result::Outcome::NotOpen, sql, {}, 0, {}};
     return runOpen(sql, params);
 }
 
@@ -142,14 +146,13 @@ SqlConnections::Result SqlConnections::runOpen(const QString& sql,
             query.bindValue(u':' + it.key(), it.value());
         isDone = query.exec();
     }
-    const bool isLocked = !isDone && isLockError(query.lastError());
-    adaptWait(isLocked);
+    constexpr int Busy = 5;
+    const int code = isDone ? 0 : codeOf(query.lastError());
+    adaptWait(code == Busy);
     if (isDone)
-        return {{}, sql, {}, query.next() ? query.value(0) : QVariant()};
-    return {isLocked ? Result::Outcome::Locked : Result::Outcome::Failed,
-            sql,
-            query.lastError().text(),
-            {}};
+        return {Result::Outcome::Done, sql, {}, 0, query.next() ? query.value(0) : QVariant()};
+    const auto outcome = code == Busy ? Result::Outcome::Locked : Result::Outcome::Failed;
+    return {outcome, sql, query.lastError().text(), code, {}};
 }
 
 /// Shortens the wait of the main thread while the file is locked.

@@ -27,6 +27,7 @@ public:
         Outcome outcome = Outcome::Done;
         QString sql;
         QString error;
+        int code = 0;   ///< SQLite's, without its details
         QVariant value; ///< first column of the first row; invalid when there is none
 
         [[nodiscard]] bool isDone() const { return outcome == Outcome::Done; }
@@ -41,6 +42,8 @@ public:
     void setPath(const QString& path) { m_path = path; }
     /// Opens the calling thread's connection unless it is open. Failures are logged.
     bool open();
+    /// Closes the calling thread's connection.
+    void close();
     /// Runs one statement; each entry of `params` is bound to the placeholder ":" + key.
     Result run(const QString& sql, const QMap<QString, QVariant>& params = {});
 

@@ -73,14 +73,19 @@ private:
     {
         m_values.clear();
         const QSettings settings(path, QSettings::IniFormat);
-        const QStringList keys = settings.allKeys();
+        const QStringList keys = settings.allKeys(); // parses the file
         for (const QString& key : keys)
             m_values.insert(key, settings.value(key));
+        const bool isDamaged = settings.status() == QSettings::FormatError;
+        if (isDamaged && !m_isDamaged)
+            qWarning("%ls holds lines that cannot be read", qUtf16Printable(path));
+        m_isDamaged = isDamaged;
     }
 
     std::mutex m_mutex; // guards the members below
     QHash<QString, QVariant> m_values;
     std::optional<FileState> m_state;
+    bool m_isDamaged = false;
 };
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <memory>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -44,6 +45,7 @@ private slots:
     void startsZoom_data();
     void startsZoom();
     void startsTheFirstTeamsThatCanBeStarted();
+    void opensGoogleMeetOnItsOwnThread();
 
 private:
     [[nodiscard]] QString path(const QString& name) const { return m_home->filePath(name); }
@@ -260,6 +262,19 @@ void tst_ProcessManager::startsTheFirstTeamsThatCanBeStarted()
         installBroken(candidates[broken]);
     }
     QVERIFY(!m_programs.startTeams());
+}
+
+void tst_ProcessManager::opensGoogleMeetOnItsOwnThread()
+{
+    install(u"bin/xdg-open"_s);
+    bool failed = true;
+    std::thread([&] { // while the main thread is busy
+        failed = ProcessManager(u"https://meet.example/a?hs=1&b=2"_s).openGoogleMeeting();
+    })
+        .join();
+    QVERIFY(!failed);
+    QTRY_COMPARE(calls(), QStringList{u"xdg-open 1 [https://meet.example/a?hs=1&b=2]"_s});
+    QVERIFY(ProcessManager({}).openGoogleMeeting());
 }
 
 QTEST_GUILESS_MAIN(tst_ProcessManager)

@@ -1,8 +1,9 @@
 // Posts a long stream of database writes, during which the test kills this program.
 //
-//     write_stream <userdata.db> <prefix>
+//     write_stream <userdata.db>
 //
-// Write number n stores n under the key <prefix>n; the log goes to standard error.
+// Task n stores n under eight keys as one change. Every fourth task clears the store as a sign-out
+// does. The log goes to standard error.
 
 #include "persistence/DBManager.h"
 #include "tests/persistence/Poster.h"
@@ -19,12 +20,22 @@ int main(int argc, char* argv[])
     google::InitGoogleLogging(argv[0]);
     const QCoreApplication app(argc, argv);
     const QStringList args = QCoreApplication::arguments();
-    if (args.size() != 3)
+    if (args.size() != 2)
         return 2;
 
     DBManager store(args[1]);
-    Poster poster(storeTask([&store]() -> UserSettings& { return store; }));
+    Poster poster({{keys::task::SaveUserData, [&store](const QVariantList& task, bool) {
+                        if (task[0].toInt() % 4 == 3) {
+                            store.clearUserData();
+                            return TaskQueue::Outcome::Done;
+                        }
+                        QList<UserSettings::Value> change;
+                        for (const QChar key : u"abcdefgh"_s)
+                            change.append({key, task[0]});
+                        store.saveUserData(change, store.currentSignIn(), DBManager::OnLock::Fail);
+                        return TaskQueue::Outcome::Done;
+                    }}});
     for (int n = 0; n < 5000; ++n)
-        emit poster.addTask(u"saveDB"_s, {args[2] + QString::number(n), n, store.currentSignIn()});
+        emit poster.addTask(keys::task::SaveUserData, {n});
     return QCoreApplication::exec();
 }

@@ -25,8 +25,10 @@ private slots:
     void keepsValuesAcrossARestart();
     void leavesNoTraceOfClearedValues();
     void dropsWritesOfAnEndedSignIn();
-    void logsAnUnusableFile_data();
-    void logsAnUnusableFile();
+    void logsAFileThatCannotBeOpened();
+    void setsAnUnusableFileAside_data();
+    void setsAnUnusableFileAside();
+    void makesTheTableOnceTheFileIsUnlocked();
     void makesUpForAFailedClearing_data();
     void makesUpForAFailedClearing();
     void logsAFailedStatement();
@@ -148,42 +150,53 @@ void tst_DBManager::dropsWritesOfAnEndedSignIn()
     QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"new"_s);
 }
 
-void tst_DBManager::logsAnUnusableFile_data()
+void tst_DBManager::logsAFileThatCannotBeOpened()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("firstError");
-    QTest::addColumn<QString>("readError");
-    QTest::newRow("is a folder") << u"."_s << u"E DBManager::openDatabase Database open error:"_s
-                                 << u"E DBManager::getUserData Database not open"_s;
-    QTest::newRow("folder missing")
-        << u"none/userdata.db"_s << u"E DBManager::openDatabase Database open error:"_s
-        << u"E DBManager::getUserData Database not open"_s;
-    QTest::newRow("is no database") << u"garbage"_s << u"E DBManager::openDatabase Failed to set"_s
-                                    << u"E DBManager::getUserData Query failed:"_s;
-}
-
-void tst_DBManager::logsAnUnusableFile()
-{
-    QFETCH(const QString, file);
-    QFETCH(const QString, firstError);
-    QFETCH(const QString, readError);
-    const QByteArray garbage(10'000, 'x');
-    QFile garbageFile(m_dir->filePath(u"garbage"_s));
-    QVERIFY(garbageFile.open(QIODevice::ReadWrite) && garbageFile.write(garbage) > 0);
-    QVERIFY(garbageFile.flush());
-
     LogCapture log;
-    DBManager db(m_dir->filePath(file));
-    const QStringList lines = log.take();
-    QVERIFY2(lines.value(1).startsWith(firstError), qPrintable(lines.join(u'\n')));
-    QCOMPARE(lines.last(), u"E DBManager::initialize Failed to create tables"_s);
+    DBManager db(m_dir->filePath(u"none/userdata.db"_s));
+    QVERIFY(log.take().value(1).startsWith(u"E DBManager::openDatabase Database open error:"_s));
     QCOMPARE(db.getUserData(u"email"_s, u"none"_s), QVariant(u"none"_s));
-    QVERIFY(log.take().last().startsWith(readError));
+    QCOMPARE(log.take().last(), u"E DBManager::getUserData Database not open"_s);
     QVERIFY(!db.saveUserData(u"email"_s, u"a"_s));
     QVERIFY(!db.clearUserData());
+}
 
-    QVERIFY(garbageFile.seek(0));
-    QCOMPARE(garbageFile.readAll(), garbage);
+void tst_DBManager::setsAnUnusableFileAside_data()
+{
+    QTest::addColumn<QByteArray>("content"); // empty: another layout
+    QTest::newRow("is no database") << QByteArray(10'000, 'x');
+    QTest::newRow("is damaged") << "SQLite format 3" + QByteArray(10'000, '\0');
+    QTest::newRow("has another layout") << QByteArray();
+}
+
+void tst_DBManager::setsAnUnusableFileAside()
+{
+    QFETCH(const QByteArray, content);
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    if (content.isEmpty())
+        QVERIFY(DBManager(m_path).execQuery(
+            u"ALTER TABLE user_settings RENAME COLUMN value TO content"_s, {}));
+
+    LogCapture log;
+    DBManager db(m_path);
+    QVERIFY(db.saveUserData(u"email"_s, u"a"_s));
+    QCOMPARE(db.getUserData(u"email"_s, {}).toString(), u"a"_s);
+    const QStringList files = QDir(m_dir->path()).entryList({u"userdata.db-unusable-*"_s});
+    QCOMPARE(files.size(), 1);
+    QVERIFY(log.take().contains(u"E DBManager::initialize unusable database moved to "_s +
+                                m_dir->filePath(files[0])));
+}
+
+void tst_DBManager::makesTheTableOnceTheFileIsUnlocked()
+{
+    std::optional<FileLock> lock(m_path);
+    DBManager db(m_path);
+    QVERIFY(!db.saveUserData(u"email"_s, u"a"_s));
+    lock.reset();
+    QVERIFY(db.saveUserData(u"email"_s, u"a"_s));
+    QVERIFY(QDir(m_dir->path()).entryList({u"*unusable*"_s}).isEmpty());
 }
 
 void tst_DBManager::makesUpForAFailedClearing_data()

@@ -25,6 +25,8 @@ private slots:
     void keepsDefaultsForAHostileFile_data();
     void keepsDefaultsForAHostileFile();
     void writesAValueForTheNextStart();
+    void keepsAllOtherLinesOfTheFile_data();
+    void keepsAllOtherLinesOfTheFile();
     void logsAWriteThatFails();
     void writesRegistryBooleansAsNumbers();
 
@@ -71,7 +73,7 @@ void tst_FileInfo::readsAndLogsEveryValue()
         "[VORNApp]\nuse_remote_device_interval=250\nuse_remote_device=false\n"
         "support_launch_zoom=0\n"
         "support_launch_google=false\ngoogle_meeting_url=https://m.example/?a=1,2\n"
-        "[K4V]\nlowest_ver=4.0.1\n[Server]\nurl=https://s.example";
+        "[K4V]\nlowest_ver=4.0.1\n[Server]\nurl=\" https://s.example/ / \"";
     const QString path = write(content);
     LogCapture log;
     const FileInfo info(path);
@@ -80,7 +82,7 @@ void tst_FileInfo::readsAndLogsEveryValue()
     QCOMPARE(lines.value(0), at + path + u'\n' + QString::fromUtf8(content));
     QCOMPARE(lines.value(1), at + u"K4V/lowest_ver:4.0.1"_s);
     QCOMPARE(lines.value(3), at + u"VORNApp/use_remote_device:0"_s);
-    QCOMPARE(lines.value(7), at + u"Server/url:https://s.example"_s);
+    QCOMPARE(lines.value(7), at + u"Server/url: https://s.example/ / "_s);
     QCOMPARE(info.k4vLowestVer(), u"4.0.1"_s);
     QCOMPARE(info.useRemoteDeviceInterval(), 250);
     QVERIFY(!info.useRemoteDevice());
@@ -101,6 +103,7 @@ void tst_FileInfo::keepsDefaultForAnUnusableValue_data()
     QTest::newRow("switch is a list") << QByteArray("[VORNApp]\nuse_remote_device=false, false");
     QTest::newRow("switch is a size") << QByteArray("[VORNApp]\nsupport_launch_zoom=@Size(0 0)");
     QTest::newRow("address is a point") << QByteArray("[Server]\nurl=@Point(1 2)");
+    QTest::newRow("address is empty") << QByteArray("[Server]\nurl= / ");
     QTest::newRow("version is nothing") << QByteArray("[K4V]\nlowest_ver=@Invalid()");
 }
 
@@ -131,26 +134,52 @@ void tst_FileInfo::keepsDefaultsForAHostileFile_data()
 void tst_FileInfo::keepsDefaultsForAHostileFile()
 {
     QFETCH(const QByteArray, content);
+    LogCapture log;
     compareWithDefaults(FileInfo(write(content)));
+    if (content.contains('\0'))
+        QVERIFY(!log.take().filter(u"E FileInfo::FileInfo"_s).isEmpty());
 }
 
 void tst_FileInfo::writesAValueForTheNextStart()
 {
-    const QString path = write("[K4V]\nlowest_ver=4.0.1\n[VORNApp]\nuse_remote_device=true\n");
+    const QString path = write("[VORNApp]\nuse_remote_device=true\n");
     const FileInfo info(path);
     LogCapture log;
     info.saveConfig(path, u"VORNApp/use_remote_device"_s, false);
     QCOMPARE(log.take(), QStringList{u"I FileInfo::saveConfig check "_s + path +
                                      u" VORNApp/use_remote_device:false"_s});
     QVERIFY(info.useRemoteDevice());
+    QVERIFY(!FileInfo(path).useRemoteDevice());
+}
 
+void tst_FileInfo::keepsAllOtherLinesOfTheFile_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("comments and unknown lines")
+        << "; a\n[VORNApp]\n# b\nnot a setting\n zoom = 1 \nother=%zz\n[K4V]\nzoom=2"_ba
+        << "; a\n[VORNApp]\n# b\nnot a setting\nzoom=false\nother=%zz\n[K4V]\nzoom=2"_ba;
+    QTest::newRow("Windows, key missing")
+        << "[VORNApp]\r\na=1\r\n\r\n; b\r\n[K4V]\r\n"_ba
+        << "[VORNApp]\r\na=1\r\n\r\n; b\r\nzoom=false\r\n[K4V]\r\n"_ba;
+    QTest::newRow("section missing") << "[K4V]\na=1"_ba
+                                     << "[K4V]\na=1\n\n[VORNApp]\nzoom=false\n"_ba;
+    QTest::newRow("empty") << QByteArray() << "[VORNApp]\nzoom=false\n"_ba;
+}
+
+void tst_FileInfo::keepsAllOtherLinesOfTheFile()
+{
+    QFETCH(const QByteArray, before);
+    const QString path = write(before);
+    FileInfo(path).saveConfig(path, u"VORNApp/zoom"_s, false);
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
-    QVERIFY2(content.contains("use_remote_device=false"), content.constData());
-    const FileInfo next(path);
-    QVERIFY(!next.useRemoteDevice());
-    QCOMPARE(next.k4vLowestVer(), u"4.0.1"_s);
+    QTEST(file.readAll(), "after");
+    file.close();
+
+    const QString odd = u"a\\b \"c\"; d, =\n\u00e4"_s; // of any other value
+    FileInfo(path).saveConfig(path, u"VORNApp/zoom"_s, odd);
+    QCOMPARE(QSettings(path, QSettings::IniFormat).value(u"VORNApp/zoom"_s).toString(), odd);
 }
 
 void tst_FileInfo::logsAWriteThatFails()

@@ -1,6 +1,8 @@
 #include "platform/Registry.h"
 #include "rig/HelperProcess.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -29,6 +31,7 @@ private slots:
     void keepsValues_data();
     void keepsValues();
     void sharesAFileWithOtherPrograms();
+    void warnsOfADamagedFile();
     void keepsTheValuesOfConcurrentWriters();
 
 private:
@@ -100,6 +103,20 @@ void tst_Registry::sharesAFileWithOtherPrograms()
              u"/opt/zoom/zoom,0"_s); // an unquoted comma
     QVERIFY(QFile::remove(m_file));
     QVERIFY(!platform::readRegistry(key, u"username"_s).isValid());
+}
+
+void tst_Registry::warnsOfADamagedFile()
+{
+    if (IsWindows)
+        QSKIP("The registry is no file there.");
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("\x01 no [value\n\xff\n") > 0);
+    file.close();
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(m_file + " holds lines that cannot be read"_L1));
+    QVERIFY(!platform::readRegistry(Key, u"x"_s).isValid());
+    QVERIFY(platform::writeRegistry(Key, u"x"_s, 1));
+    QCOMPARE(platform::readRegistry(Key, u"x"_s).toInt(), 1);
 }
 
 void tst_Registry::keepsTheValuesOfConcurrentWriters()
