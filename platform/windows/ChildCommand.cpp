@@ -46,7 +46,8 @@ QString systemTool(const QString& path)
 }
 
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
-                std::chrono::milliseconds patience, const std::stop_token& stop)
+                std::chrono::milliseconds patience, const std::stop_token& stop,
+                Unfinished unfinished)
 {
     const QDeadlineTimer deadline(patience);
     process.start(program, arguments);
@@ -55,7 +56,8 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
             break;
         if (deadline.hasExpired() || stop.stop_requested() ||
             QThread::currentThread()->isInterruptionRequested()) {
-            process.kill();
+            if (unfinished == Unfinished::Kill)
+                process.kill();
             return false;
         }
     }

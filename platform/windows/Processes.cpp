@@ -4,6 +4,8 @@
 
 #include <QProcess>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace platform
@@ -12,11 +14,18 @@ namespace platform
 KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience,
                             const std::stop_token& stop)
 {
-    QProcess process;
-    if (!runCommand(process, systemTool(u"taskkill.exe"_s), {u"/IM"_s, name, u"/F"_s}, patience,
-                    stop))
-        return {false, -1, process.errorString()};
-    return {true, process.exitCode(), toolOutput(process.readAllStandardError())};
+    // At the end of the program there may be no time to wait for the tool, which finishes its work
+    // alone. The destructor of QProcess would kill it.
+    auto process = std::make_unique<QProcess>();
+    const bool finished =
+        runCommand(*process, systemTool(u"taskkill.exe"_s), {u"/IM"_s, name, u"/F"_s}, patience,
+                   stop, Unfinished::LeaveRunning);
+    if (finished)
+        return {true, process->exitCode(), toolOutput(process->readAllStandardError())};
+    KillOutcome outcome{false, -1, process->errorString()};
+    if (process->state() != QProcess::NotRunning)
+        (void)process.release();
+    return outcome;
 }
 
 RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds patience,
