@@ -150,7 +150,8 @@ void tst_StartAndQuit::survivesTheEndOfItsLogReader()
 
 void tst_StartAndQuit::endsWhileItShowsAnError()
 {
-    const ProgramHome home;
+    ProgramHome home;
+    home.set(u"LD_LIBRARY_PATH"_s, QFileInfo(QStringLiteral(VORN_PROGRAM)).path()); // of the copy
     const QString copy = home.path() + "/VORNApp"_L1;
     QVERIFY(QFile::copy(QStringLiteral(VORN_PROGRAM), copy));
     QFile paths(home.path() + "/qt.conf"_L1);
