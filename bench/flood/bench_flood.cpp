@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QUdpSocket>
 
+#include <atomic>
 #include <cstdio>
 #include <thread>
 
@@ -83,8 +84,16 @@ qint64 floodUdp(std::chrono::milliseconds duration)
 void testUdp(FloodedProgram& program, const Figures& quiet, double scale)
 {
     qint64 sent = 0;
-    const Figures figures = program.measure(
-        [&] { sent = floodUdp(std::chrono::milliseconds(qint64(10'000 * scale))); });
+    // On a thread of its own: the event loop has to read the output of the program, which would
+    // block at a full pipe.
+    const Figures figures = program.measure([&] {
+        std::atomic_bool isDone = false;
+        const std::jthread sender([&] {
+            sent = floodUdp(std::chrono::milliseconds(qint64(10'000 * scale)));
+            isDone = true;
+        });
+        program.waitUntil([&] { return isDone.load(); });
+    });
     std::printf("%lld datagrams", static_cast<long long>(sent));
     printFigures(" on the UDP port", figures, quiet);
     QUdpSocket socket;
