@@ -33,6 +33,8 @@ FloodedProgram::FloodedProgram(const QString& program)
     if (!waitUntil([this] { return m_channel != nullptr; }))
         qFatal("The program did not connect to the display.");
     m_probe = std::make_unique<Probe>(m_home.path());
+    if (!waitUntil([this] { return m_probe->answerCount() > 5; }))
+        qFatal("The program does not answer.");
 }
 
 // The program keeps its settings in its own folder, so it runs from a copy.

@@ -56,6 +56,7 @@ void Probe::run(const std::stop_token& stop)
             const std::scoped_lock lock(m_mutex);
             m_durations.push_back(now() - std::exchange(m_asked, 0));
         }
+        ++m_answers;
         std::this_thread::sleep_for(Interval);
     }
 }

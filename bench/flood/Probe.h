@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <mutex>
 #include <thread>
 
@@ -21,6 +22,7 @@ public:
     /// Takes the durations in milliseconds since the last call. A question that has not been
     /// answered yet counts with its duration so far.
     bench::Values take();
+    int answerCount() const { return m_answers; }
 
 private:
     void run(const std::stop_token& stop);
@@ -29,5 +31,6 @@ private:
     std::mutex m_mutex;
     bench::Values m_durations; // guarded by m_mutex
     double m_asked = 0;        // guarded by m_mutex; time of the open question, otherwise 0
+    std::atomic_int m_answers = 0;
     std::jthread m_thread;
 };
