@@ -34,7 +34,6 @@ private slots:
     void initTestCase();
     void showsTheWindowForASecondStart();
     void doesNotBlockTheLoopForASilentPeer();
-    void hasNoTrayIconIfTheNameIsTaken();
     void showsTheWindowOnADoubleClickOnly();
     void emitsRequestsOnTheMainThread();
 
@@ -73,23 +72,6 @@ void tst_WindowManager::doesNotBlockTheLoopForASilentPeer()
     ticking.start(1ms);
     QTRY_COMPARE(shown.count(), 1);
     QVERIFY(turns > 10);
-}
-
-void tst_WindowManager::hasNoTrayIconIfTheNameIsTaken()
-{
-    WindowManager first;
-    LogCapture log;
-    WindowManager second;
-    QVERIFY(log.contains(u"E WindowManager::WindowManager Cannot start VORNAppLocalServer!"_s));
-    QSignalSpy hidden(&second, &WindowManager::requestShow);
-    second.hideToTray();
-    QVERIFY(!second.findChild<QSystemTrayIcon*>());
-    QCOMPARE(hidden.first(), QVariantList{false});
-    // The check by the second manager counts as a connection to the first one.
-    QSignalSpy shown(&first, &WindowManager::requestShow);
-    QTRY_COMPARE(shown.count(), 1);
-    connectedPeer().reset();
-    QTRY_COMPARE(shown.count(), 2);
 }
 
 void tst_WindowManager::showsTheWindowOnADoubleClickOnly()

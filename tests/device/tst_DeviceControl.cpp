@@ -15,11 +15,38 @@ class tst_DeviceControl : public QObject
     Q_OBJECT
 
 private slots:
+    void eachPropertyIsReadWrittenAndSignalledUnderItsName();
     void adoptsTheConfigurationAtStart();
     void repliesUnderTheIdOfTheMessage();
     void connectModesReachThePagesInOrder();
     void startsAndEndsItsThreads();
 };
+
+void tst_DeviceControl::eachPropertyIsReadWrittenAndSignalledUnderItsName()
+{
+    DeviceWorld world;
+    DeviceControl& device = world.start();
+    const QMetaObject& meta = DeviceControl::staticMetaObject;
+    int written = 0;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        const QString name = QLatin1String(property.name());
+        // The local device check keeps setting these three.
+        if (!property.isWritable() || name.endsWith(u"Status"_s))
+            continue;
+        QVariant value = u"text of "_s + name;
+        if (property.typeId() != QMetaType::QString)
+            value = property.typeId() == QMetaType::Bool
+                        ? QVariant(!property.read(&device).toBool())
+                        : QVariant(2);
+        QSignalSpy changed(&device, property.notifySignal());
+        QVERIFY2(property.write(&device, value), property.name());
+        QVERIFY2(changed.count() == 1, property.name());
+        QCOMPARE(property.read(&device), value);
+        ++written;
+    }
+    QCOMPARE(written, 17);
+}
 
 void tst_DeviceControl::adoptsTheConfigurationAtStart()
 {

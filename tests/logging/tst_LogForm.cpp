@@ -79,7 +79,6 @@ private slots:
     void writesLocalTimeAndPaddedThread();
     void writesEachRecordOnceToFileAndStandardError();
     void writesUnusualTexts();
-    void writesToStandardErrorIfTheFolderIsNotWritable();
     void logsACrashAlsoOfTheLogItself();
 
 private:
@@ -165,19 +164,6 @@ void tst_LogForm::writesUnusualTexts()
     QVERIFY(longLine.size() > 29'000);
     QVERIFY(longLine.endsWith("yyy"));
     QCOMPARE(lineOf("Sample::afterwards").rest, "[Sample::afterwards]still here");
-}
-
-void tst_LogForm::writesToStandardErrorIfTheFolderIsNotWritable()
-{
-    const QTemporaryDir folder;
-    const auto blocker = folder.filePath(u"file"_s);
-    QVERIFY(LogText::make(blocker));
-    const Run run(u"forms"_s, blocker);
-    QVERIFY(run.succeeded);
-    QCOMPARE(run.errorText.count("Cannot write the log file"), 1);
-    QVERIFY(run.errorText.contains("[Sample::method]broken\n"));
-    QVERIFY(run.errorText.contains("[Sample::afterwards]still here\n"));
-    QCOMPARE(LogText::files(run.tempDir), QStringList());
 }
 
 void tst_LogForm::logsACrashAlsoOfTheLogItself()
