@@ -59,7 +59,7 @@ bool isPlainPng(const QByteArray& head)
 /// Whether the reader can scale the picture down without decoding it whole.
 bool scalesWhileReading(QImageReader& reader)
 {
-    constexpr qint64 HeadSize = 256 * 1024; // embedded thumbnails come first
+    constexpr qint64 HeadSize = 262'144; // embedded thumbnails come first
     if (reader.format() == "jpeg")
         return isBaselineJpeg(reader.device()->peek(HeadSize));
     return reader.format() == "png" && isPlainPng(reader.device()->peek(32));
@@ -86,7 +86,7 @@ bool prepare(QImageReader& reader, QFile& file)
     const qint64 pixels = qint64{size.width()} * size.height();
     // JPEG can be scaled by powers of two without a larger picture in between.
     int divisor = 1;
-    while (pixels / (divisor * divisor) > ImageFile::MaxPixels)
+    while (pixels / (qint64{divisor} * divisor) > ImageFile::MaxPixels)
         divisor *= 2;
     const QImage::Format format = reader.imageFormat();
     const int bits =

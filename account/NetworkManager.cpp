@@ -277,7 +277,7 @@ QUrl NetworkManager::profileUrl(const QString& userId) const
 
 NetworkManager::Ticket NetworkManager::takeTicket(Kind kind)
 {
-    const Ticket ticket{kind, ++m_latest[kind], m_identity.userId(), m_identity.token()};
+    Ticket ticket{kind, ++m_latest[kind], m_identity.userId(), m_identity.token()};
     if (!m_cookies || kind == Login || ticket.token != m_cookieToken) {
         m_cookies = std::make_shared<QNetworkCookieJar>();
         m_cookieToken = ticket.token;

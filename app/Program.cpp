@@ -25,7 +25,7 @@ QString settingsFile(const QString& name)
 Program::Program(const QString& executablePath)
 {
     // The pages show what ImageFile accepts.
-    QImageReader::setAllocationLimit(int(ImageFile::MaxDecodedSize / (1024 * 1024)));
+    QImageReader::setAllocationLimit(int(ImageFile::MaxDecodedSize / qint64{1024} / 1024));
     m_fileInfo.emplace(settingsFile(u"config.ini"_s));
     m_programs.emplace(m_fileInfo->googleMeetingUrl());
     m_windowManager.emplace();

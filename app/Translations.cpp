@@ -61,7 +61,7 @@ QString Translations::choose(const QStringList& wanted) const
         if (files.isEmpty())
             files = QDir(m_folder).entryList({Prefix + u'*' + Suffix});
         for (const QString& file : files) {
-            const QString offered = file.sliced(Prefix.size()).chopped(Suffix.size());
+            QString offered = file.sliced(Prefix.size()).chopped(Suffix.size());
             if (isReadableAs(locale, QLocale(offered)))
                 return offered;
         }

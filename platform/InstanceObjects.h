@@ -39,7 +39,7 @@ public:
 
 private:
     class Private;
-    std::unique_ptr<Private> d;
+    std::unique_ptr<Private> m_private;
 };
 
 /// Time that a second start tries to reach the first one, in milliseconds.

@@ -107,24 +107,24 @@ public:
 };
 
 InstanceLock::InstanceLock(const QString& name, int patienceMs)
-    : d(std::make_unique<Private>(name))
+    : m_private(std::make_unique<Private>(name))
 {
     const QDeadlineTimer deadline(patienceMs);
-    while (!d->tryLock() && !deadline.hasExpired())
+    while (!m_private->tryLock() && !deadline.hasExpired())
         ::poll(nullptr, 0, LockRetryMs);
 }
 
 InstanceLock::~InstanceLock()
 {
-    if (d->fd < 0)
+    if (m_private->fd < 0)
         return;
-    ::unlink(d->path.constData());
-    ::close(d->fd);
+    ::unlink(m_private->path.constData());
+    ::close(m_private->fd);
 }
 
 bool InstanceLock::isHeld() const
 {
-    return d->fd >= 0;
+    return m_private->fd >= 0;
 }
 
 int handOverPatienceMs()

@@ -77,7 +77,7 @@ public:
 };
 
 TerminationSignals::TerminationSignals(std::function<void()> requested)
-    : d(std::make_unique<Private>(std::move(requested)))
+    : m_private(std::make_unique<Private>(std::move(requested)))
 {
 }
 

@@ -41,27 +41,27 @@ public:
 };
 
 InstanceLock::InstanceLock(const QString& name, int patienceMs)
-    : d(std::make_unique<Private>())
+    : m_private(std::make_unique<Private>())
 {
     const std::wstring mutexName = (name + "-start"_L1).toStdWString();
-    d->mutex = CreateMutexW(nullptr, FALSE, mutexName.c_str());
-    if (!d->mutex)
+    m_private->mutex = CreateMutexW(nullptr, FALSE, mutexName.c_str());
+    if (!m_private->mutex)
         return;
-    const DWORD result = WaitForSingleObject(d->mutex, static_cast<DWORD>(patienceMs));
-    d->held = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    const DWORD result = WaitForSingleObject(m_private->mutex, static_cast<DWORD>(patienceMs));
+    m_private->held = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
 }
 
 InstanceLock::~InstanceLock()
 {
-    if (d->held)
-        ReleaseMutex(d->mutex);
-    if (d->mutex)
-        CloseHandle(d->mutex);
+    if (m_private->held)
+        ReleaseMutex(m_private->mutex);
+    if (m_private->mutex)
+        CloseHandle(m_private->mutex);
 }
 
 bool InstanceLock::isHeld() const
 {
-    return d->held;
+    return m_private->held;
 }
 
 int handOverPatienceMs()
