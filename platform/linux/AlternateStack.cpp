@@ -53,7 +53,7 @@ namespace platform
 
 void ensureAlternateStack()
 {
-    static thread_local const AlternateStack stack;
+    static thread_local const AlternateStack s_stack;
 }
 
 } // namespace platform
