@@ -13,7 +13,7 @@
 namespace
 {
 
-constinit thread_local sigjmp_buf* t_escape = nullptr;
+constinit thread_local sigjmp_buf* g_escape = nullptr;
 
 struct sigaction g_previous;
 
@@ -33,14 +33,14 @@ bool runGuarded(GuardedAccess access, void* context)
     sigjmp_buf escape;
     // Saving the signal mask here would cost a system call; the handler restores it instead.
     if (sigsetjmp(escape, 0) != 0) {
-        t_escape = nullptr;
+        g_escape = nullptr;
         return false;
     }
-    t_escape = &escape;
+    g_escape = &escape;
     std::atomic_signal_fence(std::memory_order_seq_cst);
     access(context);
     std::atomic_signal_fence(std::memory_order_seq_cst);
-    t_escape = nullptr;
+    g_escape = nullptr;
     return true;
 }
 
@@ -58,11 +58,11 @@ void installMemoryGuard()
 
 void leaveGuardedAccess(const void* context)
 {
-    if (!t_escape)
+    if (!g_escape)
         return;
     const auto* const interrupted = static_cast<const ucontext_t*>(context);
     pthread_sigmask(SIG_SETMASK, &interrupted->uc_sigmask, nullptr);
-    siglongjmp(*t_escape, 1);
+    siglongjmp(*g_escape, 1);
 }
 
 } // namespace platform

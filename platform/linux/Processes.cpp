@@ -119,9 +119,9 @@ private:
     // The kernel marks the file of a running program that was replaced or removed.
     static QByteArrayView executableName(QByteArrayView path)
     {
-        constexpr QByteArrayView removed(" (deleted)");
-        if (path.endsWith(removed))
-            path.chop(removed.size());
+        constexpr QByteArrayView Removed(" (deleted)");
+        if (path.endsWith(Removed))
+            path.chop(Removed.size());
         return fileNameOf(path);
     }
 

@@ -19,8 +19,8 @@ constexpr std::array Signals{SIGTERM, SIGINT, SIGHUP};
 // Never closed, because a handler on another thread may still write to it.
 int wakeUp()
 {
-    static const int fd = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    return fd;
+    static const int s_fd = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    return s_fd;
 }
 
 volatile sig_atomic_t g_wakeUp = -1;
