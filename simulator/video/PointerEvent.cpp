@@ -35,8 +35,8 @@ bool isFraction(double number)
 
 QString PointerEvent::typeName() const
 {
-    static const std::array names{u"press"_s, u"release"_s, u"move"_s};
-    return names.at(std::size_t(type));
+    static const std::array s_names{u"press"_s, u"release"_s, u"move"_s};
+    return s_names.at(std::size_t(type));
 }
 
 std::optional<PointerEvent> simulator::parsePointerEvent(const QByteArray& datagram)

@@ -16,7 +16,7 @@ struct StepContent {
 
 const QList<StepContent>& contents()
 {
-    static const QList<StepContent> list{
+    static const QList<StepContent> s_list{
         {u"welcome"_s,
          u"Welcome"_s,
          u"Let us set up your display. It takes a minute."_s,
@@ -40,7 +40,7 @@ const QList<StepContent>& contents()
         {u"finish"_s, u"All set"_s, {}, u"Finish"_s, {}},
         {u"done"_s, u"Ready for meetings"_s, {}, {}, {}},
     };
-    return list;
+    return s_list;
 }
 
 constexpr QRectF NextArea(0.76, 0.81, 0.16, 0.1);

@@ -50,9 +50,9 @@ QString VideoFeature::name() const
 
 QJsonObject VideoFeature::status() const
 {
-    static const std::array names{u"stopped"_s, u"writing"_s, u"stalled"_s, u"cut-short"_s,
-                                  u"dead"_s};
-    return {{u"state"_s, names.at(std::size_t(m_state))},
+    static const std::array s_names{u"stopped"_s, u"writing"_s, u"stalled"_s, u"cut-short"_s,
+                                    u"dead"_s};
+    return {{u"state"_s, s_names.at(std::size_t(m_state))},
             {u"width"_s, m_size.width()},
             {u"height"_s, m_size.height()},
             {u"rate"_s, m_rate},
@@ -96,7 +96,7 @@ QString VideoFeature::makeObjects()
     m_objects.reset(); // frees the names before they are used again
     m_objects = makeFrameObjects(m_names.mapping.toStdString(), m_names.event.toStdString());
     if (!m_objects->makeMemory(framelayout::MappingSize) || !m_objects->makeEvent()) {
-        const QString error = u"the shared memory cannot be made: "_s + qt_error_string();
+        QString error = u"the shared memory cannot be made: "_s + qt_error_string();
         m_objects.reset();
         m_timer.stop();
         if (m_state != State::Stopped)
