@@ -7,7 +7,7 @@ install(FILES "${CMAKE_SOURCE_DIR}/config/config.ini" "${CMAKE_SOURCE_DIR}/confi
 if(VORN_PORTALHUB_LIBRARY)
   # The file behind the links, under the name by which the program loads it.
   file(REAL_PATH "${VORN_PORTALHUB_LIBRARY}" library)
-  install(PROGRAMS "${library}" DESTINATION "${program_dir}" RENAME libPortalHub.so)
+  install(FILES "${library}" DESTINATION "${program_dir}" RENAME libPortalHub.so)
 else()
   install(TARGETS PortalHub LIBRARY DESTINATION "${program_dir}")
 endif()
