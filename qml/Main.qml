@@ -66,6 +66,8 @@ Window {
     color: "transparent"
     flags: Qt.Window | Qt.FramelessWindowHint
     title: "VORNApp"
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     Component.onCompleted: {
         placed = true; // before raising, which blocks until the system has created the window

@@ -48,6 +48,8 @@ Window {
     height: minimumHeight
     //: Title of the window: the name of a product.
     title: qsTr("VORN Bar")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     color: Theme.windowColor
     visible: true
 

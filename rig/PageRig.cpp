@@ -1,8 +1,21 @@
 #include "rig/PageRig.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QQmlContext>
+#include <QQmlProperty>
+#include <QQuickItem>
+#include <QQuickView>
 #include <QUrl>
+
+void mirrorLayout(const QQuickView& view)
+{
+    if (QGuiApplication::layoutDirection() != Qt::RightToLeft)
+        return;
+    QQmlContext* const names = qmlContext(view.rootObject());
+    QQmlProperty(view.contentItem(), u"LayoutMirroring.enabled"_s, names).write(true);
+    QQmlProperty(view.contentItem(), u"LayoutMirroring.childrenInherit"_s, names).write(true);
+}
 
 PageRig::PageRig()
     : m_camera(m_world.channel)

@@ -11,6 +11,11 @@
 #include <QVariant>
 
 class QQmlContext;
+class QQuickView;
+
+/// Turns a loaded page as the program's window turns it, in a language that is written from right
+/// to left.
+void mirrorLayout(const QQuickView& view);
 
 /// Window manager that counts the calls.
 class PageWindows : public QObject

@@ -20,6 +20,7 @@ ControlButton {
     Rectangle {
         id: ring
 
+        anchors.left: parent.left
         width: 52
         height: 52
         radius: 26
@@ -38,9 +39,10 @@ ControlButton {
     ButtonLabel {
         id: label
 
-        x: ring.width + 16
+        anchors.left: ring.right
+        anchors.leftMargin: 16
         anchors.verticalCenter: ring.verticalCenter
-        width: Math.min(implicitWidth, button.maximumWidth - x)
+        width: Math.min(implicitWidth, button.maximumWidth - ring.width - 16)
         elide: Text.ElideRight
         font.pixelSize: Theme.bodyText
         font.weight: Font.Medium

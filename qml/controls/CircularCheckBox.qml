@@ -30,6 +30,7 @@ Item {
     Rectangle {
         id: circle
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: root.size
         height: width
@@ -71,7 +72,8 @@ Item {
     ButtonLabel {
         id: label
 
-        x: root.size + root.spacing
+        anchors.left: circle.right
+        anchors.leftMargin: root.spacing
         text: root.text
         font.pixelSize: Theme.bodyText
     }

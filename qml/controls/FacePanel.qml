@@ -2,6 +2,7 @@ import QtQuick
 
 // The outlined frame of a page's content.
 Rectangle {
+    anchors.left: parent?.left
     y: 94
     width: 603
     height: 477

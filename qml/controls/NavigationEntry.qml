@@ -21,16 +21,18 @@ QuickButton {
     Image {
         id: iconImage
 
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
     }
 
     ButtonLabel {
         id: label
 
-        x: 40
+        anchors.left: parent.left
+        anchors.leftMargin: 40
         anchors.verticalCenter: parent.verticalCenter
-        maximumWidth: parent.width - x - 10
+        maximumWidth: parent.width - anchors.leftMargin - 10
         maximumHeight: parent.height - 2
         font.pixelSize: Theme.bodyText
         font.weight: Font.Medium

@@ -43,7 +43,7 @@ Rectangle {
     Rectangle {
         id: handle
 
-        x: root.checked ? root.width - width - root.handleSpacing : root.handleSpacing
+        x: root.checked !== Theme.mirrored ? root.width - width - root.handleSpacing : root.handleSpacing
         anchors.verticalCenter: parent.verticalCenter
         width: root.handleHeight
         height: root.handleHeight

@@ -41,6 +41,9 @@ T.TextField {
     property var onContentCheck: null
     property string accessibleName: placeholderText
 
+    // Beside the end of the text, where the reveal button stands.
+    readonly property real buttonPadding: enablePasswordMode ? 15 + revealButton.width + 15 : 15
+
     property int mark: QuickTextField.Resting
 
     function reset(): void {
@@ -115,8 +118,8 @@ T.TextField {
     height: 38
     maximumLength: 64
     padding: 6
-    leftPadding: 15
-    rightPadding: enablePasswordMode ? 15 + revealButton.width + 15 : 15
+    leftPadding: Theme.mirrored ? buttonPadding : 15
+    rightPadding: Theme.mirrored ? 15 : buttonPadding
     verticalAlignment: TextInput.AlignVCenter
     font.family: errorLabel.font.family
     font.pixelSize: Theme.noteText
@@ -251,9 +254,10 @@ T.TextField {
     ButtonLabel {
         id: errorLabel
 
-        x: field.leftPadding
+        anchors.left: parent.left
+        anchors.leftMargin: 15
         y: field.height + 2
-        maximumWidth: field.width - x
+        maximumWidth: field.width - anchors.leftMargin
         maximumHeight: 23
         text: field.errorMessage
         font.pixelSize: Theme.smallText

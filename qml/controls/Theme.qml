@@ -5,6 +5,11 @@ import QtQuick
 // The colours, radii and text sizes that several files share. A value that only one control uses stays
 // with that control.
 QtObject {
+    // The language is written from right to left, and the layout with it.
+    readonly property bool mirrored: Qt.application.layoutDirection === Qt.RightToLeft // qmllint disable
+    // Arabic has no italic letters, and few fonts slant them.
+    readonly property bool italic: !mirrored
+
     readonly property color windowColor: "#282828"
     // Selection, links and primary buttons.
     readonly property color green: "#4DAF4E"

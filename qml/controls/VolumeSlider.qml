@@ -44,11 +44,13 @@ Slider {
         // Clipped instead of narrowed, so that the fill follows the track's round corners at every width.
         Item {
             objectName: "fill"
-            width: slider.visualPosition * parent.width
+            anchors.left: parent.left
+            width: slider.position * parent.width
             height: parent.height
             clip: true
 
             Rectangle {
+                anchors.left: parent.left
                 width: slider.width
                 height: slider.height
                 radius: Theme.panelRadius
@@ -57,7 +59,8 @@ Slider {
         }
 
         Image {
-            x: 24
+            anchors.left: parent.left
+            anchors.leftMargin: 24
             y: 16
             source: "qrc:/images/volume_white.png"
         }

@@ -20,7 +20,7 @@ Item {
     // True when the lowest field shows an error, which a second line of the service's text would cover.
     property bool errorBelowFields: false
     // Maximum width of the service's error text.
-    property real responseWidth: width - responseLabel.x
+    property real responseWidth: width - responseLabel.anchors.leftMargin
 
     // Room up to the window's edge.
     readonly property real maximumWidth: 427
@@ -36,6 +36,7 @@ Item {
     FittedLabel {
         id: titleLabel
 
+        anchors.left: parent.left
         y: 84
         maximumWidth: form.maximumWidth
         maximumHeight: 56
@@ -47,6 +48,7 @@ Item {
     FittedLabel {
         id: sublineLabel
 
+        anchors.left: parent.left
         y: 143
         maximumWidth: form.maximumWidth - (link.visible ? link.width + 5 : 0)
         maximumHeight: 50
@@ -59,7 +61,8 @@ Item {
     TextLink {
         id: link
 
-        x: sublineLabel.width + 5
+        anchors.left: sublineLabel.right
+        anchors.leftMargin: 5
         y: sublineLabel.y
         maximumWidth: form.maximumWidth / 2
         visible: text !== ""
@@ -75,7 +78,8 @@ Item {
     LatoRegularLabel {
         id: responseLabel
 
-        x: 15
+        anchors.left: parent.left
+        anchors.leftMargin: 15
         y: submitButton.y - height - 5
         width: Math.min(implicitWidth, form.responseWidth)
         wrapMode: Text.Wrap

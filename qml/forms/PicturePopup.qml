@@ -45,9 +45,10 @@ Popup {
     FittedLabel {
         id: heading
 
-        x: 30
+        anchors.left: parent.left
+        anchors.leftMargin: 30
         y: 20
-        maximumWidth: popup.width - 2 * x
+        maximumWidth: popup.width - 2 * anchors.leftMargin
         maximumHeight: 40
         text: qsTr("Change Profile Picture")
         font.pixelSize: Theme.bodyText
@@ -57,16 +58,18 @@ Popup {
     CircularImage {
         id: picture
 
-        x: 50
+        anchors.left: parent.left
+        anchors.leftMargin: 50
         y: 65
         imageSource: popup.defaultPicture
         onFailed: popup.refuse()
     }
 
     FittedLabel {
-        x: 154
+        anchors.left: parent.left
+        anchors.leftMargin: 154
         y: 80
-        maximumWidth: popup.width - x - 6
+        maximumWidth: popup.width - anchors.leftMargin - 6
         maximumHeight: 54
         text: qsTr("Please select a jpg, jpeg or png image file with\nsize smaller than 2M to upload and crop an\nimage to be your profile picture.")
         font.pixelSize: Theme.smallText
@@ -77,9 +80,10 @@ Popup {
         id: errorLabel
 
         objectName: "pictureError"
-        x: 154
+        anchors.left: parent.left
+        anchors.leftMargin: 154
         y: 135
-        maximumWidth: popup.width - x - 6
+        maximumWidth: popup.width - anchors.leftMargin - 6
         maximumHeight: 28
         font.pixelSize: Theme.smallText
         color: Theme.errorRed
@@ -89,7 +93,8 @@ Popup {
 
     OutlineButton {
         objectName: "chooseFileButton"
-        x: 30
+        anchors.left: parent.left
+        anchors.leftMargin: 30
         y: 163
         width: 124
         height: 31
@@ -102,7 +107,8 @@ Popup {
 
     OutlineButton {
         objectName: "closePopupButton"
-        x: 290
+        anchors.left: parent.left
+        anchors.leftMargin: 290
         y: 173
         text: qsTr("Close")
         onClicked: popup.close()

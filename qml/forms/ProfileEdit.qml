@@ -45,9 +45,10 @@ Item {
         id: avatarButton
 
         objectName: "avatarEdit"
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 60
-        width: childrenRect.width
+        width: hint.anchors.leftMargin + picture.width + hint.width
         height: picture.height
         accessibleName: qsTr("Change Profile Picture")
         cursorShape: Qt.PointingHandCursor
@@ -56,6 +57,8 @@ Item {
         CircularImage {
             id: picture
 
+            anchors.left: parent.left
+
             Image {
                 anchors.centerIn: parent
                 source: "qrc:/images/select_image_24x20.png"
@@ -63,9 +66,12 @@ Item {
         }
 
         ButtonLabel {
-            x: picture.width + 20
+            id: hint
+
+            anchors.left: picture.right
+            anchors.leftMargin: 20
             anchors.verticalCenter: picture.verticalCenter
-            maximumWidth: firstNameField.x - 60 - x - 16
+            maximumWidth: firstNameField.anchors.leftMargin - 60 - picture.width - 36
             maximumHeight: picture.height
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
             font.pixelSize: Theme.smallText
@@ -75,7 +81,8 @@ Item {
 
     ProfileField {
         objectName: "emailField"
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 187
         caption: qsTr("Email")
         text: view.email
@@ -90,7 +97,8 @@ Item {
         id: firstNameField
 
         objectName: "firstNameField"
-        x: 348
+        anchors.left: parent.left
+        anchors.leftMargin: 348
         y: 94
         caption: qsTr("First Name")
         errorMessage: qsTr("First Name is required")
@@ -101,7 +109,8 @@ Item {
         id: lastNameField
 
         objectName: "lastNameField"
-        x: 348
+        anchors.left: parent.left
+        anchors.leftMargin: 348
         y: 187
         caption: qsTr("Last Name")
         errorMessage: qsTr("Last Name is required")
@@ -112,7 +121,8 @@ Item {
         id: companyField
 
         objectName: "companyField"
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 280
         caption: qsTr("Company")
         errorMessage: qsTr("Company is required")
@@ -124,7 +134,8 @@ Item {
         id: titleField
 
         objectName: "titleField"
-        x: 348
+        anchors.left: parent.left
+        anchors.leftMargin: 348
         y: 280
         caption: qsTr("Job Title")
         errorMessage: qsTr("Job Title is required")
@@ -147,7 +158,8 @@ Item {
 
     OutlineButton {
         objectName: "cancelButton"
-        x: 346
+        anchors.left: parent.left
+        anchors.leftMargin: 346
         y: 356
         text: qsTr("Cancel")
         onClicked: view.canceled()
@@ -157,7 +169,8 @@ Item {
         id: saveButton
 
         objectName: "saveButton"
-        x: 456
+        anchors.left: parent.left
+        anchors.leftMargin: 456
         y: 356
         width: 100
         radius: Theme.pillRadius

@@ -14,6 +14,7 @@ QuickTextField {
     ButtonLabel {
         id: captionLabel
 
+        anchors.left: parent.left
         y: -27
         maximumWidth: field.width
         maximumHeight: 26

@@ -12,6 +12,7 @@ Item {
     FittedLabel {
         id: captionLabel
 
+        anchors.left: parent.left
         maximumWidth: 186 - 16
         maximumHeight: Math.ceil(1.2 * font.pixelSize) // one line, like the value
         font.pixelSize: Theme.bodyText
@@ -21,8 +22,9 @@ Item {
     LatoRegularLabel {
         id: valueLabel
 
-        x: 186
-        width: parent.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: 186
+        width: parent.width - anchors.leftMargin
         elide: Text.ElideRight
         font.pixelSize: Theme.bodyText
     }

@@ -18,15 +18,17 @@ Item {
     }
 
     CircularImage {
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 60
         imageSource: view.imageSource
     }
 
     LatoRegularLabel {
-        x: 164
+        anchors.left: parent.left
+        anchors.leftMargin: 164
         y: Math.round(102 - height / 2)
-        width: Math.min(implicitWidth, editLink.x - x - 20)
+        width: Math.min(implicitWidth, editLink.anchors.leftMargin - anchors.leftMargin - 20)
         text: view.name
         elide: Text.ElideRight
         font.pixelSize: Theme.headingText
@@ -39,7 +41,8 @@ Item {
 
         objectName: "editLink"
         // A longer text ends inside the frame.
-        x: Math.min(545, view.width - 24 - width)
+        anchors.left: parent.left
+        anchors.leftMargin: Math.min(545, view.width - 24 - width)
         y: 91
         //: Link that lets the user change the profile.
         text: qsTr("Edit")
@@ -48,7 +51,8 @@ Item {
     }
 
     Column {
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 168
         spacing: 25
 

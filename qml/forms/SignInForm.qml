@@ -28,7 +28,7 @@ LoginForm {
     linkText: qsTr("Create an account")
     submitText: qsTr("Sign In")
     submitY: 335
-    responseWidth: forgotLink.x - 15 - 8
+    responseWidth: width - forgotLink.width - 15 - 8
 
     Column {
         id: fields

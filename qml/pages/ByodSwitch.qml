@@ -10,9 +10,10 @@ Item {
     FittedLabel {
         id: title
 
-        x: 68
+        anchors.left: parent.left
+        anchors.leftMargin: 68
         y: 183
-        maximumWidth: byodSwitch.x - x - 16
+        maximumWidth: byodSwitch.anchors.leftMargin - anchors.leftMargin - 16
         maximumHeight: 34
         font.weight: Font.Bold
         text: qsTr("Smart BYOD Switch")
@@ -22,9 +23,10 @@ Item {
     FittedLabel {
         id: explanation
 
-        x: 68
+        anchors.left: parent.left
+        anchors.leftMargin: 68
         y: 220
-        maximumWidth: byodSwitch.x - x - 16
+        maximumWidth: byodSwitch.anchors.leftMargin - anchors.leftMargin - 16
         text: qsTr("The VORN device’s microphone, camera, and speakers will automatically activate \nwhen start a BYOD meeting.")
         font.pixelSize: Theme.smallText
     }
@@ -33,7 +35,8 @@ Item {
         id: byodSwitch
 
         objectName: "byodSwitch"
-        x: 574
+        anchors.left: parent.left
+        anchors.leftMargin: 574
         y: 184
         checked: page.device.useRemoteDevice
         accessibleName: title.text

@@ -19,7 +19,7 @@ Item {
     property int quitDelay: 2000
     property alias progress: progress
     // For both labels of the version, without the space between them.
-    readonly property real versionWidth: updateButton.x - 16 - versionLabel.x - 20
+    readonly property real versionWidth: page.width - 2 * 59 - updateButton.width - 45
 
     // The program has to quit, so that the new version can start.
     signal quitRequested
@@ -83,7 +83,8 @@ Item {
     FittedLabel {
         id: versionLabel
 
-        x: 68
+        anchors.left: parent.left
+        anchors.leftMargin: 68
         y: 186
         // Two lines above the link, beside the new version and the button.
         maximumWidth: Math.max(page.versionWidth / 2, page.versionWidth - newVersionLabel.implicitWidth)
@@ -103,7 +104,7 @@ Item {
         maximumHeight: versionLabel.maximumHeight
         text: qsTr("New Version:  %1").arg(page.newVersion)
         font.pixelSize: Theme.bodyText
-        font.italic: true
+        font.italic: Theme.italic
         color: Theme.green
         visible: page.hasNewVerion
         onVisibleChanged: {
@@ -124,16 +125,17 @@ Item {
         text: qsTr("You're up to date.")
         font.pixelSize: Theme.bodyText
         font.weight: Font.Bold
-        font.italic: true
+        font.italic: Theme.italic
         color: Theme.green
         visible: false
     }
 
     TextLink {
-        x: 68
+        anchors.left: parent.left
+        anchors.leftMargin: 68
         y: 230
         text: qsTr("Term of Use and Privacy Policy")
-        maximumWidth: page.width - 2 * x
+        maximumWidth: page.width - 2 * anchors.leftMargin
         textColor: Theme.textGrey
         font.pixelSize: Theme.smallText
     }

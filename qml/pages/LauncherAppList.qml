@@ -15,22 +15,25 @@ Item {
     }
 
     FittedLabel {
-        x: 68
+        anchors.left: parent.left
+        anchors.leftMargin: 68
         y: 183
-        maximumWidth: page.width - 2 * x
+        maximumWidth: page.width - 2 * anchors.leftMargin
         maximumHeight: 44
         text: qsTr("Select which apps appear on your launcher. Only checked apps will be shown.")
         font.pixelSize: Theme.bodyText
     }
 
     Column {
-        x: 72
+        anchors.left: parent.left
+        anchors.leftMargin: 72
         y: 232
         spacing: 24
 
         CircularCheckBox {
             id: zoomBox
 
+            anchors.left: parent?.left
             text: qsTr("Zoom")
             checked: page.device.supportLaunchZoom
             onClicked: page.device.supportLaunchZoom = page.toggled(checked)
@@ -39,6 +42,7 @@ Item {
         CircularCheckBox {
             id: teamsBox
 
+            anchors.left: parent?.left
             text: qsTr("Teams")
             checked: page.device.supportLaunchTeams
             onClicked: page.device.supportLaunchTeams = page.toggled(checked)
@@ -47,6 +51,7 @@ Item {
         CircularCheckBox {
             id: googleBox
 
+            anchors.left: parent?.left
             text: qsTr("Google")
             checked: page.device.supportLaunchGoogle
             onClicked: page.device.supportLaunchGoogle = page.toggled(checked)

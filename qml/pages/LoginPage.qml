@@ -148,14 +148,16 @@ Item {
     }
 
     Image {
-        x: 26
+        anchors.left: parent.left
+        anchors.leftMargin: 26
         y: 58
         asynchronous: true // decoded while the window is created
         source: page.currentPage === page.page_id_create_account ? "qrc:/images/background_2_437x576.png"
                                                                  : "qrc:/images/background_1_437x576.png"
 
         Image {
-            x: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 20
             y: 20
             asynchronous: true
             source: "qrc:/images/vorn_logo_84x26.png"
@@ -165,7 +167,8 @@ Item {
     SignInForm {
         id: signInForm
 
-        x: 521
+        anchors.left: parent.left
+        anchors.leftMargin: 521
         height: parent.height
         visible: page.currentPage === page.page_id_sign_in
         serverResponse: page.serverResponse
@@ -186,7 +189,8 @@ Item {
     Loader {
         id: createAccountLoader
 
-        x: 521
+        anchors.left: parent.left
+        anchors.leftMargin: 521
         height: parent.height
         active: false
         visible: page.currentPage === page.page_id_create_account
@@ -208,7 +212,8 @@ Item {
     Loader {
         id: verifyLoader
 
-        x: 521
+        anchors.left: parent.left
+        anchors.leftMargin: 521
         height: parent.height
         active: false
         visible: page.currentPage === page.page_id_verify_account
@@ -224,7 +229,8 @@ Item {
     Loader {
         id: resetPasswordLoader
 
-        x: 521
+        anchors.left: parent.left
+        anchors.leftMargin: 521
         height: parent.height
         active: false
         visible: page.currentPage === page.page_id_reset_password
@@ -244,7 +250,8 @@ Item {
     Loader {
         id: resetCompleteLoader
 
-        x: 521
+        anchors.left: parent.left
+        anchors.leftMargin: 521
         height: parent.height
         active: false
         visible: page.currentPage === page.page_id_reset_password_complete

@@ -32,7 +32,8 @@ Item {
     Component.onCompleted: page.service.requestUserProfile()
 
     Image {
-        x: 54
+        anchors.left: parent.left
+        anchors.leftMargin: 54
         y: 64
         source: "qrc:/images/vorn_logo_105x32.png"
         smooth: true
@@ -40,9 +41,10 @@ Item {
 
     AvatarButton {
         objectName: "avatarButton"
-        x: 54
+        anchors.left: parent.left
+        anchors.leftMargin: 54
         y: 133
-        maximumWidth: contentArea.x - x
+        maximumWidth: contentArea.anchors.leftMargin - anchors.leftMargin
         current: page.currentPage === page.page_id_personal
         imageSource: page.device.userImage
         text: page.device.firstName
@@ -55,7 +57,8 @@ Item {
     ListView {
         id: navigation
 
-        x: 45
+        anchors.left: parent.left
+        anchors.leftMargin: 45
         y: 211
         width: 168
         height: parent.height - y
@@ -84,7 +87,8 @@ Item {
 
     QuickButton {
         objectName: "settingsButton"
-        x: 45
+        anchors.left: parent.left
+        anchors.leftMargin: 45
         y: 593
         width: 168
         height: 36
@@ -95,15 +99,17 @@ Item {
         onClicked: page.showOtherPage(page.page_id_settings)
 
         Image {
-            x: 12
+            anchors.left: parent.left
+            anchors.leftMargin: 12
             anchors.verticalCenter: parent.verticalCenter
             source: "qrc:/images/settings_16x14.png"
         }
 
         ButtonLabel {
-            x: 40
+            anchors.left: parent.left
+            anchors.leftMargin: 40
             anchors.verticalCenter: parent.verticalCenter
-            maximumWidth: parent.width - x - 10
+            maximumWidth: parent.width - anchors.leftMargin - 10
             maximumHeight: parent.height - 2
             text: qsTr("Settings")
             font.pixelSize: Theme.bodyText
@@ -113,17 +119,18 @@ Item {
     Item {
         id: contentArea
 
-        x: 262
-        width: parent.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: 262
+        width: parent.width - anchors.leftMargin
         height: parent.height
 
-        // Extends beyond the left edge, so that only the right corners are round.
+        // Extends beyond the edge at the navigation, so that only the other corners are round.
         Item {
             anchors.fill: parent
             clip: true
 
             Rectangle {
-                x: -radius
+                x: Theme.mirrored ? 0 : -radius
                 width: parent.width + radius
                 height: parent.height
                 radius: Theme.windowRadius
@@ -156,7 +163,8 @@ Item {
 
     // Declared after the pages, which would cover it otherwise.
     LatoRegularLabel {
-        x: 871
+        anchors.left: parent.left
+        anchors.leftMargin: 871
         y: 621
         width: 61
         height: 15

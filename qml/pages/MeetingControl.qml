@@ -42,7 +42,8 @@ Item {
 
     FittedLabel {
         Accessible.role: Accessible.Heading
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 80
         maximumWidth: 700
         maximumHeight: 90
@@ -55,7 +56,8 @@ Item {
         id: time
 
         objectName: "time"
-        x: 938
+        anchors.left: parent.left
+        anchors.leftMargin: 938
         y: 100
         //: Form of the time in the way of Qt: HH or hh hours, mm minutes, AP morning or afternoon.
         text: page.now.toLocaleTimeString(Qt.locale(), qsTr("hh:mm AP"))
@@ -73,7 +75,8 @@ Item {
     }
 
     Rectangle {
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 192
         width: 972
         height: 1
@@ -82,7 +85,8 @@ Item {
 
     LatoBoldLabel {
         Accessible.role: Accessible.Heading
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 242
         text: qsTr("Device Control")
         font.pixelSize: Theme.headingText
@@ -92,7 +96,8 @@ Item {
         id: badge
 
         objectName: "volumeBadge"
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 297
         width: 82
         height: 82
@@ -116,9 +121,10 @@ Item {
     FittedLabel {
         id: volumeTitle
 
-        x: 162
+        anchors.left: parent.left
+        anchors.leftMargin: 162
         y: 314
-        maximumWidth: slider.x - x - 12
+        maximumWidth: slider.anchors.leftMargin - anchors.leftMargin - 12
         maximumHeight: 60
         text: qsTr("VORN K4V\nVolume")
         font.pixelSize: Theme.bodyText
@@ -128,7 +134,8 @@ Item {
         id: slider
 
         objectName: "volumeSlider"
-        x: 281
+        anchors.left: parent.left
+        anchors.leftMargin: 281
         y: 312
         enabled: page.volumeKnown
         volume: page.device.volume
@@ -142,7 +149,8 @@ Item {
 
     LatoRegularLabel {
         objectName: "volumeValue"
-        x: 941
+        anchors.left: parent.left
+        anchors.leftMargin: 941
         y: 329
         //: A percentage.
         text: qsTr("%1%").arg(slider.value)
@@ -150,7 +158,8 @@ Item {
     }
 
     Rectangle {
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 419
         width: 972
         height: 1
@@ -159,7 +168,8 @@ Item {
 
     LatoBoldLabel {
         Accessible.role: Accessible.Heading
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 460
         //: Heading above the two things that the display can show.
         text: qsTr("Device Source Mode")
@@ -168,7 +178,8 @@ Item {
 
     SourceCard {
         objectName: "byodCard"
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 515
         value: page.device.byodSwitch
         title: qsTr("Smart Connect Mode")
@@ -183,7 +194,8 @@ Item {
 
     SourceCard {
         objectName: "zoomCard"
-        x: 510
+        anchors.left: parent.left
+        anchors.leftMargin: 510
         y: 515
         value: page.device.zoomSwitch
         title: qsTr("Screen Share")

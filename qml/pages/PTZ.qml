@@ -75,7 +75,7 @@ FocusScope {
 
             objectName: "framingTab" + index
             text: modelData
-            roundLeft: index === 0
+            roundLeft: (index === 0) !== Theme.mirrored
             current: ListView.isCurrentItem
             onClicked: panel.currentPage = index
         }
@@ -109,9 +109,10 @@ FocusScope {
         FittedLabel {
             id: smartFramingTitle
 
-            x: 131
+            anchors.left: parent.left
+            anchors.leftMargin: 131
             y: 126
-            maximumWidth: smartFramingSwitch.x - x - 8
+            maximumWidth: smartFramingSwitch.anchors.leftMargin - anchors.leftMargin - 8
             maximumHeight: 27
             font.weight: Font.Bold
             text: qsTr("Smart-Framing")
@@ -121,9 +122,10 @@ FocusScope {
         FittedLabel {
             id: smartFramingText
 
-            x: 131
+            anchors.left: parent.left
+            anchors.leftMargin: 131
             y: 155
-            maximumWidth: smartFramingSwitch.x - x - 8
+            maximumWidth: smartFramingSwitch.anchors.leftMargin - anchors.leftMargin - 8
             text: qsTr("Auto focus on multiple individuals and combine \nin a frame (up to 6 individuals)")
             font.pixelSize: Theme.smallText
         }
@@ -132,7 +134,8 @@ FocusScope {
             id: smartFramingSwitch
 
             objectName: "smartFramingSwitch"
-            x: 436
+            anchors.left: parent.left
+            anchors.leftMargin: 436
             y: 127
             checked: panel.camera.smartFraming
             accessibleName: smartFramingTitle.text

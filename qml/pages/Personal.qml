@@ -159,10 +159,11 @@ Item {
 
         TextLink {
             objectName: "signOutLink"
-            x: 60
+            anchors.left: parent.left
+            anchors.leftMargin: 60
             y: 428
             text: qsTr("Sign Out")
-            maximumWidth: 375 - x - 20
+            maximumWidth: 375 - anchors.leftMargin - 20
             textColor: Theme.mutedText
             font.pixelSize: Theme.bodyText
             font.underline: true
@@ -170,16 +171,17 @@ Item {
         }
 
         Flow {
-            x: 375
+            anchors.left: parent.left
+            anchors.leftMargin: 375
             y: 432
-            width: parent.width - x - 20
+            width: parent.width - anchors.leftMargin - 20
 
             FittedLabel {
                 maximumWidth: parent.width
                 //: Followed by "coming soon".
                 text: qsTr("Digital Namecard Service ")
                 font.pixelSize: Theme.smallText
-                font.italic: true
+                font.italic: Theme.italic
                 color: Theme.textGrey
             }
 
@@ -187,14 +189,14 @@ Item {
                 maximumWidth: parent.width
                 text: qsTr("coming soon")
                 font.pixelSize: Theme.smallText
-                font.italic: true
+                font.italic: Theme.italic
             }
         }
 
         PicturePopup {
             id: picturePopup
 
-            x: 149
+            x: Theme.mirrored ? parent.width - width - 149 : 149
             y: 59
             onClosed: {
                 if (page.visible && edit.visible)

@@ -13,9 +13,10 @@ Item {
     property int currentPage: page_id_general
 
     FittedLabel {
-        x: 50
+        anchors.left: parent.left
+        anchors.leftMargin: 50
         y: 67
-        maximumWidth: page.width - 2 * x
+        maximumWidth: page.width - 2 * anchors.leftMargin
         font.weight: Font.Bold
         text: qsTr("Settings")
         font.pixelSize: Theme.headingText
@@ -25,7 +26,8 @@ Item {
     ListView {
         id: tabBar
 
-        x: 50
+        anchors.left: parent.left
+        anchors.leftMargin: 50
         y: 111
         width: 600
         height: 36
@@ -58,7 +60,8 @@ Item {
     }
 
     Rectangle {
-        x: 50
+        anchors.left: parent.left
+        anchors.leftMargin: 50
         y: 164
         width: 656
         height: 1

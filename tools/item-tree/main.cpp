@@ -1,5 +1,6 @@
 #include "ItemTree.h"
 
+#include "app/Translations.h"
 #include "rig/PageRig.h"
 
 #include <QApplication>
@@ -76,6 +77,8 @@ int main(int argc, char* argv[])
     if (parser.positionalArguments().size() != 1)
         parser.showHelp(2);
 
+    Translations translations;
+    translations.install(QLocale::system().uiLanguages());
     const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
     PageRig rig;
     QQuickView view;
@@ -89,6 +92,7 @@ int main(int argc, char* argv[])
     view.setSource(pageFile(parser.positionalArguments().constFirst()));
     if (view.status() != QQuickView::Ready)
         return 1;
+    mirrorLayout(view);
     view.show();
     if (!runScripts(view, parser.values(u"run"_s)))
         return 1;

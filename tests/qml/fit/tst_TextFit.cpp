@@ -143,6 +143,7 @@ QStringList tst_TextFit::faultsOf(const Page& page)
     view.show();
     if (!view.rootObject() || !QTest::qWaitForWindowExposed(&view))
         return {page.file + u" cannot be shown"_s};
+    mirrorLayout(view);
     QStringList faults;
     for (const QString& state : page.states) {
         QQmlExpression expression(qmlContext(view.rootObject()), view.rootObject(), state);
