@@ -7,6 +7,7 @@ LatoRegularLabel {
 
     property real maximumWidth: Infinity
     property real maximumHeight: Infinity
+    property Item tip: null
 
     width: Math.min(implicitWidth, maximumWidth)
     height: Math.min(implicitHeight, maximumHeight)
@@ -14,16 +15,9 @@ LatoRegularLabel {
     fontSizeMode: Text.Fit
     minimumPixelSize: Math.ceil(0.8 * font.pixelSize)
     elide: Text.ElideRight
+    // Created when it is first needed, since English never needs one.
     onTruncatedChanged: {
-        if (truncated)
-            tip.setSource("WholeText.qml", { label: label });
-        else
-            tip.source = "";
-    }
-
-    Loader {
-        id: tip
-
-        anchors.fill: parent
+        if (truncated && !tip)
+            tip = Qt.createComponent("WholeText.qml").createObject(label, { label: label });
     }
 }

@@ -6,6 +6,10 @@ Item {
     id: root
 
     required property Text label
+    readonly property bool shown: tip.visible
+
+    anchors.fill: parent
+    visible: label.truncated
 
     HoverHandler {
         id: hover
