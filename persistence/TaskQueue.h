@@ -31,7 +31,7 @@ public:
     enum class Outcome { Done, TryAgain };
     struct Action {
         QString name;
-        /// May ask to be tried again, unless it is told that this is the last attempt.
+        /// May return TryAgain, unless isLastAttempt.
         std::function<Outcome(const QVariantList& args, bool isLastAttempt)> perform;
         Kind kind = Kind::Write;
     };

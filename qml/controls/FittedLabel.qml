@@ -7,7 +7,7 @@ LatoRegularLabel {
 
     property real maximumWidth: Infinity
     property real maximumHeight: Infinity
-    property Item tip: null
+    property WholeText tip: null
 
     width: Math.min(implicitWidth, maximumWidth)
     height: Math.min(implicitHeight, maximumHeight)

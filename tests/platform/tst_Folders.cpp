@@ -95,7 +95,7 @@ void tst_Folders::findsTheFoldersOfTheLog()
     qputenv("XDG_STATE_HOME", m_home->filePath(u"state/"_s).toUtf8());
     QCOMPARE(platform::programDataFolder(), m_home->filePath(u"state/VORNApp"_s));
 
-    qputenv("XDG_STATE_HOME", "not/absolute"); // ignored, as the XDG specification demands
+    qputenv("XDG_STATE_HOME", "not/absolute"); // A relative path is ignored.
     QCOMPARE(platform::programDataFolder(), m_home->filePath(u".local/state/VORNApp"_s));
 }
 

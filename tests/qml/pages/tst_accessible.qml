@@ -1,6 +1,5 @@
 // qmllint disable unqualified
 import QtQuick
-import QtTest
 import "../../../qml/pages"
 
 // What a screen reader finds on each page.

@@ -1,6 +1,5 @@
 // qmllint disable unqualified
 import QtQuick
-import QtTest
 import "../../../qml/pages"
 
 // From the sign-in to a launched meeting with the keyboard only.

@@ -1,6 +1,5 @@
 // qmllint disable unqualified
 import QtQuick
-import QtTest
 import "../../../qml/pages"
 
 PageTest {

@@ -1,7 +1,6 @@
 // qmllint disable unqualified
 import QtQuick
 import QtQuick.Controls.Basic
-import "../../../qml/controls"
 import "../../../qml/pages"
 
 DisplayTest {
