@@ -25,7 +25,6 @@ SingleInstance::SingleInstance(QString name, QString serverName)
     : m_name(std::move(name))
     , m_serverName(std::move(serverName))
 {
-    platform::setInstanceKey(m_sharedMemory, m_name);
 }
 
 SingleInstance::~SingleInstance()
@@ -72,26 +71,44 @@ SingleInstance::Claim SingleInstance::claim()
 {
     const platform::InstanceLock lock(m_name);
     m_claimError = QStringLiteral("sharedMemory attach");
-    // The last process that detaches removes the segment, also one that a crash has left. If it
-    // still exists after that, another process is attached.
-    if (segmentExists() && segmentExists())
+    if (isSegmentHeld())
         return Claim::Held;
     // A temp cleaner may have removed the segment's file from under a running instance.
     const Reply reply = handOver();
     if (reply != Reply::Missing)
         return reply == Reply::Accepted ? Claim::Answered : Claim::Held;
-    if (m_sharedMemory.create(1, QSharedMemory::ReadWrite))
+    // On Linux the segment's key is computed from the inode of its file. After a crash, a segment
+    // whose file is gone can have the key of the file that create() has just made.
+    if (createSegment() || (!isSegmentHeld() && createSegment()))
         return Claim::Made;
-    m_claimError = QStringLiteral("Failed to create shared memory:") + m_sharedMemory.errorString();
+    m_claimError =
+        QStringLiteral("Failed to create shared memory:") + m_sharedMemory->errorString();
     return Claim::Held;
+}
+
+/// The last process that detaches removes the segment, also one that a crash has left. If it still
+/// exists after that, another process is attached.
+bool SingleInstance::isSegmentHeld()
+{
+    return segmentExists() && segmentExists();
 }
 
 bool SingleInstance::segmentExists()
 {
-    if (!m_sharedMemory.attach(QSharedMemory::ReadWrite))
-        return false;
-    m_sharedMemory.detach();
-    return true;
+    QSharedMemory& segment = newSegment();
+    return segment.attach(QSharedMemory::ReadWrite) && segment.detach();
+}
+
+bool SingleInstance::createSegment()
+{
+    return newSegment().create(1, QSharedMemory::ReadWrite);
+}
+
+/// A QSharedMemory of Qt 6.4 whose create() has failed fails in every later call.
+QSharedMemory& SingleInstance::newSegment()
+{
+    platform::setInstanceKey(m_sharedMemory.emplace(), m_name);
+    return *m_sharedMemory;
 }
 
 SingleInstance::Reply SingleInstance::handOver() const
@@ -114,7 +131,6 @@ SingleInstance::Reply SingleInstance::handOver() const
 
 void SingleInstance::release()
 {
-    if (m_sharedMemory.isAttached())
-        m_sharedMemory.detach();
+    m_sharedMemory.reset();
     platform::removeInstanceFolder();
 }

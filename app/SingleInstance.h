@@ -3,6 +3,8 @@
 #include <QSharedMemory>
 #include <QString>
 
+#include <optional>
+
 /// Ensures that only one instance of a user runs. The first instance holds a shared-memory segment
 /// while it runs; a later start asks it to show its window. Main thread; needs no application
 /// object.
@@ -41,12 +43,15 @@ private:
     };
 
     Claim claim();
+    bool isSegmentHeld();
     bool segmentExists();
+    bool createSegment();
+    QSharedMemory& newSegment();
     Reply handOver() const;
     Outcome succeed();
 
     const QString m_name;
     const QString m_serverName;
-    QSharedMemory m_sharedMemory;
+    std::optional<QSharedMemory> m_sharedMemory;
     QString m_claimError; // reason of a failed claim
 };

@@ -5,6 +5,9 @@
 #include <csignal>
 #include <future>
 
+#include <sys/ipc.h>
+#include <sys/shm.h>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -37,6 +40,7 @@ class tst_SingleInstance : public QObject
 private slots:
     void init();
     void handsOverAlsoWithoutKeyFiles();
+    void startsBesideSegmentsOfCrashedPrograms();
     void succeedsAnInstanceThatEnds();
     void runsWithoutARuntimeFolderAndLeavesNoFile();
     void refusesToStartWithoutADisplay();
@@ -65,6 +69,23 @@ void tst_SingleInstance::handsOverAlsoWithoutKeyFiles()
     });
     QCOMPARE(serve(server, "shown"), "activate");
     QCOMPARE(second.get(), SingleInstance::Outcome::HandedOver);
+}
+
+/// Such a segment outlives its file, and a later file can have the same inode number.
+void tst_SingleInstance::startsBesideSegmentsOfCrashedPrograms()
+{
+    QFile probe(m_folder->filePath(u"probe"_s));
+    QVERIFY(probe.open(QIODevice::WriteOnly));
+    const key_t near = ::ftok(probe.fileName().toUtf8().constData(), 'Q');
+    QVERIFY(probe.remove());
+    std::vector<int> segments;
+    for (key_t key = near - 20; key < near + 60; ++key)
+        segments.push_back(::shmget(key, 1, 0600 | IPC_CREAT | IPC_EXCL));
+    SingleInstance first(u"key"_s, serverName());
+    const SingleInstance::Outcome outcome = first.start();
+    for (const int segment : segments)
+        ::shmctl(segment, IPC_RMID, nullptr);
+    QCOMPARE(outcome, SingleInstance::Outcome::First);
 }
 
 void tst_SingleInstance::succeedsAnInstanceThatEnds()
