@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <optional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -212,7 +212,7 @@ void tst_DBManager::makesUpForAFailedClearing()
 {
     QFETCH(const bool, byTheNextRun);
     QFETCH(const bool, beforeAWrite);
-    std::optional<DBManager> db(m_path);
+    auto db = std::make_unique<DBManager>(m_path);
     QVERIFY(db->saveUserData(u"token"_s, u"secret"_s));
     {
         const FileLock lock(m_path);
@@ -222,7 +222,7 @@ void tst_DBManager::makesUpForAFailedClearing()
     }
     if (byTheNextRun) {
         db.reset();
-        db.emplace(m_path);
+        db = std::make_unique<DBManager>(m_path);
     }
     if (beforeAWrite)
         QVERIFY(save(*db, u"email"_s, u"new"_s, db->currentSignIn()));
@@ -232,7 +232,7 @@ void tst_DBManager::makesUpForAFailedClearing()
     // The clearing is made only once.
     QVERIFY(db->saveUserData(u"email"_s, u"newer"_s));
     db.reset();
-    db.emplace(m_path);
+    db = std::make_unique<DBManager>(m_path);
     QCOMPARE(db->getUserData(u"email"_s, {}).toString(), u"newer"_s);
     QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{u"userdata.db"_s});
 }
