@@ -3,6 +3,7 @@
 #include <QHostAddress>
 #include <QPromise>
 
+#include <atomic>
 #include <thread>
 #include <utility>
 
@@ -10,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
+
+std::atomic<int> g_runningLookups = 0;
 
 bool isThisComputer(const QString& host)
 {
@@ -30,10 +33,17 @@ QFuture<QList<QNetworkProxy>> findProxies(const QUrl& url, ProxyLookup lookUp)
         promise.finish();
         return future;
     }
+    ++g_runningLookups;
     std::thread([promise = std::move(promise), lookUp = std::move(lookUp),
                  query = QNetworkProxyQuery(url)]() mutable {
         promise.addResult(lookUp(query));
         promise.finish();
+        --g_runningLookups;
     }).detach();
     return future;
+}
+
+bool isProxyLookupRunning()
+{
+    return g_runningLookups > 0;
 }

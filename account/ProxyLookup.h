@@ -13,3 +13,7 @@ using ProxyLookup = std::function<QList<QNetworkProxy>(const QNetworkProxyQuery&
 /// many seconds, so this happens on a thread of its own, which nothing waits for. This computer is
 /// reached directly, whatever the settings say.
 [[nodiscard]] QFuture<QList<QNetworkProxy>> findProxies(const QUrl& url, ProxyLookup lookUp);
+
+/// True while the system is still busy with a look-up. The process then has to end without
+/// destroying static objects, which the look-up may be using. Any thread.
+[[nodiscard]] bool isProxyLookupRunning();

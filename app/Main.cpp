@@ -1,3 +1,4 @@
+#include "account/ProxyLookup.h"
 #include "app/ExitGuard.h"
 #include "app/FirstFrame.h"
 #include "app/LoadCustomFont.h"
@@ -20,6 +21,7 @@
 #include <QQmlApplicationEngine>
 #include <QtQml>
 
+#include <cstdlib>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -79,22 +81,8 @@ void showLoadError(const WindowManager& windows)
     box.exec();
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+int run(int& argc, char** argv, SingleInstance& instance)
 {
-    platform::ignoreBrokenPipes();
-    SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
-    switch (instance.start()) {
-    case SingleInstance::Outcome::First:
-        break;
-    case SingleInstance::Outcome::HandedOver:
-        return 0;
-    case SingleInstance::Outcome::Unreachable:
-        warnUnreachable(argc, argv);
-        return 0;
-    }
-
     const QFileInfo executable(QString::fromLocal8Bit(argv[0]));
     const QString appPath = executable.absolutePath();
     const QString fileName = executable.fileName();
@@ -144,5 +132,28 @@ int main(int argc, char* argv[])
 
     program.closeChannel();
     engine.reset();
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    platform::ignoreBrokenPipes();
+    SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
+    switch (instance.start()) {
+    case SingleInstance::Outcome::First:
+        break;
+    case SingleInstance::Outcome::HandedOver:
+        return 0;
+    case SingleInstance::Outcome::Unreachable:
+        warnUnreachable(argc, argv);
+        return 0;
+    }
+    const int exitCode = run(argc, argv, instance);
+    if (isProxyLookupRunning()) {
+        instance.release();
+        std::_Exit(exitCode);
+    }
     return exitCode;
 }
