@@ -11,7 +11,7 @@ using ProxyLookup = std::function<QList<QNetworkProxy>(const QNetworkProxyQuery&
 
 /// Starts to look up the proxies for an address. The system may ask the network about them and take
 /// many seconds, so this happens on a thread of its own, which nothing waits for. This computer is
-/// reached directly, whatever the settings say.
+/// reached directly, without regard to the settings.
 [[nodiscard]] QFuture<QList<QNetworkProxy>> findProxies(const QUrl& url, ProxyLookup lookUp);
 
 /// True while the system is still busy with a look-up. The process then has to end without
