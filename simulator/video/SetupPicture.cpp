@@ -3,6 +3,7 @@
 #include "simulator/video/Nv12Picture.h"
 #include "simulator/video/SetupFlow.h"
 
+#include <QFontDatabase>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QTime>
@@ -30,6 +31,16 @@ constexpr QRgb Ink = 0xFFF2F5F7;
 constexpr QRgb FaintInk = 0xFF93A4AE;
 constexpr QRgb Surface = 0xFF24323B;
 constexpr QRgb Background = 0xFF141D23;
+
+/// Brings a font, because a system may have none that Qt finds.
+QFont textFont(int pixelSize, bool isBold = false)
+{
+    static const int s_font = QFontDatabase::addApplicationFont(u":/fonts/LatoRegular.ttf"_s);
+    QFont font(QFontDatabase::applicationFontFamilies(s_font));
+    font.setPixelSize(pixelSize);
+    font.setBold(isBold);
+    return font;
+}
 
 } // namespace
 
@@ -104,10 +115,7 @@ void SetupPicture::drawScreen(const SetupFlow& flow)
 
 void SetupPicture::drawHeader(QPainter& painter, const SetupFlow& flow) const
 {
-    QFont font;
-    font.setPixelSize(letters(0.045));
-    font.setBold(true);
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.045), true));
     painter.setPen(QColor(Accent));
     painter.drawText(place({0.08, 0.045, 0.2, 0.075}), Qt::AlignVCenter, u"VORN"_s);
 
@@ -122,13 +130,10 @@ void SetupPicture::drawHeader(QPainter& painter, const SetupFlow& flow) const
         x += width + dot;
     }
 
-    font.setPixelSize(letters(0.07));
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.07), true));
     painter.setPen(QColor(Ink));
     painter.drawText(place({0.08, 0.17, 0.84, 0.09}), Qt::AlignVCenter, flow.title());
-    font.setPixelSize(letters(0.032));
-    font.setBold(false);
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.032)));
     painter.setPen(QColor(FaintInk));
     painter.drawText(place({0.08, 0.26, 0.84, 0.06}), Qt::AlignVCenter, flow.text());
 }
@@ -136,8 +141,6 @@ void SetupPicture::drawHeader(QPainter& painter, const SetupFlow& flow) const
 void SetupPicture::drawButtons(QPainter& painter, const SetupFlow& flow) const
 {
     using Kind = SetupFlow::Button::Kind;
-    QFont font;
-    font.setPixelSize(letters(0.034));
     const double radius = letters(0.018);
     const QList<SetupFlow::Button> buttons = flow.buttons();
     for (const auto& button : buttons) {
@@ -148,8 +151,7 @@ void SetupPicture::drawButtons(QPainter& painter, const SetupFlow& flow) const
         painter.setBrush(face);
         painter.setPen(button.isChosen ? QPen(QColor(Accent), letters(0.005)) : QPen(Qt::NoPen));
         painter.drawRoundedRect(area, radius, radius);
-        font.setBold(button.kind != Kind::Option);
-        painter.setFont(font);
+        painter.setFont(textFont(letters(0.034), button.kind != Kind::Option));
         painter.setPen(QColor(Ink));
         const bool isOption = button.kind == Kind::Option;
         const double indent = isOption ? 0.05 * area.width() : 0;
@@ -164,9 +166,7 @@ void SetupPicture::drawPatches(QPainter& painter) const
     const QList<QRgb> colours = patchColours();
     for (int i = 0; i < int(colours.size()); ++i)
         painter.fillRect(patch(i, m_size), QColor(colours.at(i)));
-    QFont font;
-    font.setPixelSize(letters(0.024));
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.024)));
     painter.setPen(QColor(FaintInk));
     painter.drawText(place({0.62, 0.44, 0.3, 0.05}), Qt::AlignVCenter, u"Panel check"_s);
 }
@@ -223,14 +223,11 @@ void SetupPicture::drawMovingParts(quint32 frameNumber)
     for (const QRectF& area : {ClockArea, CounterArea, TrackArea})
         painter.fillRect(movingPlace(area), QColor(Background));
 
-    QFont font;
-    font.setPixelSize(letters(0.045));
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.045)));
     painter.setPen(QColor(Ink));
     painter.drawText(movingPlace(ClockArea), Qt::AlignVCenter | Qt::AlignRight,
                      QTime::currentTime().toString(u"HH:mm:ss"_s));
-    font.setPixelSize(letters(0.026));
-    painter.setFont(font);
+    painter.setFont(textFont(letters(0.026)));
     painter.setPen(QColor(FaintInk));
     painter.drawText(movingPlace(CounterArea), Qt::AlignCenter,
                      u"frame %1"_s.arg(frameNumber, 6, 10, QLatin1Char('0')));
