@@ -86,11 +86,14 @@ bool ProcessManager::killProcess(const QString& name, const std::stop_token& sto
     constexpr auto Function = "ProcessManager::killProcess";
     const auto outcome = platform::killByImageName(
         name, isMainThread() ? MainThreadPatience : CommandPatience, stop);
+    const bool succeeded = outcome.finished && outcome.exitCode == 0;
+    if (!succeeded && stop.stop_requested()) {
+        // The end of the session ends the tool too, with an exit code of its own.
+        Log::info(Function) << "kill " << name << " interrupted";
+        return false;
+    }
     if (!outcome.finished) {
-        if (stop.stop_requested())
-            Log::info(Function) << "kill " << name << " interrupted";
-        else
-            Log::error(Function) << "kill " << name << " Failed to execute taskkill command!";
+        Log::error(Function) << "kill " << name << " Failed to execute taskkill command!";
         return false;
     }
     if (outcome.exitCode != 0) {
@@ -104,8 +107,8 @@ bool ProcessManager::killProcess(const QString& name, const std::stop_token& sto
 void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token& stop)
 {
     const auto outcome = platform::isImageRunning(name, CommandPatience, stop);
-    if (!outcome.finished && stop.stop_requested())
-        return; // nothing failed, the program ends
+    if (stop.stop_requested())
+        return; // the state does not matter any more, and nothing is started at the end
     if (!outcome.finished) {
         // The text names the updater, whatever `name` is.
         Log::error("ProcessManager::keepProcessAlive")
@@ -185,7 +188,8 @@ bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
 {
     constexpr auto Function = "ProcessManager::getShortcutTarget";
     const auto result = platform::shortcutTarget(shortcut, ShortcutPatience);
-    if (!result.finished && QThread::currentThread()->isInterruptionRequested())
+    const bool succeeded = result.finished && result.exitCode == 0;
+    if (!succeeded && QThread::currentThread()->isInterruptionRequested())
         return false; // nothing failed, the program ends
     if (!result.finished) {
         Log::error(Function) << "Process failed or timeout:" << result.processError;

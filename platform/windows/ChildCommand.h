@@ -1,19 +1,16 @@
 #pragma once
 
-#include <QByteArray>
 #include <QStringList>
 
 #include <chrono>
+#include <memory>
 #include <stop_token>
 
 class QProcess;
 
+/// Nothing here calls Windows, so that the tests of every system cover it.
 namespace platform
 {
-
-/// Full path of a tool in the system folder, so that a program of the same name elsewhere, for
-/// example beside ours, is never run.
-[[nodiscard]] QString systemTool(const QString& path);
 
 enum class Unfinished { Kill, LeaveRunning };
 
@@ -24,7 +21,7 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
                 std::chrono::milliseconds patience, const std::stop_token& stop = {},
                 Unfinished unfinished = Unfinished::Kill);
 
-/// Converts the output of such a tool, which is in the system's OEM code page.
-QString toolOutput(const QByteArray& text);
+/// Lets a tool that still runs finish its work alone. The destructor of QProcess would kill it.
+void leaveRunning(std::unique_ptr<QProcess> process);
 
 } // namespace platform

@@ -1,10 +1,12 @@
 #include "platform/Processes.h"
 
 #include "platform/windows/ChildCommand.h"
+#include "platform/windows/SystemTools.h"
 
 #include <QProcess>
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +16,7 @@ namespace platform
 KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patience,
                             const std::stop_token& stop)
 {
-    // At the end of the program there may be no time to wait for the tool, which finishes its work
-    // alone. The destructor of QProcess would kill it.
+    // At the end of the program there may be no time to wait for the tool.
     auto process = std::make_unique<QProcess>();
     const bool finished =
         runCommand(*process, systemTool(u"taskkill.exe"_s), {u"/IM"_s, name, u"/F"_s}, patience,
@@ -23,8 +24,7 @@ KillOutcome killByImageName(const QString& name, std::chrono::milliseconds patie
     if (finished)
         return {true, process->exitCode(), toolOutput(process->readAllStandardError())};
     KillOutcome outcome{false, -1, process->errorString()};
-    if (process->state() != QProcess::NotRunning)
-        (void)process.release();
+    leaveRunning(std::move(process));
     return outcome;
 }
 

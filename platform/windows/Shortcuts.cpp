@@ -1,6 +1,7 @@
 #include "platform/Shortcuts.h"
 
 #include "platform/windows/ChildCommand.h"
+#include "platform/windows/SystemTools.h"
 
 #include <QProcess>
 

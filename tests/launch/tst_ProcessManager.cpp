@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <memory>
 #include <thread>
@@ -40,6 +41,7 @@ private slots:
     void startsAProgramByPath();
     void startsAProgramBesideTheApplication();
     void killsByName();
+    void reportsNoFailureOnceTheProgramEnds();
     void readsPathsFromTheRegistry_data();
     void readsPathsFromTheRegistry();
     void startsZoom_data();
@@ -167,6 +169,26 @@ void tst_ProcessManager::killsByName()
     QVERIFY(lines.first().startsWith(u"E ProcessManager::killProcess "_s + name +
                                      ".exe killed failed:"_L1));
     QVERIFY(!lines.first().endsWith(u':'));
+}
+
+void tst_ProcessManager::reportsNoFailureOnceTheProgramEnds()
+{
+    std::stop_source stop;
+    stop.request_stop();
+    const QString name = u"vorn-test-stopped-%1"_s.arg(QCoreApplication::applicationPid());
+    install(u"bin/"_s + name);
+    QVERIFY(!m_programs.killProcess(name, stop.get_token()));
+    m_programs.keepProcessAlive(name, stop.get_token());
+
+    const std::unique_ptr<QThread> task(QThread::create([this] {
+        QThread::currentThread()->requestInterruption();
+        QString target;
+        ProcessManager::getShortcutTarget(path(u"missing"_s), target);
+    }));
+    task->start();
+    QVERIFY(task->wait(10'000));
+    QCOMPARE(m_log->take(),
+             QStringList{u"I ProcessManager::killProcess kill "_s + name + " interrupted"_L1});
 }
 
 void tst_ProcessManager::readsPathsFromTheRegistry_data()

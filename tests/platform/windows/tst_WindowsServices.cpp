@@ -4,11 +4,9 @@
 #include "platform/Shortcuts.h"
 #include "platform/ThreadName.h"
 #include "platform/VersionResource.h"
-#include "platform/windows/ChildCommand.h"
 #include "rig/HelperProcess.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,9 +14,6 @@
 
 #include <objbase.h>
 #include <shlobj.h>
-
-#include <atomic>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -33,7 +28,6 @@ private slots:
     void readsVersionResources();
     void listsDevices();
     void resolvesShortcuts();
-    void endsToolsThatMustNotRunOn();
     void namesThreads();
 };
 
@@ -126,30 +120,6 @@ void tst_WindowsServices::resolvesShortcuts()
     QVERIFY2(result.finished, qPrintable(result.processError));
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(QDir::fromNativeSeparators(result.output).toLower(), target.toLower());
-}
-
-void tst_WindowsServices::endsToolsThatMustNotRunOn()
-{
-    const QString helper = HelperProcess::path(u"platform_helper"_s);
-    std::atomic_bool finished = true;
-    QElapsedTimer sinceRequest;
-    {
-        const std::jthread worker([&](const std::stop_token& stop) {
-            QProcess tool;
-            finished = platform::runCommand(tool, helper, {u"wait"_s}, 60s, stop);
-        });
-        sinceRequest.start();
-    } // requests the stop and joins
-    QVERIFY(!finished);
-    QVERIFY(sinceRequest.elapsed() < 10'000);
-
-    QProcess slow;
-    QVERIFY(!platform::runCommand(slow, helper, {u"wait"_s}, 100ms));
-    QProcess missing;
-    QVERIFY(!platform::runCommand(missing, u"C:/missing.exe"_s, {}, 20s));
-    QProcess quick;
-    QVERIFY(platform::runCommand(quick, helper, {u"?"_s}, 20s));
-    QCOMPARE(quick.exitCode(), 2); // of an unknown mode
 }
 
 void tst_WindowsServices::namesThreads()
