@@ -35,19 +35,35 @@ bool isRaster(const QByteArray& format)
     return !format.isEmpty() && !format.startsWith("svg");
 }
 
-/// Whether a JPEG file has its data in one pass. A file with several passes is decoded whole.
-bool isBaselineJpeg(const QByteArray& head)
+/// Bytes a pixel that the decoder keeps of a JPEG file until its last pass: none if there is only
+/// one, otherwise all coefficients of all components.
+int bytesUntilLastPass(const QByteArray& head)
 {
-    qsizetype at = 2;
-    while (at + 4 <= head.size() && quint8(head[at]) == 0xff) {
-        const quint8 marker = head[at + 1];
-        if (marker == 0xc0 || marker == 0xc1)
-            return true;
-        if (marker == 0xc2 || marker == 0xda)
-            return false;
+    constexpr int Unknown = 8; // four components at full resolution
+    const auto byte = [&head](qsizetype at) { return at < head.size() ? quint8(head[at]) : 0; };
+    int components = 0;
+    int coefficients = Unknown;
+    bool isSequential = false;
+    for (qsizetype at = 2; at + 4 <= head.size() && byte(at) == 0xff;) {
+        const int marker = byte(at + 1);
+        if (marker == 0xda)
+            return isSequential && byte(at + 4) == components ? 0 : coefficients;
+        if (marker >= 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8 &&
+            marker != 0xcc) {
+            isSequential = marker == 0xc0 || marker == 0xc1;
+            components = byte(at + 9);
+            int samples = 0;
+            int most = 1;
+            for (int i = 0; i < components; ++i) {
+                const int factors = byte(at + 11 + 3 * i);
+                samples += (factors >> 4) * (factors & 15);
+                most = qMax(most, (factors >> 4) * (factors & 15));
+            }
+            coefficients = 2 * samples / most + 1;
+        }
         at += 2 + qFromBigEndian<quint16>(head.constData() + at + 2);
     }
-    return false;
+    return Unknown;
 }
 
 /// Whether a PNG file has 8 bits a colour, no palette and no interlacing.
@@ -56,13 +72,54 @@ bool isPlainPng(const QByteArray& head)
     return head.size() > 28 && head[24] == 8 && (head[25] == 2 || head[25] == 6) && head[28] == 0;
 }
 
-/// Whether the reader can scale the picture down without decoding it whole.
-bool scalesWhileReading(QImageReader& reader)
+/// Bytes a pixel that decoding takes at most beside a result of reduced size.
+int bytesPerPixel(QImageReader& reader)
 {
     constexpr qint64 HeadSize = 262'144; // embedded thumbnails come first
     if (reader.format() == "jpeg")
-        return isBaselineJpeg(reader.device()->peek(HeadSize));
-    return reader.format() == "png" && isPlainPng(reader.device()->peek(32));
+        return bytesUntilLastPass(reader.device()->peek(HeadSize));
+    if (reader.format() == "png" && isPlainPng(reader.device()->peek(32)))
+        return 0;
+    const QImage::Format format = reader.imageFormat();
+    const int bytes = format == QImage::Format_Invalid
+                          ? 4
+                          : (QImage::toPixelFormat(format).bitsPerPixel() + 7) / 8;
+    // Scaling works on 4 bytes a pixel, and an animation keeps the frame before.
+    return reader.supportsAnimation() ? 2 * bytes : bytes + (bytes < 4 ? 4 : 0);
+}
+
+/// Size of the picture to be read. The first frame of an animation may be smaller than the canvas.
+QSize sizeOf(QImageReader& reader)
+{
+    QSize canvas;
+    if (reader.format() == "gif") {
+        const QByteArray head = reader.device()->peek(10);
+        if (head.size() == 10)
+            canvas = QSize(qFromLittleEndian<quint16>(head.constData() + 6),
+                           qFromLittleEndian<quint16>(head.constData() + 8));
+    }
+    return reader.size().expandedTo(canvas);
+}
+
+/// Sets the size at which the picture on the device is read. False if it takes too much memory.
+bool limitSize(QImageReader& reader)
+{
+    if (!isRaster(reader.format()))
+        return false;
+    const int bytes = bytesPerPixel(reader); // first, as reading the size moves the device
+    const QSize size = sizeOf(reader);
+    const qint64 pixels = qint64{size.width()} * size.height();
+    if (!size.isValid() || pixels > ImageFile::MaxSourcePixels ||
+        pixels * bytes > ImageFile::MaxDecodedSize)
+        return false;
+    // JPEG can be scaled by powers of two without a larger picture in between.
+    int divisor = 1;
+    while (pixels / (qint64{divisor} * divisor) > ImageFile::MaxPixels)
+        divisor *= 2;
+    if (divisor > 1)
+        reader.setScaledSize(
+            QSize(size.width() / divisor, size.height() / divisor).expandedTo({1, 1}));
+    return true;
 }
 
 /// Opens a picture of acceptable size and sets the size at which it is read. False if there is
@@ -78,27 +135,7 @@ bool prepare(QImageReader& reader, QFile& file)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     reader.setDevice(&file);
-    const bool scales = scalesWhileReading(reader);
-    if (!isRaster(reader.format()))
-        return false;
-
-    const QSize size = reader.size();
-    const qint64 pixels = qint64{size.width()} * size.height();
-    // JPEG can be scaled by powers of two without a larger picture in between.
-    int divisor = 1;
-    while (pixels / (qint64{divisor} * divisor) > ImageFile::MaxPixels)
-        divisor *= 2;
-    const QImage::Format format = reader.imageFormat();
-    const int bits =
-        format == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(format).bitsPerPixel();
-    const bool isReadWhole = divisor == 1 || !scales;
-    if (pixels > ImageFile::MaxSourcePixels ||
-        (isReadWhole && pixels * bits / 8 > ImageFile::MaxDecodedSize))
-        return false;
-    if (divisor > 1)
-        reader.setScaledSize(
-            QSize(size.width() / divisor, size.height() / divisor).expandedTo({1, 1}));
-    return true;
+    return limitSize(reader);
 }
 
 bool isNamedJpeg(const QString& path)
@@ -144,6 +181,14 @@ bool isPicture(const QString& path)
     QFile file(path);
     QImageReader reader;
     return prepare(reader, file) && reader.canRead();
+}
+
+bool isAffordable(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    return reader.format().isEmpty() || limitSize(reader);
 }
 
 Encoded encode(const QString& path)

@@ -14,8 +14,9 @@ namespace ImageFile
 inline constexpr qint64 MaxPixels = 4'000'000;
 /// A picture with more pixels is refused, as reading it takes many seconds.
 inline constexpr qint64 MaxSourcePixels = 256'000'000;
-/// Most memory that decoding a picture may take, in bytes. Large pictures stay below it if their
-/// format can be scaled down while it is read: most JPEG files, and PNG files with 8 bits a colour.
+/// Most memory that decoding a picture may take beside the result, in bytes. Large pictures stay
+/// below it if their format can be scaled down while it is read: JPEG files with the data in one
+/// pass, and PNG files with 8 bits a colour.
 inline constexpr qint64 MaxDecodedSize = 48LL * 1024 * 1024;
 /// Largest file that is opened as a picture, in bytes.
 inline constexpr qint64 MaxFileSize = 128LL * 1024 * 1024;
@@ -31,6 +32,10 @@ inline constexpr qint64 MaxFileSize = 128LL * 1024 * 1024;
 /// Whether the file at a normalised path is a picture that encode() accepts, as far as its head
 /// shows.
 [[nodiscard]] bool isPicture(const QString& path);
+
+/// Whether a picture may be decoded, as far as its head shows: false for one that encode() would
+/// refuse for its size, and for a drawing. True for bytes that are no picture, which cost nothing.
+[[nodiscard]] bool isAffordable(QByteArray bytes);
 
 /// Result of encode().
 struct Encoded {

@@ -23,6 +23,7 @@ step "Ratios"
 "$bin/bench_logging"
 "$bin/bench_message"
 "$bin/bench_devicecheck"
+"$bin/bench_picture"
 "$bin/bench_video"
 dbus-run-session -- "$bin/bench_program"
 

@@ -79,6 +79,7 @@ private slots:
     void appliesTheOrientation();
     void limitsTheMemoryOfLargePictures_data();
     void limitsTheMemoryOfLargePictures();
+    void knowsWhatIsDecodedWhole();
 
 private:
     QTemporaryDir m_folder;
@@ -192,6 +193,24 @@ void tst_ImageFile::limitsTheMemoryOfLargePictures()
         QCOMPARE_LE(qint64{written.width()} * written.height(), ImageFile::MaxPixels);
         QCOMPARE(written.width(), size.width() / 2);
     }
+}
+
+void tst_ImageFile::knowsWhatIsDecodedWhole()
+{
+    // An animation of 3500 x 3500 and 500 x 500 points, with a frame of one.
+    const auto gif = [](const char* side) {
+        return QByteArray::fromHex("474946383961"_ba + side + side +
+                                   "800000000000ffffff2c00000000010001000002024401003b");
+    };
+    QVERIFY(!ImageFile::isAffordable(gif("ac0d")));
+    QVERIFY(ImageFile::isAffordable(gif("f401")));
+
+    // A sequential JPEG file of 12,000 x 12,000 points, with all components in one pass or not.
+    const QByteArray frame = "ffd8ffc0001108 2ee02ee0 03 012200 021100 031100 "_ba;
+    QVERIFY(
+        ImageFile::isAffordable(QByteArray::fromHex(frame + "ffda000c 03 0100 0200 0300 003f00")));
+    QVERIFY(!ImageFile::isAffordable(QByteArray::fromHex(frame + "ffda0008 01 0100 003f00")));
+    QVERIFY(ImageFile::isAffordable("no picture"_ba));
 }
 
 QTEST_GUILESS_MAIN(tst_ImageFile)
