@@ -1,28 +1,13 @@
 #include "account/ReplyBody.h"
 
+#include "account/AccountText.h"
+
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
-
-// In characters.
-constexpr qsizetype LongestMessage = 500;
-constexpr qsizetype LongestToken = 8192;
-constexpr qsizetype LongestText = 256;
-
-QString cleaned(const QString& text, qsizetype longest)
-{
-    QString clean = text.left(longest);
-    if (!clean.isEmpty() && clean.back().isHighSurrogate())
-        clean.chop(1);
-    for (QChar& character : clean) {
-        if (character.category() == QChar::Other_Control)
-            character = u' ';
-    }
-    return clean;
-}
 
 /// Changes only what needs it, since the object may hold a large picture.
 void clean(QJsonObject& object)
@@ -32,10 +17,9 @@ void clean(QJsonObject& object)
             QJsonObject inner = member->toObject();
             clean(inner);
             *member = inner;
-        } else if (member->isString() && member.key() != "picture"_L1) {
+        } else if (member->isString()) {
             const QString text = member->toString();
-            const QString clean =
-                cleaned(text, member.key() == "token"_L1 ? LongestToken : LongestText);
+            const QString clean = AccountText::value(member.key(), text);
             if (clean != text)
                 *member = clean;
         }
@@ -65,7 +49,7 @@ ReplyBody decodeReplyBody(const QByteArray& body)
         success != reply.object.constEnd() ? success->toBool() : reply.object.contains("userId"_L1);
     reply.kind = succeeded ? ReplyBody::Kind::Success : ReplyBody::Kind::Refused;
     if (const auto text = reply.object.constFind("message"_L1); text != reply.object.constEnd())
-        reply.message = cleaned(text->toString(), LongestMessage);
+        reply.message = AccountText::message(text->toString());
     clean(reply.object);
     return reply;
 }

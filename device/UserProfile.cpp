@@ -1,5 +1,7 @@
 #include "device/UserProfile.h"
 
+#include "account/AccountText.h"
+#include "account/ImageFile.h"
 #include "persistence/Keys.h"
 #include "persistence/UserSettings.h"
 
@@ -24,7 +26,8 @@ void UserProfile::restore(UserSettings& store)
 {
     m_store = &store;
     const auto read = [&store](QLatin1StringView key) {
-        return store.getUserData(key, QString()).toString();
+        // A version that did not limit the texts of the service may have stored them.
+        return AccountText::value(key.toString(), store.getUserData(key, QString()).toString());
     };
     setEmail(read(keys::user::Email));
     setFirstName(read(keys::user::FirstName));
@@ -36,7 +39,8 @@ void UserProfile::restore(UserSettings& store)
     adoptPicture(read(keys::user::Picture));
     if (!email().isEmpty()) {
         setLogin(true);
-    } else if (!token().isEmpty() || !userId().isEmpty() || !rawPicture().isEmpty()) {
+    } else if (!(token() + userId() + rawPicture() + firstName() + lastName() + company() + title())
+                    .isEmpty()) {
         // A version that wrote value by value could be killed within a sign-in.
         clear();
         setUserId({});
@@ -132,7 +136,12 @@ void UserProfile::adoptPicture(const QString& picture)
     if (picture.isEmpty())
         return;
     m_rawPicture = picture;
-    setUserImage("data:image/png;base64,"_L1 + picture);
+    if (ImageFile::isAffordable(QByteArray::fromBase64(picture.toLatin1()))) {
+        setUserImage("data:image/png;base64,"_L1 + picture);
+        return;
+    }
+    Log::error("DeviceControl::setUserImage") << "the picture is too large to be shown";
+    setUserImage(keys::DefaultUserImage);
 }
 
 void UserProfile::adoptAndSavePicture(const QJsonObject& user)

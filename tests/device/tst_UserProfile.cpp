@@ -37,6 +37,7 @@ private slots:
     void aSignInSurvivesARestart();
     void aSignOutClearsTheUserAndDropsLateWrites();
     void valuesWithoutAnOwnerAreCleared();
+    void whatAnEarlierVersionStoredIsBounded();
     void aMalformedSignInKeepsTheProfile();
 };
 
@@ -97,12 +98,41 @@ void tst_UserProfile::aSignOutClearsTheUserAndDropsLateWrites()
 /// As a version that wrote the values one by one left them when it was killed.
 void tst_UserProfile::valuesWithoutAnOwnerAreCleared()
 {
+    const QMap<QString, QVariant> torn[] = {
+        {{u"token"_s, u"T"_s}, {u"userId"_s, u"U"_s}, {u"picture"_s, u"P"_s}},
+        {{u"firstName"_s, u"Ann"_s}},
+    };
+    for (const auto& values : torn) {
+        MemorySettings store;
+        store.values = values;
+        UserProfile profile;
+        profile.restore(store);
+        // Without a token and a user id, nothing is asked of the service.
+        QCOMPARE(profile.token() + profile.userId(), QString());
+        QCOMPARE(profile.rawPicture() + profile.firstName(), QString());
+        QVERIFY(!profile.login() && store.values.isEmpty());
+    }
+}
+
+void tst_UserProfile::whatAnEarlierVersionStoredIsBounded()
+{
+    // The head of a picture of 50,000 x 50,000 points.
+    const QString picture =
+        QString::fromLatin1(QByteArray::fromHex("424d36000000000000003600000028000000"
+                                                "50c3000050c3000001002000000000000000"
+                                                "0000000000000000000000000000000000000000")
+                                .toBase64());
     MemorySettings store;
-    store.values = {{u"token"_s, u"T"_s}, {u"userId"_s, u"U"_s}, {u"picture"_s, u"P"_s}};
+    store.values = {{u"email"_s, u"a@b.c"_s},
+                    {u"firstName"_s, QString(1'000'000, u'a')},
+                    {u"title"_s, u"a\nb"_s},
+                    {u"picture"_s, picture}};
     UserProfile profile;
     profile.restore(store);
-    QCOMPARE(profile.token() + profile.userId() + profile.rawPicture(), QString());
-    QVERIFY(!profile.login() && store.values.isEmpty());
+    QCOMPARE(profile.firstName().size(), 256);
+    QCOMPARE(profile.title(), u"a b"_s);
+    QCOMPARE(profile.userImage(), u"qrc:/images/user_84x84.png"_s);
+    QCOMPARE(profile.rawPicture(), picture);
 }
 
 void tst_UserProfile::aMalformedSignInKeepsTheProfile()
