@@ -30,6 +30,7 @@ private slots:
     void cleanup();
     void keepsValues_data();
     void keepsValues();
+    void readingCreatesNoKey();
     void sharesAFileWithOtherPrograms();
     void warnsOfADamagedFile();
     void keepsTheValuesOfConcurrentWriters();
@@ -80,6 +81,16 @@ void tst_Registry::keepsValues()
         return;
     const QSettings file(m_file, QSettings::IniFormat);
     QCOMPARE(file.value(IniKey + name).toString(), value.toString());
+}
+
+void tst_Registry::readingCreatesNoKey()
+{
+    QVERIFY(!platform::readRegistry(Key, u"DisplayIcon"_s).isValid());
+    QVERIFY(!QFileInfo::exists(m_file));
+    if (IsWindows) {
+        const QSettings parent(u"HKEY_CURRENT_USER\\Software"_s, QSettings::NativeFormat);
+        QVERIFY(!parent.childGroups().contains(u"VORN test"_s));
+    }
 }
 
 void tst_Registry::sharesAFileWithOtherPrograms()
