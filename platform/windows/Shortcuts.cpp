@@ -4,6 +4,7 @@
 #include "platform/windows/SystemTools.h"
 
 #include <QProcess>
+#include <QProcessEnvironment>
 
 using namespace Qt::StringLiterals;
 
@@ -12,13 +13,16 @@ namespace platform
 
 ShortcutTarget shortcutTarget(const QString& path, std::chrono::milliseconds patience)
 {
-    // A quote inside a single-quoted PowerShell string is doubled.
-    QString quotedPath = path;
-    quotedPath.replace(u'\'', u"''"_s);
+    // In the script the path would need quotes, and PowerShell ends a quoted string at five kinds
+    // of quotation marks, which folder names may contain.
+    const QString variable = u"VORN_SHORTCUT"_s;
     const QString script =
-        u"(New-Object -ComObject WScript.Shell).CreateShortcut('%1').TargetPath"_s.arg(quotedPath);
+        u"(New-Object -ComObject WScript.Shell).CreateShortcut($env:%1).TargetPath"_s.arg(variable);
 
     QProcess process;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(variable, path);
+    process.setProcessEnvironment(environment);
     ShortcutTarget result;
     result.finished = runCommand(process, systemTool(u"WindowsPowerShell\\v1.0\\powershell.exe"_s),
                                  {u"-Command"_s, script}, patience);
