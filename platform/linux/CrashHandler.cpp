@@ -2,7 +2,7 @@
 
 #include "platform/linux/AlternateStack.h"
 #include "platform/linux/CrashReport.h"
-#include "platform/linux/MemoryGuard.h"
+#include "platform/linux/GuardedAccess.h"
 #include "platform/linux/ProgramSymbols.h"
 #include "platform/linux/SignalChain.h"
 

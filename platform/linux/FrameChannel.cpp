@@ -1,7 +1,7 @@
 #include "platform/FrameChannel.h"
 
+#include "platform/MemoryGuard.h"
 #include "platform/StreamCopy.h"
-#include "platform/linux/MemoryGuard.h"
 
 #include <algorithm>
 #include <atomic>

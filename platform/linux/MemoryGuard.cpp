@@ -1,5 +1,6 @@
-#include "platform/linux/MemoryGuard.h"
+#include "platform/MemoryGuard.h"
 
+#include "platform/linux/GuardedAccess.h"
 #include "platform/linux/SignalChain.h"
 
 #include <atomic>

@@ -1,5 +1,6 @@
 #include "platform/FrameChannel.h"
 
+#include "platform/MemoryGuard.h"
 #include "platform/StreamCopy.h"
 
 #include <qt_windows.h>
@@ -37,6 +38,7 @@ bool isCommitted(const void* view, std::size_t size)
 
 /// Named file mapping and auto-reset event. Neither can shrink, and a restarted writer opens the
 /// same objects as long as this process has them open, so nothing has to be checked between frames.
+/// A mapping of a file, however, fails where the file can no longer be read, so copies are guarded.
 class KernelFrameChannel final : public FrameChannel
 {
 public:
@@ -46,6 +48,7 @@ public:
         , m_viewSize(viewSize)
         , m_interrupt(CreateEventW(nullptr, FALSE, FALSE, nullptr))
     {
+        platform::installMemoryGuard();
     }
 
     OpenResult open() override
@@ -100,8 +103,8 @@ public:
     {
         if (!isOpen() || offset > m_viewSize || length > m_viewSize - offset)
             return false;
-        platform::streamCopy(target, static_cast<const std::byte*>(m_view.get()) + offset, length);
-        return true;
+        const auto* const source = static_cast<const std::byte*>(m_view.get()) + offset;
+        return platform::guarded([=] { platform::streamCopy(target, source, length); });
     }
 
     void interrupt() override { SetEvent(m_interrupt.get()); }
