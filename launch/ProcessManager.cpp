@@ -10,7 +10,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QThread>
 #include <QUrl>
@@ -49,6 +48,11 @@ bool isMainThread()
     return application && QThread::currentThread() == application->thread();
 }
 
+bool mustEnd(const std::stop_token& stop)
+{
+    return stop.stop_requested() || QThread::currentThread()->isInterruptionRequested();
+}
+
 } // namespace
 
 ProcessManager::ProcessManager(QString googleMeetingUrl)
@@ -60,7 +64,9 @@ bool ProcessManager::startProcess(const QString& path)
 {
     constexpr auto Function = "ProcessManager::startProcess";
     Log::info(Function) << "path:" << path;
-    if (!QProcess::startDetached(path, {})) {
+    if (!platform::startDetached(path, {})) {
+        if (mustEnd({}))
+            return false; // nothing failed, the program ends
         Log::error(Function) << "started process failed:";
         return false;
     }
@@ -68,14 +74,17 @@ bool ProcessManager::startProcess(const QString& path)
     return true;
 }
 
-bool ProcessManager::startProcess(const QString& name, const QStringList& arguments)
+bool ProcessManager::startProcess(const QString& name, const QStringList& arguments,
+                                  const std::stop_token& stop)
 {
     constexpr auto Function = "ProcessManager::startProcess";
     const bool started =
-        QProcess::startDetached(platform::programBesideApplication(name), arguments);
+        platform::startDetached(platform::programBesideApplication(name), arguments, stop);
     const QString call = name + u' ' + arguments.value(0) + u' ' + arguments.value(1);
     if (started)
         Log::info(Function) << "started process success, " << call;
+    else if (mustEnd(stop))
+        Log::info(Function) << "start " << name << " interrupted";
     else
         Log::error(Function) << "started process failed, " << call;
     return started;
@@ -117,7 +126,7 @@ void ProcessManager::keepProcessAlive(const QString& name, const std::stop_token
         return;
     }
     if (!outcome.running)
-        startProcess(name, {QString(), QString()});
+        startProcess(name, {QString(), QString()}, stop);
 }
 
 bool ProcessManager::readPathFromRegist(const QString& key, const QString& valueName, QString& path)
@@ -189,7 +198,7 @@ bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
     constexpr auto Function = "ProcessManager::getShortcutTarget";
     const auto result = platform::shortcutTarget(shortcut, ShortcutPatience);
     const bool succeeded = result.finished && result.exitCode == 0;
-    if (!succeeded && QThread::currentThread()->isInterruptionRequested())
+    if (!succeeded && mustEnd({}))
         return false; // nothing failed, the program ends
     if (!result.finished) {
         Log::error(Function) << "Process failed or timeout:" << result.processError;

@@ -21,7 +21,8 @@ public:
 
     /// Starts the executable at this path, detached, without arguments.
     static bool startProcess(const QString& path);
-    bool startProcess(const QString& name, const QStringList& arguments) override;
+    bool startProcess(const QString& name, const QStringList& arguments,
+                      const std::stop_token& stop) override;
     /// At most 30 s, on the main thread 1.5 s.
     bool killProcess(const QString& name, const std::stop_token& stop) override;
     /// At most 30 s.

@@ -19,5 +19,6 @@ public:
     virtual void keepProcessAlive(const QString& name, const std::stop_token& stop) = 0;
     /// Starts the program of this name beside the application, detached. The log names the first
     /// two arguments, so callers pass at least two.
-    virtual bool startProcess(const QString& name, const QStringList& arguments) = 0;
+    virtual bool startProcess(const QString& name, const QStringList& arguments,
+                              const std::stop_token& stop) = 0;
 };

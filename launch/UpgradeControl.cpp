@@ -106,7 +106,7 @@ void UpgradeControl::upgrade(const std::stop_token& stop)
     if (waitForStop(stop, m_pauseAfterKill))
         return;
     Log::info(StartFunction) << "start:" << updaterName();
-    m_programs.startProcess(updaterName(), {u"update"_s, m_executablePath});
+    m_programs.startProcess(updaterName(), {u"update"_s, m_executablePath}, stop);
 }
 
 void UpgradeControl::giveUp(const std::stop_token& stop)

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <stop_token>
 
 /// The processes of this computer, found by image name ("Zoom.exe"). Any thread; the calls block
-/// for at most the given patience. On Windows they wait for the system's own tools, and end
-/// unfinished when the stop is requested or the calling QThread is interrupted.
+/// for at most the given patience. On Windows they wait for the system's own tools or for the user,
+/// and end unfinished when the stop is requested or the calling QThread is interrupted.
 namespace platform
 {
 
@@ -28,5 +29,11 @@ struct RunningOutcome {
 
 [[nodiscard]] RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds patience,
                                             const std::stop_token& stop = {});
+
+/// Starts a program that outlives this one; false if it did not start. Windows asks the user first
+/// when the program needs more rights, and there is no limit to that wait. A call that a stop
+/// request ends before the answer returns false, and the program starts if the user then agrees.
+[[nodiscard]] bool startDetached(const QString& program, const QStringList& arguments,
+                                 const std::stop_token& stop = {});
 
 } // namespace platform

@@ -103,7 +103,8 @@ public:
     {
         note(u"keep "_s + name);
     }
-    bool startProcess(const QString& name, const QStringList& arguments) override
+    bool startProcess(const QString& name, const QStringList& arguments,
+                      const std::stop_token&) override
     {
         return note(u"start "_s + name + u' ' + arguments.join(u' '));
     }

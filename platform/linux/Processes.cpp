@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QFile>
+#include <QProcess>
 #include <QStringList>
 
 #include <array>
@@ -234,6 +235,11 @@ RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds,
     const std::vector<pid_t> found = processesNamed(image);
     s_lastFound = found.empty() ? 0 : found.front();
     return {true, !found.empty()};
+}
+
+bool startDetached(const QString& program, const QStringList& arguments, const std::stop_token&)
+{
+    return QProcess::startDetached(program, arguments);
 }
 
 } // namespace platform

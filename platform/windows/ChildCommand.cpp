@@ -4,10 +4,19 @@
 #include <QProcess>
 #include <QThread>
 
+#include <future>
+#include <thread>
+#include <utility>
+
 namespace
 {
 
 constexpr int SliceMs = 50; // longest delay until a stop request is noticed
+
+bool mustEnd(const std::stop_token& stop)
+{
+    return stop.stop_requested() || QThread::currentThread()->isInterruptionRequested();
+}
 
 } // namespace
 
@@ -23,8 +32,7 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
     while (!process.waitForFinished(SliceMs)) {
         if (process.state() == QProcess::NotRunning)
             break;
-        if (deadline.hasExpired() || stop.stop_requested() ||
-            QThread::currentThread()->isInterruptionRequested()) {
+        if (deadline.hasExpired() || mustEnd(stop)) {
             if (unfinished == Unfinished::Kill)
                 process.kill();
             return false;
@@ -32,6 +40,18 @@ bool runCommand(QProcess& process, const QString& program, const QStringList& ar
     }
     return process.error() == QProcess::UnknownError ||
            process.error() == QProcess::Timedout; // set by a slice that ended before the tool did
+}
+
+bool runAside(std::function<bool()> call, const std::stop_token& stop)
+{
+    std::packaged_task<bool()> task(std::move(call));
+    auto result = task.get_future();
+    std::thread(std::move(task)).detach();
+    while (result.wait_for(std::chrono::milliseconds(SliceMs)) != std::future_status::ready) {
+        if (mustEnd(stop))
+            return false;
+    }
+    return result.get();
 }
 
 void leaveRunning(std::unique_ptr<QProcess> process)

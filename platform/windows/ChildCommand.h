@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <stop_token>
 
@@ -20,6 +21,11 @@ enum class Unfinished { Kill, LeaveRunning };
 bool runCommand(QProcess& process, const QString& program, const QStringList& arguments,
                 std::chrono::milliseconds patience, const std::stop_token& stop = {},
                 Unfinished unfinished = Unfinished::Kill);
+
+/// Runs a call of the system that nothing can interrupt, on a thread of its own, and waits for its
+/// result. False also when the stop was requested or the calling QThread interrupted meanwhile. The
+/// thread then ends with the call or with the process, so `call` owns what it uses.
+bool runAside(std::function<bool()> call, const std::stop_token& stop);
 
 /// Lets a tool that still runs finish its work alone. The destructor of QProcess would kill it.
 void leaveRunning(std::unique_ptr<QProcess> process);

@@ -38,4 +38,11 @@ RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds pat
     return {true, QString::fromUtf8(process.readAll()).contains(name)};
 }
 
+bool startDetached(const QString& program, const QStringList& arguments,
+                   const std::stop_token& stop)
+{
+    return runAside([program, arguments] { return QProcess::startDetached(program, arguments); },
+                    stop);
+}
+
 } // namespace platform

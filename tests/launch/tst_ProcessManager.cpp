@@ -138,13 +138,13 @@ void tst_ProcessManager::startsAProgramBesideTheApplication()
     const QString beside = install(QCoreApplication::applicationDirPath() + u'/' + name);
     install(u"bin/"_s + name + "-in-path"_L1);
 
-    const bool started = m_programs.startProcess(name + ".exe"_L1, {u"update"_s, u"/x y"_s});
+    const bool started = m_programs.startProcess(name + ".exe"_L1, {u"update"_s, u"/x y"_s}, {});
     QVERIFY(started);
     QTRY_COMPARE(calls(), QStringList{name + " 2 [update] [/x y]"_L1});
     QVERIFY(QFile::remove(beside));
-    QVERIFY(m_programs.startProcess(name + "-in-path.exe"_L1, {u"a"_s, QString()}));
+    QVERIFY(m_programs.startProcess(name + "-in-path.exe"_L1, {u"a"_s, QString()}, {}));
     QTRY_COMPARE(calls().value(1), name + "-in-path 2 [a] []"_L1);
-    QVERIFY(!m_programs.startProcess(name + ".exe"_L1, {u"a"_s, u"b"_s}));
+    QVERIFY(!m_programs.startProcess(name + ".exe"_L1, {u"a"_s, u"b"_s}, {}));
 
     const QString function = u" ProcessManager::startProcess started process "_s;
     QCOMPARE(m_log->take(),

@@ -29,7 +29,8 @@ public:
         ++watchdogCalls;
         note('W', name);
     }
-    bool startProcess(const QString& name, const QStringList& arguments) override
+    bool startProcess(const QString& name, const QStringList& arguments,
+                      const std::stop_token&) override
     {
         return note(arguments == QStringList{u"update"_s, u"/opt/VORNApp"_s} ? 'S' : '?', name);
     }
