@@ -1,9 +1,12 @@
 #include "platform/DeviceEnumeration.h"
 #include "platform/Folders.h"
+#include "platform/MemoryGuard.h"
 #include "platform/Processes.h"
 #include "platform/Shortcuts.h"
 #include "platform/ThreadName.h"
+#include "platform/TrayKeys.h"
 #include "platform/VersionResource.h"
+#include "platform/windows/ChildCommand.h"
 #include "rig/HelperProcess.h"
 
 #include <QDir>
@@ -13,7 +16,10 @@
 #include <qt_windows.h>
 
 #include <objbase.h>
+#include <shellapi.h>
 #include <shlobj.h>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -28,7 +34,10 @@ private slots:
     void readsVersionResources();
     void listsDevices();
     void resolvesShortcuts();
+    void leavesAnUnansweredQuestion();
     void namesThreads();
+    void leavesAnAccessToALostPage();
+    void tellsKeysFromClicksOnTheTrayIcon();
 };
 
 namespace
@@ -112,7 +121,7 @@ void tst_WindowsServices::resolvesShortcuts()
 
     const QTemporaryDir folder;
     const QString target = HelperProcess::path(u"platform_helper"_s);
-    const QString shortcut = folder.filePath(u"it's a program.lnk"_s);
+    const QString shortcut = folder.filePath(u"it's the children\u2019s $program.lnk"_s);
     QVERIFY(makeShortcut(shortcut, target));
     if (isWine())
         QSKIP("Wine has no PowerShell to read a shortcut with.");
@@ -122,12 +131,83 @@ void tst_WindowsServices::resolvesShortcuts()
     QCOMPARE(QDir::fromNativeSeparators(result.output).toLower(), target.toLower());
 }
 
+void tst_WindowsServices::leavesAnUnansweredQuestion()
+{
+    // The call stands for a start that waits for the user's permission.
+    std::promise<void> answer;
+    std::stop_source stop;
+    stop.request_stop();
+    QVERIFY(!platform::runAside(
+        [answered = answer.get_future().share()] { return answered.wait(), true; },
+        stop.get_token()));
+    answer.set_value();
+    QVERIFY(platform::runAside([] { return true; }, {}));
+}
+
 void tst_WindowsServices::namesThreads()
 {
     platform::nameCurrentThread("a thread");
     ULONG reserved = 0;
     QVERIFY(SetThreadStackGuarantee(&reserved));
     QVERIFY(reserved >= 64 * 1024);
+}
+
+void tst_WindowsServices::leavesAnAccessToALostPage()
+{
+    // A page cannot be lost on purpose, so the system's exception for it is raised. A handler that
+    // comes later takes those that nobody has taken.
+    static std::atomic_int s_passedOn = 0;
+    platform::installMemoryGuard();
+    void* const later = AddVectoredExceptionHandler(0, [](EXCEPTION_POINTERS* pointers) -> LONG {
+        if (pointers->ExceptionRecord->ExceptionCode != EXCEPTION_IN_PAGE_ERROR)
+            return EXCEPTION_CONTINUE_SEARCH;
+        ++s_passedOn;
+        return EXCEPTION_CONTINUE_EXECUTION;
+    });
+    const auto losePage = [] { RaiseException(EXCEPTION_IN_PAGE_ERROR, 0, 0, nullptr); };
+    const auto access = [&](int times) {
+        volatile int lost = 0;
+        for (int i = 0; i < times; ++i) {
+            bool beyond = false;
+            if (!platform::guarded([&] { losePage(), beyond = true; }) && !beyond)
+                lost = lost + 1;
+        }
+        return int(lost);
+    };
+    int lostElsewhere = 0;
+    std::thread([&] { lostElsewhere = access(1000); }).join();
+    QCOMPARE(lostElsewhere, 1000);
+    QCOMPARE(access(3), 3);
+    QCOMPARE(s_passedOn.load(), 0);
+    QVERIFY(platform::guarded([] {}));
+    losePage();
+    QCOMPARE(s_passedOn.load(), 1);
+    RemoveVectoredExceptionHandler(later);
+}
+
+void tst_WindowsServices::tellsKeysFromClicksOnTheTrayIcon()
+{
+    static QList<bool> s_keys; // answers during messages, as Qt's window would ask
+    WNDCLASSW windowClass{};
+    windowClass.lpszClassName = L"vorn test";
+    windowClass.lpfnWndProc = [](HWND window, UINT message, WPARAM place, LPARAM what) {
+        if (message == WM_APP + 101)
+            s_keys << platform::isTrayKeyPress();
+        return DefWindowProcW(window, message, place, what);
+    };
+    RegisterClassW(&windowClass);
+    for (int i = 0; i < 2; ++i) { // the window of an icon that is hidden and shown again is another
+        const HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"QTrayIconMessageWindow",
+                                            0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        QVERIFY(window);
+        platform::watchTrayKeys();
+        platform::watchTrayKeys();
+        for (const LPARAM what : {NIN_SELECT, NIN_KEYSELECT, WM_LBUTTONDBLCLK})
+            SendMessageW(window, WM_APP + 101, 0, what);
+        QVERIFY(!platform::isTrayKeyPress());
+        DestroyWindow(window);
+    }
+    QCOMPARE(s_keys, (QList{false, true, false, false, true, false}));
 }
 
 QTEST_GUILESS_MAIN(tst_WindowsServices)
