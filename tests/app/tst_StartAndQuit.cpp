@@ -194,6 +194,7 @@ void tst_StartAndQuit::logsItsLifeInOrder()
         "[TaskQueue::TaskQueue]TaskQueue",
         "[UdpClient::UdpClient]UdpClient",
         "[UdpClient::bind]bound to port:49175",
+        "/libPortalHub.so, version:unknown",
         "[main]VORNApp quit!!!",
         "[DeviceControl::~DeviceControl]~DeviceControl",
         "[UdpClient::~UdpClient]~UdpClient",

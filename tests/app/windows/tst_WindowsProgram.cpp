@@ -145,6 +145,7 @@ void tst_WindowsProgram::answersAndQuitsAlsoAfterACrash()
     // The order of the log is the same as on Linux; what the system answers is not.
     QVERIFY(m_log.contains("[main]logpath:C:\\ProgramData\\VORNApp"));
     QVERIFY(m_log.contains("[main]file version:" VORN_VERSION));
+    QVERIFY(m_log.contains("\\PortalHub.dll, version:" VORN_VERSION));
     QCOMPARE(m_log.count("]thread start"), 3);
     QCOMPARE(m_log.count("]thread end"), 3);
 }
