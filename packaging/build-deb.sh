@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # ./packaging/build-deb.sh [build folder] [cmake argument]...   builds the Debian package and that of its symbols.
 #
-# The packages are left in the build folder, by default build/package. Equal sources give equal packages:
-# the time stamps in it are that of the last commit, or SOURCE_DATE_EPOCH. For a real display pass
-# -DVORN_PORTALHUB_LIBRARY=<library of the display's maker>.
+# The packages and their SHA256SUMS are left in the build folder, by default build/package. Equal sources
+# give equal packages: the time stamps in them are that of the last commit, or SOURCE_DATE_EPOCH. For a real
+# display pass -DVORN_PORTALHUB_LIBRARY=<library of the display's maker>.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
 case "${1:-}" in
@@ -41,4 +41,5 @@ find "$symbols/root" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
 name=$(basename "$folder"/vornapp-dbgsym_*.ddeb .ddeb)
 dpkg-deb --root-owner-group -b "$symbols/root" "$folder/$name.deb" >>"$folder/cpack.log"
 rm "$folder/$name.ddeb"
+(cd "$folder" && sha256sum ./*.deb | sed 's|\./||' >SHA256SUMS)
 ls -l "$folder"/*.deb

@@ -3,10 +3,19 @@ install(TARGETS VORNApp RUNTIME DESTINATION .)
 install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" DESTINATION licenses RENAME LICENSE.txt)
 install(DIRECTORY "${CMAKE_SOURCE_DIR}/packaging/notices/" DESTINATION licenses)
 install(FILES "${VORN_SBOM}" DESTINATION licenses)
-if(TARGET PortalHub)
+if(VORN_PORTALHUB_LIBRARY)
+  install(FILES "${VORN_PORTALHUB_DLL}" DESTINATION .)
+else()
   install(TARGETS PortalHub RUNTIME DESTINATION .)
 endif()
 install(FILES "${CMAKE_SOURCE_DIR}/config/config.ini" "${CMAKE_SOURCE_DIR}/config/config.json" DESTINATION .)
+# An update keeps an edited config.json, and tells by this copy whether it was edited.
+install(FILES "${CMAKE_SOURCE_DIR}/config/config.json" DESTINATION . RENAME config.default.json)
+if(MSVC)
+  # The C++ runtime, which a bare PC lacks.
+  set(CMAKE_INSTALL_SYSTEM_RUNTIME_DESTINATION .)
+  include(InstallRequiredSystemLibraries)
+endif()
 
 if(CMAKE_CROSSCOMPILING)
   # Qt's deploy tool runs on Windows only.
@@ -34,12 +43,22 @@ endif()
 
 # `ninja installer` makes the installer from the installed files.
 find_program(VORN_MAKENSIS makensis PATHS "$ENV{ProgramFiles\(x86\)}/NSIS")
+set(VORN_SIGN_COMMAND "" CACHE STRING
+    "Command that signs the file which is its last argument; run for everything in the installer and for itself")
 if(VORN_MAKENSIS)
+  if(VORN_PORTALHUB_LIBRARY)
+    set(stand_in OFF)
+  else()
+    set(stand_in ON)
+  endif()
   add_custom_target(installer
     COMMAND "${CMAKE_COMMAND}"
       "-DBUILD=${CMAKE_BINARY_DIR}" "-DSTAGE=${CMAKE_BINARY_DIR}/stage" "-DMAKENSIS=${VORN_MAKENSIS}"
       "-DVERSION=${PROJECT_VERSION}" "-DCONFIG=$<CONFIG>"
       "-DOUTPUT=${CMAKE_BINARY_DIR}/VORNApp-${PROJECT_VERSION}-setup.exe"
+      "-DSTAND_IN=${stand_in}" "-DSIGN=${VORN_SIGN_COMMAND}"
+      "-DSYMBOLS=${CMAKE_BINARY_DIR}/VORNApp-${PROJECT_VERSION}-symbols"
+      "$<$<BOOL:${MINGW}>:-DOBJCOPY=${CMAKE_OBJCOPY}>" "$<$<BOOL:${MINGW}>:-DSTRIP=${CMAKE_STRIP}>"
       -P "${CMAKE_CURRENT_LIST_DIR}/MakeInstaller.cmake"
     DEPENDS VORNApp
     VERBATIM)

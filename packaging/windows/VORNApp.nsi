@@ -11,6 +11,7 @@ Unicode true
 Name "VORNApp"
 OutFile "${OUTPUT}"
 RequestExecutionLevel user
+ManifestDPIAware true
 InstallDir "$LOCALAPPDATA\Programs\VORNApp"
 InstallDirRegKey HKCU "${KEY}" "InstallLocation"
 SetCompressor /SOLID lzma
@@ -22,6 +23,14 @@ VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!ifdef SIGN
+  !finalize '${SIGN} "%1"' = 0
+  !uninstfinalize '${SIGN} "%1"' = 0
+!endif
+
+!ifdef STAND_IN
+  !define MUI_WELCOMEPAGE_TEXT "$(MUI_TEXT_WELCOME_INFO_TEXT)$\r$\n$\r$\n$(HOLDS_STAND_IN)"
+!endif
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -43,6 +52,29 @@ VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
   ${EndIf}
 !macroend
 
+; Sets $0 to 1 if the two files have the same content, otherwise to 0. Uses $1 to $4.
+!macro COMPARE_FILES FIRST SECOND
+  StrCpy $0 0
+  ClearErrors
+  FileOpen $1 "${FIRST}" r
+  FileOpen $2 "${SECOND}" r
+  ${IfNot} ${Errors}
+    StrCpy $0 1
+    ${Do}
+      StrCpy $3 end
+      StrCpy $4 end
+      FileReadByte $1 $3
+      FileReadByte $2 $4
+      ${If} $3 != $4
+        StrCpy $0 0
+        ${ExitDo}
+      ${EndIf}
+    ${LoopUntil} $3 == end
+  ${EndIf}
+  FileClose $1
+  FileClose $2
+!macroend
+
 Section "VORNApp"
   !insertmacro REFUSE_WHILE_RUNNING
   ; Remove an earlier version first, because it may have files that this version lacks.
@@ -51,10 +83,12 @@ Section "VORNApp"
   ${EndIf}
   SetOutPath "$INSTDIR"
   SetOverwrite on
-  File /r /x config.ini "${STAGE}\*.*"
-  ; An update keeps the user's settings.
+  File /r /x config.ini /x config.json "${STAGE}\*.*"
+  ; An update keeps the user's settings, and device rules that the user has edited: the uninstaller above
+  ; removes only others. The rules of this version always lie in config.default.json.
   SetOverwrite off
   File "${STAGE}\config.ini"
+  File "${STAGE}\config.json"
   SetOverwrite on
   WriteUninstaller "$INSTDIR\Uninstall.exe"
   CreateShortCut "$SMPROGRAMS\VORNApp.lnk" "$INSTDIR\VORNApp.exe"
@@ -75,6 +109,10 @@ SectionEnd
 Section "un.VORNApp"
   SectionIn RO
   !insertmacro REFUSE_WHILE_RUNNING
+  !insertmacro COMPARE_FILES "$INSTDIR\config.json" "$INSTDIR\config.default.json"
+  ${If} $0 == 1
+    Delete "$INSTDIR\config.json"
+  ${EndIf}
   !include "${REMOVAL}"
   Delete "$SMPROGRAMS\VORNApp.lnk"
   ; Compiled pages and shaders. The program makes them again when they are missing.
@@ -87,6 +125,7 @@ SectionEnd
 
 Section /o "un.$(USER_DATA)" PURGE
   Delete "$INSTDIR\config.ini"
+  Delete "$INSTDIR\config.json"
   Delete "$INSTDIR\userdata.db"
   Delete "$INSTDIR\userdata.db-journal"
   Delete "$INSTDIR\userdata.db-wal"
