@@ -11,6 +11,7 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using platform::SystemTray;
 
 namespace
 {
@@ -58,9 +59,11 @@ bool WindowManager::isServerAnswering() const
     return probe.waitForConnected(AnswerTimeout);
 }
 
-void WindowManager::createTrayIcon()
+void WindowManager::createTrayIcon(SystemTray::Opening opening)
 {
+    m_opening = opening;
     m_trayIcon = new QSystemTrayIcon(QIcon(u":/images/VORNApp.ico"_s), this);
+    m_trayIcon->setToolTip(u"VORNApp"_s); // also the icon's name in the settings of Windows
     m_trayMenu = std::make_unique<QMenu>();
     //: Entry of the menu of the tray icon: ends the program.
     auto* const quit = new QAction(tr("Quit"), this);
@@ -68,12 +71,14 @@ void WindowManager::createTrayIcon()
     m_trayIcon->setContextMenu(m_trayMenu.get());
     connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this, &WindowManager::onTrayIconActivated);
+    m_trayIcon->show();
 }
 
 void WindowManager::showTrayIcon()
 {
-    if (!m_trayIcon && m_localServer->isListening())
-        createTrayIcon();
+    if (!m_tray && m_localServer->isListening())
+        m_tray = std::make_unique<SystemTray>(
+            [this](SystemTray::Opening opening) { createTrayIcon(opening); });
     if (m_trayIcon)
         m_trayIcon->setVisible(true);
 }
@@ -118,11 +123,15 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
     patience->start(m_peerWait);
 }
 
+/// Some trays report no double click. There one activation opens the window, as is usual on them.
 void WindowManager::onTrayIconActivated(QSystemTrayIcon::ActivationReason reason)
 {
-    if (reason != QSystemTrayIcon::DoubleClick)
+    const bool isActivation =
+        reason == QSystemTrayIcon::Trigger && m_opening == SystemTray::Opening::Activation;
+    if (reason != QSystemTrayIcon::DoubleClick && !isActivation)
         return;
-    Log::info("WindowManager::onTrayIconActivated") << "tray double click";
+    Log::info("WindowManager::onTrayIconActivated")
+        << (isActivation ? "tray activation" : "tray double click");
     emit requestShow(true);
 }
 

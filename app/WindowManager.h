@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/WindowRequests.h"
+#include "platform/SystemTray.h"
 
 #include <QLocalServer>
 #include <QMenu>
@@ -27,8 +28,8 @@ public:
     explicit WindowManager(std::chrono::milliseconds peerWait = std::chrono::seconds(30));
     ~WindowManager() override;
 
-    /// Shows the tray icon; there is none without the server. Not done by the constructor, because
-    /// creating the icon's window would delay the main window.
+    /// Shows the tray icon as soon as there is a tray; there is none without the server. Not done
+    /// by the constructor, because creating the icon's window would delay the main window.
     void showTrayIcon();
     Q_INVOKABLE void hideToTray();
     /// Position of the pointer on the virtual desktop, in device-independent pixels.
@@ -52,11 +53,13 @@ public slots:
 private:
     bool listen();
     bool isServerAnswering() const;
-    void createTrayIcon();
+    void createTrayIcon(platform::SystemTray::Opening opening);
     void reopenAfter(QLocalSocket* socket);
 
     const std::chrono::milliseconds m_peerWait;
     QLocalServer* m_localServer;
     std::unique_ptr<QMenu> m_trayMenu; // the icon does not own its menu
     QSystemTrayIcon* m_trayIcon = nullptr;
+    platform::SystemTray::Opening m_opening = platform::SystemTray::Opening::DoubleClick;
+    std::unique_ptr<platform::SystemTray> m_tray;
 };

@@ -43,6 +43,11 @@ if(NOT MSVC)
     "$<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 endif()
 
+# Programs without a window do not load the libraries that only the windows of others need.
+if(UNIX)
+  add_link_options(LINKER:--as-needed)
+endif()
+
 # Releases for Linux are hardened as Debian's packages are.
 if(UNIX AND NOT VORN_SANITIZE)
   add_compile_options("$<$<NOT:$<CONFIG:Debug>>:-fstack-protector-strong;-Wp,-U_FORTIFY_SOURCE,-D_FORTIFY_SOURCE=2>")

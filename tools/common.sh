@@ -13,7 +13,7 @@ build_packages=(
   cmake ninja-build g++ ccache pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-multimedia-dev
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-  libgl-dev libgoogle-glog-dev fonts-lato
+  libgl-dev libxcb1-dev libgoogle-glog-dev fonts-lato
 )
 run_packages=(
   libqt6sql6-sqlite libgl1-mesa-dri

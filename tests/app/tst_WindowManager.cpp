@@ -79,6 +79,7 @@ void tst_WindowManager::showsTheWindowOnADoubleClickOnly()
     WindowManager manager;
     QSignalSpy shown(&manager, &WindowManager::requestShow);
     manager.showTrayIcon();
+    QTRY_VERIFY(manager.findChild<QSystemTrayIcon*>());
     auto* const icon = manager.findChild<QSystemTrayIcon*>();
     QVERIFY(!icon->icon().isNull());
     for (const auto reason :
