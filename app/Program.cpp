@@ -4,6 +4,7 @@
 #include "app/StandardTasks.h"
 #include "peripherals/DeviceCheck.h"
 #include "persistence/InstalledVersions.h"
+#include "persistence/Keys.h"
 #include "platform/Folders.h"
 
 #include <QDir>
@@ -34,6 +35,11 @@ Program::Program(const QString& executablePath)
                         m_channel);
     m_deviceControl->start(standardTasks(*m_fileInfo, m_interface->database(), *m_programs),
                            m_interface->database(), m_interface->camera());
+    m_windowManager->setCloseExplained(m_fileInfo->closeExplained());
+    QObject::connect(&*m_windowManager, &WindowManager::closeExplained, &*m_deviceControl, [this] {
+        emit m_deviceControl->addTask(
+            keys::task::SaveConfig, {m_fileInfo->configPath(), keys::config::CloseExplained, true});
+    });
     qmlRegisterUncreatableType<CameraControl>("VORNApp", 1, 0, "CameraControl", QString());
 }
 

@@ -140,6 +140,22 @@ void WindowManager::hideToTray()
     Log::info("WindowManager::hideToTray") << "hide to tray";
     showTrayIcon();
     emit requestShow(false);
+    explainClose();
+}
+
+/// Shows how to come back, once. Without a tray, the first close that has one shows it.
+void WindowManager::explainClose()
+{
+    if (m_closeExplained || !m_trayIcon)
+        return;
+    m_closeExplained = true;
+    //: Title of a message of the tray, shown when the window is closed for the first time.
+    const QString title = tr("VORNApp is still running");
+    const QString wayBack = m_opening == SystemTray::Opening::Activation
+                                ? tr("Click its icon in the tray to open the window again.")
+                                : tr("Double-click its icon in the tray to open the window again.");
+    m_trayIcon->showMessage(title, wayBack, m_trayIcon->icon());
+    emit closeExplained();
 }
 
 QPoint WindowManager::cursorPosition() const

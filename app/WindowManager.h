@@ -32,6 +32,8 @@ public:
     /// by the constructor, because creating the icon's window would delay the main window.
     void showTrayIcon();
     Q_INVOKABLE void hideToTray();
+    /// Whether an earlier run has said that the program continues when its window is closed.
+    void setCloseExplained(bool explained) { m_closeExplained = explained; }
     /// Position of the pointer on the virtual desktop, in device-independent pixels.
     Q_INVOKABLE QPoint cursorPosition() const;
 
@@ -45,6 +47,8 @@ signals:
     /// @param show  true: show and raise the main window; false: hide it
     void requestShow(bool show);
     void requestShowCheckRemote(bool show);
+    /// The message was shown, which has to be remembered for later runs.
+    void closeExplained();
 
 public slots:
     void onNewConnection();
@@ -54,6 +58,7 @@ private:
     bool listen();
     bool isServerAnswering() const;
     void createTrayIcon(platform::SystemTray::Opening opening);
+    void explainClose();
     void reopenAfter(QLocalSocket* socket);
 
     const std::chrono::milliseconds m_peerWait;
@@ -62,4 +67,5 @@ private:
     QSystemTrayIcon* m_trayIcon = nullptr;
     platform::SystemTray::Opening m_opening = platform::SystemTray::Opening::DoubleClick;
     std::unique_ptr<platform::SystemTray> m_tray;
+    bool m_closeExplained = false;
 };

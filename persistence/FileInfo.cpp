@@ -98,6 +98,7 @@ void FileInfo::readConfig()
     readBool(settings, keys::config::LaunchZoom, m_supportLaunchZoom);
     readBool(settings, keys::config::LaunchTeams, m_supportLaunchTeams);
     readBool(settings, keys::config::LaunchGoogle, m_supportLaunchGoogle);
+    m_closeExplained = settings.value(keys::config::CloseExplained, m_closeExplained).toBool();
     readServerUrl(settings);
     readString(settings, keys::config::GoogleMeetingUrl, m_googleMeetingUrl);
 }

@@ -27,6 +27,8 @@ public:
     bool supportLaunchZoom() const { return m_supportLaunchZoom; }
     bool supportLaunchTeams() const { return m_supportLaunchTeams; }
     bool supportLaunchGoogle() const { return m_supportLaunchGoogle; }
+    /// Whether the first close of the window has been explained.
+    bool closeExplained() const { return m_closeExplained; }
     /// Base URL of the account service, without a slash at its end.
     const QString& serverUrl() const { return m_serverUrl; }
     const QString& googleMeetingUrl() const { return m_googleMeetingUrl; }
@@ -55,6 +57,7 @@ private:
     bool m_supportLaunchZoom = true;
     bool m_supportLaunchTeams = true;
     bool m_supportLaunchGoogle = true;
+    bool m_closeExplained = false;
     QString m_serverUrl;
     QString m_googleMeetingUrl;
 };

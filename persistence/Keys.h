@@ -30,6 +30,7 @@ inline constexpr QLatin1StringView RemoteDevice{"VORNApp/use_remote_device"};
 inline constexpr QLatin1StringView LaunchZoom{"VORNApp/support_launch_zoom"};
 inline constexpr QLatin1StringView LaunchTeams{"VORNApp/support_launch_teams"};
 inline constexpr QLatin1StringView LaunchGoogle{"VORNApp/support_launch_google"};
+inline constexpr QLatin1StringView CloseExplained{"VORNApp/close_explained"};
 inline constexpr QLatin1StringView ServerUrl{"Server/url"};
 inline constexpr QLatin1StringView GoogleMeetingUrl{"VORNApp/google_meeting_url"};
 } // namespace config

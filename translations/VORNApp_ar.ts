@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>إنهاء</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>لا يزال VORNApp قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>انقر فوق أيقونته في علبة النظام لفتح النافذة مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>انقر نقرًا مزدوجًا فوق أيقونته في علبة النظام لفتح النافذة مرة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Salir</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>VORNApp sigue en ejecución</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>Haga clic en su icono de la bandeja para volver a abrir la ventana.</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>Haga doble clic en su icono de la bandeja para volver a abrir la ventana.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

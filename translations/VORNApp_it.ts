@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Chiudi il programma</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>VORNApp è ancora in esecuzione</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>Fai clic sulla sua icona nell&apos;area di notifica per riaprire la finestra.</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>Fai doppio clic sulla sua icona nell&apos;area di notifica per riaprire la finestra.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>終了</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>VORNApp は引き続き実行中です</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>ウィンドウを再び開くには、トレイのアイコンをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>ウィンドウを再び開くには、トレイのアイコンをダブルクリックしてください。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

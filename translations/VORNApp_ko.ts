@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>종료</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>VORNApp이 계속 실행 중입니다</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>창을 다시 열려면 트레이의 아이콘을 클릭하세요.</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>창을 다시 열려면 트레이의 아이콘을 두 번 클릭하세요.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

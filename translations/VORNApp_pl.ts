@@ -809,6 +809,19 @@ reset your password.</source>
         <extracomment>Entry of the menu of the tray icon: ends the program.</extracomment>
         <translation>Zakończ</translation>
     </message>
+    <message>
+        <source>VORNApp is still running</source>
+        <extracomment>Title of a message of the tray, shown when the window is closed for the first time.</extracomment>
+        <translation>VORNApp nadal działa</translation>
+    </message>
+    <message>
+        <source>Click its icon in the tray to open the window again.</source>
+        <translation>Kliknij ikonę w zasobniku, aby ponownie otworzyć okno.</translation>
+    </message>
+    <message>
+        <source>Double-click its icon in the tray to open the window again.</source>
+        <translation>Kliknij dwukrotnie ikonę w zasobniku, aby ponownie otworzyć okno.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

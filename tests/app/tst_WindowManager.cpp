@@ -1,12 +1,15 @@
 #include "app/WindowManager.h"
 #include "support/LogCapture.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 #include <thread>
 
@@ -35,6 +38,7 @@ private slots:
     void showsTheWindowForASecondStart();
     void doesNotBlockTheLoopForASilentPeer();
     void showsTheWindowOnADoubleClickOnly();
+    void explainsTheFirstCloseOnly();
     void emitsRequestsOnTheMainThread();
 
 private:
@@ -89,6 +93,25 @@ void tst_WindowManager::showsTheWindowOnADoubleClickOnly()
     emit icon->activated(QSystemTrayIcon::DoubleClick);
     QCOMPARE(shown.count(), 1);
     QCOMPARE(icon->contextMenu()->actions().first()->text(), u"Quit"_s);
+}
+
+void tst_WindowManager::explainsTheFirstCloseOnly()
+{
+    WindowManager manager;
+    QSignalSpy explained(&manager, &WindowManager::closeExplained);
+    manager.showTrayIcon();
+    QTRY_VERIFY(manager.findChild<QSystemTrayIcon*>());
+    const auto isShown = [] {
+        const QWidgetList widgets = QApplication::allWidgets();
+        return std::ranges::any_of(widgets, [](const QWidget* widget) {
+            const auto* const label = qobject_cast<const QLabel*>(widget);
+            return label && label->isVisible() && label->text().startsWith("Double-click"_L1);
+        });
+    };
+    manager.hideToTray();
+    QTRY_VERIFY(isShown());
+    manager.hideToTray();
+    QCOMPARE(explained.count(), 1);
 }
 
 void tst_WindowManager::emitsRequestsOnTheMainThread()
