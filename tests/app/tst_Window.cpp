@@ -33,7 +33,7 @@ class tst_Window : public QObject
 private slots:
     void init();
     void cleanup();
-    void hasNoFrameAndTheRightSize();
+    void hasItsSizeAndIconAndNoFrame();
     void minimises();
     void hidesToTheTrayAndComesBackByDoubleClick();
     void closingByTheSystemHidesToo();
@@ -125,13 +125,16 @@ bool tst_Window::hides()
     return QTest::qWaitFor([this] { return !isViewable() && !isViewable(); }, Patience);
 }
 
-void tst_Window::hasNoFrameAndTheRightSize()
+void tst_Window::hasItsSizeAndIconAndNoFrame()
 {
     const QString information = output(u"xwininfo"_s, {u"-id"_s, m_window});
     QVERIFY2(information.contains(u"Width: 968"_s), qPrintable(information));
     QVERIFY2(information.contains(u"Height: 666"_s), qPrintable(information));
     const QString extents = output(u"xprop"_s, {u"-id"_s, m_window, u"_NET_FRAME_EXTENTS"_s});
     QVERIFY2(extents.endsWith(u"0, 0, 0, 0"_s), qPrintable(extents));
+    const QString icon = output(u"xprop"_s, {u"-id"_s, m_window, u"_NET_WM_ICON"_s});
+    for (const auto& size : {u"(16 x 16)"_s, u"(48 x 48)"_s, u"(128 x 128)"_s})
+        QVERIFY2(icon.contains(size), qPrintable(size));
 }
 
 void tst_Window::minimises()
