@@ -20,6 +20,10 @@ Item {
     readonly property bool pointerHeld: pointer.pressed
     // The key that holds the button, 0 when none does.
     property int heldKey: 0
+    // Milliseconds: the shortest delay before the keyboard repeats a held key, and the longest time between the release
+    // and the press of a repeat.
+    readonly property int shortestDelay: 150
+    readonly property int longestGap: 50
     readonly property bool focused: control.activeFocus
     // The text inside the button, used as accessible name when the page sets none.
     readonly property string contentText: textIn(control).replace(/\s+/g, " ")
@@ -59,7 +63,13 @@ Item {
         if (area.heldKey === 0)
             return;
         area.heldKey = 0;
+        repeatGap.stop();
         area.released();
+    }
+
+    function endPress(): void {
+        area.dropKey();
+        area.clicked();
     }
 
     function textIn(item: Item): string {
@@ -88,9 +98,12 @@ Item {
         if (!area.enabled || !area.isPressKey(event))
             return;
         event.accepted = true;
+        if (event.key === area.heldKey)
+            repeatGap.stop();
         if (event.isAutoRepeat || area.heldKey !== 0 || pointer.pressed)
             return;
         area.heldKey = event.key;
+        repeatDelay.restart();
         area.pressed();
     }
     Keys.onReleased: (event) => {
@@ -99,8 +112,11 @@ Item {
         event.accepted = true;
         if (event.isAutoRepeat)
             return;
-        area.dropKey();
-        area.clicked();
+        // On X11 Qt does not recognise each repeat of a held key. Then a press follows this release.
+        if (repeatDelay.running)
+            area.endPress();
+        else
+            repeatGap.restart();
     }
 
     MouseArea {
@@ -118,6 +134,19 @@ Item {
         onReleased: area.released()
         onClicked: area.clicked()
         onCanceled: area.canceled()
+    }
+
+    Timer {
+        id: repeatDelay
+
+        interval: area.shortestDelay
+    }
+
+    Timer {
+        id: repeatGap
+
+        interval: area.longestGap
+        onTriggered: area.endPress()
     }
 
     Timer {
