@@ -11,9 +11,9 @@ QuickButton {
     width: 168
     height: 36
     radius: Theme.pillRadius
-    normalColor: current ? Theme.green : "transparent"
-    hoverColor: current ? Theme.green : "#404DAF4E"
-    pressedColor: current ? Theme.green : "#804DAF4E"
+    normalColor: current ? Theme.buttonGreen : "transparent"
+    hoverColor: current ? Theme.buttonGreen : "#404DAF4E"
+    pressedColor: current ? Theme.buttonGreen : "#804DAF4E"
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: current

@@ -5,7 +5,7 @@ import QtQuick
 Rectangle {
     id: button
 
-    property color normalColor: Theme.green
+    property color normalColor: Theme.buttonGreen
     property color hoverColor: "#a04DAF4E"
     property color pressedColor: "#604DAF4E"
     property alias focusColor: ring.ringColor

@@ -75,7 +75,7 @@ Item {
             maximumHeight: picture.height
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
             font.pixelSize: Theme.smallText
-            color: "#7C818D"
+            color: Theme.hintText
         }
     }
 

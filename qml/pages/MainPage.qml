@@ -93,7 +93,7 @@ Item {
         width: 168
         height: 36
         radius: Theme.pillRadius
-        normalColor: settings.visible ? Theme.green : "transparent"
+        normalColor: settings.visible ? Theme.buttonGreen : "transparent"
         Accessible.selectable: true
         Accessible.selected: settings.visible
         onClicked: page.showOtherPage(page.page_id_settings)

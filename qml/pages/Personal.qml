@@ -164,7 +164,7 @@ Item {
             y: 428
             text: qsTr("Sign Out")
             maximumWidth: 375 - anchors.leftMargin - 20
-            textColor: Theme.mutedText
+            textColor: Theme.quietText
             font.pixelSize: Theme.bodyText
             font.underline: true
             onClicked: page.signOut()
