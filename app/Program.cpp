@@ -65,6 +65,7 @@ void Program::publish(QQmlContext* context)
 {
     context->setContextProperty(u"network"_s, &m_interface->network());
     context->setContextProperty(u"ptz"_s, &m_interface->camera());
+    context->setContextProperty(u"announcer"_s, &m_announcer);
     context->setContextProperty(u"windowManager"_s, &*m_windowManager);
     context->setContextProperty(u"deviceControl"_s, &*m_deviceControl);
 }

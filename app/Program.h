@@ -6,6 +6,7 @@
 #include "device/PortalHubChannel.h"
 #include "launch/ProcessManager.h"
 #include "persistence/FileInfo.h"
+#include "qml/Announcer.h"
 
 #include <QQmlContext>
 
@@ -37,6 +38,7 @@ private:
 
     PortalHubChannel m_channel;
     UserProfile m_profile;
+    Announcer m_announcer;
     std::optional<FileInfo> m_fileInfo;
     std::optional<ProcessManager> m_programs;
     std::optional<WindowManager> m_windowManager;

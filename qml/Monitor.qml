@@ -127,6 +127,8 @@ Window {
         text: qsTr("Connecting, please wait.")
         font.pixelSize: Theme.monitorText
         Accessible.role: Accessible.AlertMessage
+
+        Announcement {}
     }
 
     MonitorFace {

@@ -1,5 +1,6 @@
 #include "rig/PageRig.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QImage>
 #include <QQmlContext>
@@ -7,6 +8,25 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QUrl>
+
+#include <utility>
+
+namespace
+{
+
+QStringList g_spoken; // main thread
+
+void noteSpoken(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Alert)
+        g_spoken += event->accessibleInterface()->text(QAccessible::Name);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    if (event->type() == QAccessible::Announcement)
+        g_spoken += static_cast<QAccessibleAnnouncementEvent*>(event)->message();
+#endif
+}
+
+} // namespace
 
 void mirrorLayout(const QQuickView& view)
 {
@@ -22,6 +42,7 @@ PageRig::PageRig()
     , m_screen(m_world)
 {
     m_world.cameraReports = &m_camera;
+    QAccessible::installUpdateHandler(noteSpoken);
     DeviceControl& device = m_world.start();
     connect(&device, &DeviceControl::addTask, this,
             [this](const QString& task, const QVariantList& arguments) {
@@ -44,6 +65,7 @@ void PageRig::publish(QQmlContext* context)
     context->setContextProperty(u"deviceControl"_s, &*m_world.device);
     context->setContextProperty(u"ptz"_s, &m_camera);
     context->setContextProperty(u"network"_s, &*m_network);
+    context->setContextProperty(u"announcer"_s, &m_announcer);
     context->setContextProperty(u"windowManager"_s, &m_windows);
     context->setContextProperty(u"rig"_s, this);
     context->setContextProperty(u"screen"_s, &m_screen);
@@ -110,6 +132,11 @@ QStringList PageRig::takeRequests()
 void PageRig::endSessions(const QString& email)
 {
     m_service.store().revokeTokens(account(email).value(u"userId"_s).toString());
+}
+
+QStringList PageRig::takeSpoken()
+{
+    return std::exchange(g_spoken, {});
 }
 
 QString PageRig::makePicture(const QString& name, int size)

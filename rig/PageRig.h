@@ -1,6 +1,7 @@
 #pragma once
 
 #include "peripherals/CameraControl.h"
+#include "qml/Announcer.h"
 #include "rig/Fakes.h"
 #include "simulator/account/AccountService.h"
 
@@ -77,6 +78,9 @@ public:
     /// Makes the service unreachable.
     Q_INVOKABLE void stopService() { m_service.close(); }
 
+    /// Messages for a screen reader since the last call. Needs accessibility switched on.
+    Q_INVOKABLE QStringList takeSpoken();
+
 private:
     // Destroyed last: DeviceControl posts a task when it ends.
     QStringList m_tasks;
@@ -86,5 +90,6 @@ private:
     ScreenRig m_screen;
     AccountService m_service;
     std::optional<NetworkManager> m_network;
+    Announcer m_announcer;
     PageWindows m_windows;
 };

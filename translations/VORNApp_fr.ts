@@ -694,6 +694,11 @@ Max size of 2M</source>
         <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>This field is required.</source>
+        <extracomment>Error of a text field, for screen readers.</extracomment>
+        <translation>Ce champ est obligatoire.</translation>
+    </message>
 </context>
 <context>
     <name>ResetPasswordForm</name>

@@ -694,6 +694,11 @@ Maximaal 2&#xa0;MB</translation>
         <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
         <translation>%2: %1</translation>
     </message>
+    <message>
+        <source>This field is required.</source>
+        <extracomment>Error of a text field, for screen readers.</extracomment>
+        <translation>Dit veld is verplicht.</translation>
+    </message>
 </context>
 <context>
     <name>ResetPasswordForm</name>

@@ -694,6 +694,11 @@ Högst 2&#xa0;MB</translation>
         <extracomment>Name of that button, for screen readers: its text and the name of the field.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>This field is required.</source>
+        <extracomment>Error of a text field, for screen readers.</extracomment>
+        <translation>Fältet måste fyllas i.</translation>
+    </message>
 </context>
 <context>
     <name>ResetPasswordForm</name>

@@ -22,5 +22,7 @@ Item {
         font.weight: Font.Bold
         font.pixelSize: Theme.monitorText
         Accessible.role: Accessible.AlertMessage
+
+        Announcement {}
     }
 }

@@ -40,6 +40,17 @@ T.TextField {
     property var onEnterAction: null
     property var onContentCheck: null
     property string accessibleName: placeholderText
+    // The error for screen readers: an empty field may show it by its colour alone.
+    //: Error of a text field, for screen readers.
+    readonly property string spokenError: errorMessage !== "" ? errorMessage : qsTr("This field is required.")
+    readonly property string accessibleDescription: {
+        // Qt 6.4 does not expose the accessible name of a password field.
+        const name = echoMode === TextInput.Password ? accessibleName : "";
+        const error = showError ? spokenError : "";
+        return [name, error].filter(part => part !== "").join(": ");
+    }
+
+    readonly property var speaker: announcer // qmllint disable unqualified
 
     // Beside the end of the text, where the reveal button stands.
     readonly property real buttonPadding: enablePasswordMode ? 15 + revealButton.width + 15 : 15
@@ -66,6 +77,7 @@ T.TextField {
     function fail(): void {
         showError = true;
         mark = QuickTextField.Failed;
+        speaker.announce(accessibleName + ": " + spokenError);
     }
 
     function checkInputComplete(): void {
@@ -151,11 +163,11 @@ T.TextField {
 
     Accessible.name: accessibleName
     Accessible.readOnly: readOnly || !enabled
-    Accessible.description: {
-        // Qt 6.4 does not expose the accessible name of a password field.
-        const name = echoMode === TextInput.Password ? accessibleName : "";
-        const error = showError ? errorMessage : "";
-        return [name, error].filter(part => part !== "").join(": ");
+    Accessible.description: accessibleDescription
+    // TextField replaces the description by the placeholder when accessibility is switched on.
+    Accessible.onDescriptionChanged: {
+        if (Accessible.description !== accessibleDescription)
+            Accessible.description = Qt.binding(() => accessibleDescription);
     }
 
     Component.onCompleted: {

@@ -68,6 +68,10 @@ Row {
         text: qsTr("%1%").arg(root.value)
         font.pixelSize: Theme.bodyText
         color: Theme.panelText
+
+        Announcement {
+            text: root.value === 100 ? root.Accessible.name + " " + label.text : ""
+        }
     }
 
     Timer {

@@ -19,6 +19,8 @@ Item {
     property alias serverResponseColor: responseLabel.color
     // True when the lowest field shows an error, which a second line of the service's text would cover.
     property bool errorBelowFields: false
+    // True where the sub-line is news and has to be spoken.
+    property bool tellsSubline: false
     // Maximum width of the service's error text.
     property real responseWidth: width - responseLabel.anchors.leftMargin
 
@@ -56,6 +58,10 @@ Item {
         wrapMode: Text.Wrap
         color: Theme.textGrey
         font.pixelSize: Theme.noteText
+
+        Announcement {
+            visible: form.tellsSubline
+        }
     }
 
     TextLink {
@@ -88,6 +94,8 @@ Item {
         font.pixelSize: Theme.noteText
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
+
+        Announcement {}
     }
 
     SubmitButton {

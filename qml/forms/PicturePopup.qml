@@ -89,6 +89,8 @@ Popup {
         color: Theme.errorRed
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
+
+        Announcement {}
     }
 
     OutlineButton {

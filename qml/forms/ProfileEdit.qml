@@ -154,6 +154,8 @@ Item {
         font.pixelSize: Theme.noteText
         visible: text !== ""
         Accessible.role: Accessible.AlertMessage
+
+        Announcement {}
     }
 
     OutlineButton {

@@ -128,6 +128,8 @@ Item {
         font.italic: Theme.italic
         color: Theme.green
         visible: false
+
+        Announcement {}
     }
 
     TextLink {
@@ -180,6 +182,8 @@ Item {
 
             y: 140
             text: qsTr("New Version (%1) Found").arg(page.newVersion)
+
+            Announcement {}
         }
 
         Row {
@@ -240,6 +244,8 @@ Item {
 
             y: 190
             text: qsTr("Updating your VORN APP to New Version (%1)…").arg(page.newVersion)
+
+            Announcement {}
         }
     }
 
@@ -262,6 +268,8 @@ Item {
 
             y: 140
             text: qsTr("Updating your VORN APP to New Version (%1) failed!").arg(page.newVersion)
+
+            Announcement {}
         }
 
         PanelButton {

@@ -219,6 +219,7 @@ Item {
         visible: page.currentPage === page.page_id_verify_account
         sourceComponent: LoginForm {
             title: qsTr("Verify Account")
+            tellsSubline: true
             subline: qsTr("We’ve sent a verification link to %1\nPlease check the email to verify your account.").arg(page.str_email)
             submitText: qsTr("Sign In")
             submitY: 280
@@ -257,6 +258,7 @@ Item {
         visible: page.currentPage === page.page_id_reset_password_complete
         sourceComponent: LoginForm {
             title: qsTr("Password Reset")
+            tellsSubline: true
             subline: qsTr("We sent an email to %1\nPlease check the email to reset your password.").arg(page.str_email)
             submitText: qsTr("Sign In")
             submitY: 280

@@ -179,6 +179,8 @@ Item {
                 y: 331
                 text: staging.status
                 Accessible.role: Accessible.AlertMessage
+
+                Announcement {}
             }
 
             Row {
@@ -235,6 +237,8 @@ Item {
                 y: 277
                 //: All devices of the display are connected.
                 text: qsTr("You are ready on Air")
+
+                Announcement {}
             }
 
             FaceButton {
@@ -301,6 +305,8 @@ Item {
             FaceLabel {
                 y: 94
                 text: qsTr("VORN Bar detected")
+
+                Announcement {}
             }
 
             Image {
@@ -327,6 +333,8 @@ Item {
                 color: page.timeoutColor
                 visible: page.monitorFailed
                 Accessible.role: Accessible.AlertMessage
+
+                Announcement {}
             }
         }
 
@@ -338,6 +346,8 @@ Item {
             FaceLabel {
                 y: 124
                 text: qsTr("VORN Bar is being set up...")
+
+                Announcement {}
             }
 
             Image {

@@ -179,5 +179,9 @@ FocusScope {
             page.dropSave();
             page.camera.preset(number, Vorn.CameraControl.Preset_Save);
         }
+
+        Announcement {
+            text: saveButton.text
+        }
     }
 }

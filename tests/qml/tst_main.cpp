@@ -1,9 +1,21 @@
 #include "rig/PageRig.h"
 
+#include <QAccessible>
+#include <QDBusConnection>
 #include <QFontDatabase>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QtQuickTest>
+
+// The service that leads Qt to the bus of screen readers, here the session bus.
+class AccessibilityBus : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.a11y.Bus")
+
+public slots:
+    QString GetAddress() const { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
+};
 
 // Publishes to each test file what the program publishes to its pages. Each file gets new objects.
 class Setup : public QObject
@@ -11,6 +23,16 @@ class Setup : public QObject
     Q_OBJECT
 
 public slots:
+    // Switches accessibility on, as a screen reader does.
+    void applicationAvailable()
+    {
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        bus.registerObject(u"/org/a11y/bus"_s, &m_accessibility, QDBusConnection::ExportAllSlots);
+        bus.registerService(u"org.a11y.Bus"_s);
+        if (!QTest::qWaitFor(&QAccessible::isActive))
+            qFatal("Accessibility could not be switched on: the tests need a session bus");
+    }
+
     void qmlEngineAvailable(QQmlEngine* engine)
     {
         // Once for all files: adding a font frees the font engines of texts that are on the screen.
@@ -27,9 +49,15 @@ public slots:
     void cleanupTestCase() { m_rig.reset(); }
 
 private:
+    AccessibilityBus m_accessibility;
     std::optional<PageRig> m_rig;
 };
 
-QUICK_TEST_MAIN_WITH_SETUP(tst_qml, Setup)
+int main(int argc, char* argv[])
+{
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    Setup setup;
+    return quick_test_main_with_setup(argc, argv, "tst_qml", QUICK_TEST_SOURCE_DIR, &setup);
+}
 
 #include "tst_main.moc"

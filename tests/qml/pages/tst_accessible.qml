@@ -30,12 +30,17 @@ PageTest {
         }
     }
 
+    // Qt gives a password field no accessible name.
+    function nameOf(item: var): string {
+        return item.accessibleName ?? item.Accessible.name;
+    }
+
     // Every control has a name, and the texts inside it are not read a second time.
     function checkItems(item: Item, control: var): void {
         if (!item.visible)
             return;
         if (item.activeFocusOnTab)
-            verify(item.Accessible.name !== "", item);
+            verify(nameOf(item) !== "", item);
         const label = item as Text;
         if (control && label)
             verify(label.Accessible.ignored, label.text);
@@ -63,5 +68,56 @@ PageTest {
                 checkItems(mainPage, null);
             }
         }
+    }
+
+    function part(name: string): Item {
+        return search(faces, item => item[name] !== undefined);
+    }
+
+    function test_newsIsSpoken(): void {
+        const spoken = () => rig.takeSpoken();
+        mainPage.visible = false;
+        loginPage.visible = true;
+        loginPage.currentPage = loginPage.page_id_sign_in;
+        spoken();
+        loginPage.signIn();
+        compare(spoken(), ["Email: The format is incorrect", "Password: This field is required."]);
+        loginPage.serverResponse = "Invalid email or password";
+        compare(spoken(), ["Invalid email or password"]);
+        loginPage.str_email = "ada@example.com";
+        loginPage.currentPage = loginPage.page_id_reset_password_complete;
+        verify(spoken()[0].startsWith("We sent an email to ada@example.com"));
+
+        loginPage.visible = false;
+        mainPage.visible = true;
+        mainPage.currentPage = mainPage.page_id_meetings;
+        const meetings = part("page_id_oobe_detected");
+        spoken();
+        meetings.currentPage = meetings.page_id_oobe_detected;
+        meetings.currentPage = meetings.page_id_connected;
+        meetings.currentPage = meetings.page_id_connecting;
+        part("firstShowDelay").status = "Connecting Microphone";
+        compare(spoken(), ["VORN Bar detected", "You are ready on Air", "Connecting Microphone"]);
+
+        mainPage.currentPage = mainPage.page_id_camera_control;
+        rig.report(21, '{"cmd":21,"seq":1,"type":1,"camerastatus":1}');
+        const presets = part("offerSave");
+        tryVerify(() => presets.visible);
+        presets.offerSave(visibleChild("preset1"));
+        compare(spoken(), ["Save Position"]);
+
+        mainPage.currentPage = mainPage.page_id_settings;
+        part("page_id_launcherAppList").currentPage = 0;
+        const general = part("hasNewVerion");
+        general.currentPage = general.page_id_root;
+        general.checkForUpdate();
+        general.currentPage = general.page_id_updating;
+        general.progress.complete();
+        general.currentPage = general.page_id_update_failed;
+        const news = spoken();
+        compare(news[0], "You're up to date.");
+        verify(news[1].startsWith("Updating your VORN APP"));
+        compare(news[2], "Update progress 100%");
+        verify(news[3].endsWith("failed!"));
     }
 }

@@ -85,7 +85,9 @@ DisplayTest {
         verify(test.monitor.isPlayed);
 
         test.monitor.frameTimeout = 30;
+        rig.takeSpoken();
         tryVerify(() => test.visibleFace() === "failedFace");
+        compare(rig.takeSpoken(), ["Connection failed, please reconnect."]);
         verify(!test.monitor.isPlayed);
         screen.countFrame();
         compare(test.visibleFace(), "video");
