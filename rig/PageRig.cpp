@@ -26,6 +26,37 @@ void noteSpoken(QAccessibleEvent* event)
 #endif
 }
 
+bool isControl(const QAccessibleInterface& node)
+{
+    switch (node.role()) {
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::Link:
+    case QAccessible::ListItem:
+    case QAccessible::PageTab:
+    case QAccessible::Slider:
+        return true;
+    case QAccessible::EditableText:
+        return !node.state().readOnly;
+    default:
+        return false;
+    }
+}
+
+QStringList controlsBelow(const QAccessibleInterface& node)
+{
+    if (node.state().invisible)
+        return {};
+    QStringList names;
+    if (isControl(node)) {
+        const QString name = node.text(QAccessible::Name);
+        names += name.isEmpty() ? node.text(QAccessible::Description) : name;
+    }
+    for (int i = 0; i < node.childCount(); ++i)
+        names += controlsBelow(*node.child(i));
+    return names;
+}
+
 } // namespace
 
 void mirrorLayout(const QQuickView& view)
@@ -137,6 +168,13 @@ void PageRig::endSessions(const QString& email)
 QStringList PageRig::takeSpoken()
 {
     return std::exchange(g_spoken, {});
+}
+
+QStringList PageRig::exposedControls(QQuickItem* item) const
+{
+    QStringList names = controlsBelow(*QAccessible::queryAccessibleInterface(item->window()));
+    names.sort();
+    return names;
 }
 
 QString PageRig::makePicture(const QString& name, int size)

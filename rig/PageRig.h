@@ -12,6 +12,7 @@
 #include <QVariant>
 
 class QQmlContext;
+class QQuickItem;
 class QQuickView;
 
 /// Turns a loaded page as the program's window turns it, in a language that is written from right
@@ -80,6 +81,9 @@ public:
 
     /// Messages for a screen reader since the last call. Needs accessibility switched on.
     Q_INVOKABLE QStringList takeSpoken();
+    /// Names of the usable controls that a screen reader finds in the item's window, sorted. A
+    /// password field has its name in its description.
+    Q_INVOKABLE QStringList exposedControls(QQuickItem* item) const;
 
 private:
     // Destroyed last: DeviceControl posts a task when it ends.

@@ -129,6 +129,8 @@ T.TextField {
     width: 375
     height: 38
     maximumLength: 64
+    // For screen readers: Qt 6.4 does not tell them that a field is disabled.
+    readOnly: !enabled
     padding: 6
     leftPadding: Theme.mirrored ? buttonPadding : 15
     rightPadding: Theme.mirrored ? 15 : buttonPadding
@@ -162,7 +164,7 @@ T.TextField {
     }
 
     Accessible.name: accessibleName
-    Accessible.readOnly: readOnly || !enabled
+    Accessible.readOnly: readOnly
     Accessible.description: accessibleDescription
     // TextField replaces the description by the placeholder when accessibility is switched on.
     Accessible.onDescriptionChanged: {

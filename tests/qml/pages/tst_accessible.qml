@@ -48,11 +48,31 @@ PageTest {
             checkItems(item.children[i], item.activeFocusOnTab ? item : control);
     }
 
+    // Names of the visible controls that take a click or text.
+    function usableControls(item: Item): list<string> {
+        if (!item.visible)
+            return [];
+        const names = [];
+        if (item.enabled && (item.echoMode !== undefined || item.stepSize !== undefined))
+            names.push(nameOf(item));
+        else if (item.enabled && item.heldKey !== undefined)
+            names.push(nameOf(item.control));
+        for (let i = 0; i < item.children.length; ++i)
+            names.push(...usableControls(item.children[i]));
+        return names.sort();
+    }
+
+    // A screen reader finds every control that can be used, once, and no other.
+    function checkTree(page: Item): void {
+        compare(rig.exposedControls(page), usableControls(page));
+    }
+
     function test_loginPage(): void {
         compare(faces.Window.window.activeFocusItem.Accessible.name, "Sign In");
         for (let form = 0; form <= loginPage.page_id_reset_password_complete; ++form) {
             loginPage.currentPage = form;
             checkItems(loginPage, null);
+            checkTree(loginPage);
         }
         loginPage.visible = false;
     }
@@ -66,6 +86,7 @@ PageTest {
                 const current = search(mainPage, item => item.visible && item !== mainPage && item.currentPage !== undefined);
                 current.currentPage = face;
                 checkItems(mainPage, null);
+                checkTree(mainPage);
             }
         }
     }
