@@ -2,6 +2,7 @@
 
 #include "logging/Log.h"
 #include "platform/InstanceObjects.h"
+#include "platform/TrayKeys.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -72,6 +73,7 @@ void WindowManager::createTrayIcon(SystemTray::Opening opening)
     connect(quit, &QAction::triggered, qApp, &QCoreApplication::quit);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this, &WindowManager::onTrayIconActivated);
     m_trayIcon->show();
+    platform::watchTrayKeys();
 }
 
 void WindowManager::showTrayIcon()
@@ -127,7 +129,8 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
 void WindowManager::onTrayIconActivated(QSystemTrayIcon::ActivationReason reason)
 {
     const bool isActivation =
-        reason == QSystemTrayIcon::Trigger && m_opening == SystemTray::Opening::Activation;
+        reason == QSystemTrayIcon::Trigger &&
+        (m_opening == SystemTray::Opening::Activation || platform::isTrayKeyPress());
     if (reason != QSystemTrayIcon::DoubleClick && !isActivation)
         return;
     Log::info("WindowManager::onTrayIconActivated")
