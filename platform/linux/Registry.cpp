@@ -1,21 +1,32 @@
 #include "platform/Registry.h"
 
+#include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSettings>
 #include <QStandardPaths>
 
 #include <array>
+#include <chrono>
 #include <mutex>
 #include <optional>
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <time.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
+
+constexpr std::chrono::milliseconds LockPatience{400}; // quitting waits half a second for a write
+constexpr int LockRetryMs = 2;
 
 QString registryFile()
 {
@@ -88,6 +99,31 @@ private:
     bool m_isDamaged = false;
 };
 
+/// Excludes the other writers of a folder's files. QSettings has a lock file for this, but
+/// QLockFile takes a lock for stale, and removes the next holder's, if the process that held it
+/// ends while another one waits; a written value is then lost.
+class WriterLock
+{
+public:
+    explicit WriterLock(const QString& folder)
+        : m_fd(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        // A holder that the user has suspended must not hold up the program.
+        const QDeadlineTimer deadline(LockPatience);
+        while (m_fd >= 0 && ::flock(m_fd, LOCK_EX | LOCK_NB) != 0 && !deadline.hasExpired())
+            ::poll(nullptr, 0, LockRetryMs);
+    }
+    ~WriterLock()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+    }
+    Q_DISABLE_COPY_MOVE(WriterLock)
+
+private:
+    const int m_fd;
+};
+
 } // namespace
 
 namespace platform
@@ -106,8 +142,12 @@ QVariant readRegistry(const QString& keyPath, const QString& name)
 
 bool writeRegistry(const QString& keyPath, const QString& name, const QVariant& value)
 {
-    // sync() merges with the values of other processes, under a lock file.
-    QSettings registry(registryFile(), QSettings::IniFormat);
+    const QString path = registryFile();
+    const QString folder = QFileInfo(path).path();
+    QDir().mkpath(folder);
+    const WriterLock lock(folder);
+    // sync() merges with the values of other processes.
+    QSettings registry(path, QSettings::IniFormat);
     registry.setValue(iniKey(keyPath, name), value);
     registry.sync();
     return registry.status() != QSettings::AccessError; // unreadable lines are no failure to write
