@@ -53,7 +53,7 @@ DisplayTest {
 
     function showFrame(width: int, height: int): void {
         screen.showFrame(test.video().videoSink, width, height);
-        tryVerify(() => test.video().sourceRect.width === width && test.video().sourceRect.height === height);
+        tryVerify(() => test.pointer().frame.width === width && test.pointer().frame.height === height);
     }
 
     // Resizes the window and waits for the window system.
