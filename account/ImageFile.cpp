@@ -104,9 +104,10 @@ QSize sizeOf(QImageReader& reader)
 /// Sets the size at which the picture on the device is read. False if it takes too much memory.
 bool limitSize(QImageReader& reader)
 {
-    if (!isRaster(reader.format()))
+    // First, as reading the size moves the device.
+    if (!isRaster(reader.format()) || !reader.canRead())
         return false;
-    const int bytes = bytesPerPixel(reader); // first, as reading the size moves the device
+    const int bytes = bytesPerPixel(reader);
     const QSize size = sizeOf(reader);
     const qint64 pixels = qint64{size.width()} * size.height();
     if (!size.isValid() || pixels > ImageFile::MaxSourcePixels ||
@@ -180,7 +181,7 @@ bool isPicture(const QString& path)
 {
     QFile file(path);
     QImageReader reader;
-    return prepare(reader, file) && reader.canRead();
+    return prepare(reader, file);
 }
 
 bool isAffordable(QByteArray bytes)

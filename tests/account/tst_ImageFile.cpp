@@ -95,6 +95,7 @@ void tst_ImageFile::encodes_data()
     QTest::newRow("upper-case jpeg") << u"a.JPEG"_s << jpeg << "JPG"_ba;
     QTest::newRow("jpg") << u"a.jpg"_s << jpeg << "JPG"_ba;
     QTest::newRow("bmp") << u"a.bmp"_s << pictureBytes("BMP") << "PNG"_ba;
+    QTest::newRow("icon") << u"a.ico"_s << pictureBytes("ICO") << "PNG"_ba;
     QTest::newRow("png named jpg") << u"lie.jpg"_s << png << "JPG"_ba;
     QTest::newRow("jpeg named png") << u"lie.png"_s << jpeg << "PNG"_ba;
     QTest::newRow("text named png") << u"text.png"_s << "not a picture"_ba << QByteArray();
