@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# ./tools/lint.sh [--fast]   checks format, scripts, licences, rooms, translations, QML and C++.
+# ./tools/lint.sh [--fast]   checks format, scripts, licences, rooms, interfaces, translations, QML and C++.
 #
 # The fast checks come first. With --fast, the checks that compile are left out.
 set -euo pipefail
@@ -31,6 +31,9 @@ reuse lint >build/reuse.log 2>&1 || {
 
 step "Rooms"
 ./tools/check-rooms.py || fail "the rooms" "correct the include, or the targets in the room's CMakeLists.txt"
+
+step "Interfaces"
+./tools/check-interfaces.py || fail "the description of the interfaces" "correct docs/interfaces.md"
 
 step "Translations"
 ./tools/check-translations.py || fail "the translations" "./tools/update-translations.sh, then translate: docs/translating.md"
