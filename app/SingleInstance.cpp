@@ -118,8 +118,8 @@ SingleInstance::Reply SingleInstance::handOver() const
     if (!socket.waitForConnected(ConnectTimeout))
         return Reply::Missing;
     qDebug("send activate");
-    platform::passOnForegroundRight();
-    socket.write("activate", 8);
+    const QByteArray right = platform::passOnForegroundRight();
+    socket.write(right.isEmpty() ? QByteArray("activate") : "activate " + right);
     socket.waitForBytesWritten(WriteTimeout);
     // An instance that is too busy to answer handles the request later.
     const bool isAnswered = socket.waitForReadyRead(AnswerTimeout);

@@ -17,7 +17,8 @@ using platform::SystemTray;
 namespace
 {
 
-constexpr int AnswerTimeout = 500; // ms
+constexpr int AnswerTimeout = 500;   // ms
+constexpr int LongestRequest = 1024; // bytes
 
 } // namespace
 
@@ -107,6 +108,7 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
 {
     const auto reopen = [this, socket] {
         socket->disconnect(this);
+        platform::takeForegroundRight(socket->read(LongestRequest).mid(qstrlen("activate ")));
         socket->write("shown"); // tells the second start that its request is not lost
         socket->flush();
         socket->deleteLater();

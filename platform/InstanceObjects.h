@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -45,8 +46,12 @@ private:
 /// Time that a second start tries to reach the first one, in milliseconds.
 [[nodiscard]] int handOverPatienceMs();
 
-/// Lets the process that is activated next bring its window to the front, which Windows otherwise
-/// allows to the active process only.
-void passOnForegroundRight();
+/// Passes on this start's right to bring a window to the front, which Windows and Wayland give to
+/// the active program only. Returns what has to be sent to the running instance: under Wayland the
+/// token of the launcher, otherwise nothing.
+[[nodiscard]] QByteArray passOnForegroundRight();
+
+/// Uses what another start has sent for the next activation of a window. Main thread.
+void takeForegroundRight(const QByteArray& right);
 
 } // namespace platform

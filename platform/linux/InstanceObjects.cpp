@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QSharedMemory>
 
+#include <algorithm>
 #include <utility>
 
 #include <fcntl.h>
@@ -23,6 +24,8 @@ namespace
 
 constexpr int HandOverPatienceMs = 10'000; // the first instance does not listen at once
 constexpr int LockRetryMs = 5;
+constexpr auto ActivationToken = "XDG_ACTIVATION_TOKEN";
+constexpr int LongestToken = 256;
 constexpr auto LongestName = "/VORNAppLocalServer"_L1;
 
 /// Folder for systems without a runtime folder.
@@ -132,9 +135,17 @@ int handOverPatienceMs()
     return HandOverPatienceMs;
 }
 
-void passOnForegroundRight()
+QByteArray passOnForegroundRight()
 {
-    // Linux has no such right.
+    return qgetenv(ActivationToken);
+}
+
+/// Qt takes the token from the environment and removes it there.
+void takeForegroundRight(const QByteArray& right)
+{
+    const auto isPlain = [](char c) { return c > ' ' && c < 0x7f; };
+    if (!right.isEmpty() && right.size() <= LongestToken && std::ranges::all_of(right, isPlain))
+        qputenv(ActivationToken, right);
 }
 
 } // namespace platform

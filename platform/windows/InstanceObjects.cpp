@@ -69,9 +69,15 @@ int handOverPatienceMs()
     return HandOverPatienceMs;
 }
 
-void passOnForegroundRight()
+QByteArray passOnForegroundRight()
 {
     AllowSetForegroundWindow(ASFW_ANY);
+    return {};
+}
+
+void takeForegroundRight(const QByteArray&)
+{
+    // The right was passed on to this process directly.
 }
 
 } // namespace platform

@@ -62,13 +62,15 @@ void tst_SingleInstance::handsOverAlsoWithoutKeyFiles()
     SingleInstance first(u"key"_s, serverName());
     QCOMPARE(first.start(), SingleInstance::Outcome::First);
     QVERIFY(QFile::remove(m_folder->filePath(u"key"_s)));
+    qputenv("XDG_ACTIVATION_TOKEN", "token-1"); // of the launcher of the second start
     QLocalServer server;
     QVERIFY(server.listen(serverName()));
     auto second = std::async(std::launch::async, [name = serverName()] {
         return SingleInstance(u"key"_s, name).start();
     });
-    QCOMPARE(serve(server, "shown"), "activate");
+    QCOMPARE(serve(server, "shown"), "activate token-1");
     QCOMPARE(second.get(), SingleInstance::Outcome::HandedOver);
+    qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
 /// Such a segment outlives its file, and a later file can have the same inode number.

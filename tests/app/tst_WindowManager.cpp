@@ -56,12 +56,13 @@ void tst_WindowManager::showsTheWindowForASecondStart()
     QSignalSpy shown(&manager, &WindowManager::requestShow);
     LogCapture log;
     auto peer = connectedPeer();
-    peer->write("activate");
+    peer->write("activate token-1");
     QTRY_COMPARE(shown.count(), 1);
     QCOMPARE(shown.first(), QVariantList{true});
     QCOMPARE(log.take(), QStringList{u"I WindowManager::onNewConnection VORNApp reopen!"_s});
-    QTRY_COMPARE(peer->bytesAvailable(), 5); // the answer
-    connectedPeer().reset();                 // a peer that sends nothing counts, too
+    QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), "token-1"); // for the next activation of a window
+    QTRY_COMPARE(peer->bytesAvailable(), 5);              // the answer
+    connectedPeer().reset();                              // a peer that sends nothing counts, too
     QTRY_COMPARE(shown.count(), 2);
 }
 
