@@ -3,6 +3,7 @@
 #include "logging/Log.h"
 #include "platform/InstanceObjects.h"
 #include "platform/TrayKeys.h"
+#include "platform/WindowMoves.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -161,6 +162,11 @@ void WindowManager::explainClose()
                                 : tr("Double-click its icon in the tray to open the window again.");
     m_trayIcon->showMessage(title, wayBack, m_trayIcon->icon());
     emit closeExplained();
+}
+
+bool WindowManager::systemMovesWindows() const
+{
+    return platform::systemMovesWindows();
 }
 
 QPoint WindowManager::cursorPosition() const

@@ -107,6 +107,10 @@ Window {
                 windowPoint = Qt.point(mainWindow.x, mainWindow.y);
             }
             onPositionChanged: {
+                if (mainWindow.windows.systemMovesWindows()) {
+                    mainWindow.startSystemMove();
+                    return;
+                }
                 const cursor = mainWindow.windows.cursorPosition();
                 mainWindow.x = windowPoint.x + cursor.x - pressPoint.x;
                 mainWindow.y = windowPoint.y + cursor.y - pressPoint.y;

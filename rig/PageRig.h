@@ -28,6 +28,7 @@ class PageWindows : public QObject
 
 public:
     Q_INVOKABLE void hideToTray() { ++m_hidden; }
+    Q_INVOKABLE bool systemMovesWindows() const { return false; }
     Q_INVOKABLE QPoint cursorPosition() const { return m_cursor; }
 
 signals:

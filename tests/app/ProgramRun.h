@@ -41,6 +41,7 @@ public:
         m_environment.insert(variable, value);
     }
 
+    const QProcessEnvironment& environment() const { return m_environment; }
     QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
     QString path() const { return m_folder.path(); }
 

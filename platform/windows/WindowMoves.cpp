@@ -1,0 +1,11 @@
+#include "platform/WindowMoves.h"
+
+namespace platform
+{
+
+bool systemMovesWindows()
+{
+    return false;
+}
+
+} // namespace platform

@@ -1,0 +1,75 @@
+#include "ProgramRun.h"
+
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int Patience = 30000;
+
+} // namespace
+
+/// Uses the program on a Wayland compositor, whose screen is a window of an X server.
+class tst_Wayland : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void compositorMovesTheWindow();
+};
+
+/// The screen has the size of the window, which is therefore at its origin.
+void tst_Wayland::compositorMovesTheWindow()
+{
+    if (QStandardPaths::findExecutable(u"weston"_s).isEmpty())
+        QSKIP("weston is not installed");
+    QProcess screen;
+    screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
+                             u"0"_s, u"968x666x24"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(screen.canReadLine(), Patience);
+    ProgramHome home;
+    home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
+    DisplayEnd display(home);
+    QFile settings(home.path() + "/weston.ini"_L1);
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[shell]\nlocking=false\npanel-position=none\n");
+    settings.close();
+    QProcess compositor;
+    compositor.setProcessEnvironment(home.environment());
+    compositor.start(u"weston"_s, {u"--config="_s + settings.fileName(),
+                                   u"--backend=x11-backend.so"_s, u"--use-pixman"_s,
+                                   u"--width=968"_s, u"--height=666"_s, u"--socket=wayland"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(home.path() + "/run/wayland"_L1), Patience);
+
+    home.set(u"WAYLAND_DISPLAY"_s, u"wayland"_s);
+    home.set(u"WAYLAND_DEBUG"_s, u"1"_s);
+    const auto program = home.start(u"wayland"_s);
+    QVERIFY(display.nextProgram());
+    QProcess drag;
+    drag.setProcessEnvironment(home.environment());
+    QString log;
+    const auto isMoved = [&] {
+        // A press before the window is there has no effect, so it is repeated.
+        drag.start(u"xdotool"_s, {u"mousemove"_s, u"500"_s, u"20"_s, u"mousedown"_s, u"1"_s,
+                                  u"mousemove_relative"_s, u"9"_s, u"9"_s, u"mousemove_relative"_s,
+                                  u"9"_s, u"9"_s, u"mouseup"_s, u"1"_s});
+        drag.waitForFinished(Patience);
+        log += QString::fromLocal8Bit(program->readAll());
+        static const QRegularExpression s_request(u"xdg_toplevel@\\d+\\.move\\("_s);
+        return log.contains(s_request);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isMoved(), Patience);
+    ::kill(static_cast<pid_t>(program->processId()), SIGTERM);
+    QVERIFY(program->waitForFinished(Patience));
+    QCOMPARE(program->exitCode(), 0);
+    compositor.terminate();
+    QVERIFY(compositor.waitForFinished(Patience));
+}
+
+QTEST_GUILESS_MAIN(tst_Wayland)
+#include "tst_Wayland.moc"
