@@ -2,13 +2,16 @@
 
 #include "app/WindowManager.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <chrono>
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -37,15 +40,20 @@ bool FirstFrame::load(WindowManager& windows)
     m_pages.reset();
     if (m_engine.rootObjects().isEmpty())
         return false;
-    showTrayIconAfterwards(windows);
+    showIconsAfterwards(windows);
     return true;
 }
 
-void FirstFrame::showTrayIconAfterwards(WindowManager& windows) const
+void FirstFrame::showIconsAfterwards(WindowManager& windows) const
 {
+    const auto showIcons = [&windows] {
+        if (QGuiApplication::windowIcon().isNull()) // for task bars that know no desktop entries
+            QGuiApplication::setWindowIcon(QIcon(u":/images/VORNApp.ico"_s));
+        windows.showTrayIcon();
+    };
     const auto* const window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, &windows, &WindowManager::showTrayIcon,
+        window, &QQuickWindow::frameSwapped, &windows, showIcons,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QTimer::singleShot(LongestWait, &windows, &WindowManager::showTrayIcon);
+    QTimer::singleShot(LongestWait, &windows, showIcons);
 }

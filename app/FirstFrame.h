@@ -16,7 +16,8 @@ class WindowManager;
 ///   one and blocks until it is handled, which serveLoader() does.
 /// - The main window is shown empty and creates its pages while the window system maps it: the two
 ///   Loader items in Main.qml, of which the one that is not needed first waits for the first frame.
-/// - The tray icon, a window of its own, is created after the first frame.
+/// - The tray icon, a window of its own, and the icon of the window are created after the first
+///   frame.
 class FirstFrame
 {
 public:
@@ -26,13 +27,13 @@ public:
 
     /// Handles the events of the engine's thread; no event loop runs yet.
     void serveLoader();
-    /// Creates the main window; false when that fails. The tray icon follows the first frame, or
-    /// comes after two seconds: a window that is not visible, on another workspace for example,
+    /// Creates the main window; false when that fails. The icons follow the first frame, or
+    /// come after two seconds: a window that is not visible, on another workspace for example,
     /// draws no frame.
     bool load(WindowManager& windows);
 
 private:
-    void showTrayIconAfterwards(WindowManager& windows) const;
+    void showIconsAfterwards(WindowManager& windows) const;
 
     QQmlApplicationEngine& m_engine;
     const QUrl m_mainWindow;

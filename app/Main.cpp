@@ -16,7 +16,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 #include <QQmlApplicationEngine>
@@ -99,7 +98,6 @@ int run(int& argc, char** argv, SingleInstance& instance)
     const platform::TerminationSignals signalsToQuit([] { QCoreApplication::exit(); });
     // Hiding to the tray closes the last window without ending the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QGuiApplication::setWindowIcon(QIcon(u":/images/VORNApp.ico"_s));
     // Wayland takes the icon of a window from the desktop entry.
     QGuiApplication::setDesktopFileName(u"com.vorn.VORNApp"_s);
     logProgram(appPath, fileName);
