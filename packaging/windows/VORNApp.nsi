@@ -61,15 +61,14 @@ VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
   ${IfNot} ${Errors}
     StrCpy $0 1
     ${Do}
-      StrCpy $3 end
-      StrCpy $4 end
+      ClearErrors
       FileReadByte $1 $3
-      FileReadByte $2 $4
+      FileReadByte $2 $4 ; an error at the end of either file
       ${If} $3 != $4
         StrCpy $0 0
         ${ExitDo}
       ${EndIf}
-    ${LoopUntil} $3 == end
+    ${LoopUntil} ${Errors}
   ${EndIf}
   FileClose $1
   FileClose $2

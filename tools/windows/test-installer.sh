@@ -35,7 +35,7 @@ ls -l "$windows_root/$setup"
 for file in VORNApp.exe PortalHub.dll Qt6Core.dll "$(basename "$setup")"; do
   grep -qxF "$file" "$windows_root/build/signed.txt" || fail "$file was not signed" "see packaging/windows"
 done
-in_root x86_64-w64-mingw32-nm "/${setup%-setup.exe}-symbols/VORNApp.exe.debug" | grep -q ' main$' ||
+in_root x86_64-w64-mingw32-nm "/${setup%-setup.exe}-symbols/VORNApp.exe.debug" | grep _ZN14ProcessManager9startZoomEv >/dev/null ||
   fail "there are no symbols" "see packaging/windows/MakeInstaller.cmake"
 
 clean_up() {
@@ -54,7 +54,7 @@ prefix=/build/wine-installed
 install -d -m 700 "$windows_root/build/run"
 wine_plain() {
   in_root env WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' XDG_RUNTIME_DIR=/build/run \
-    DISPLAY="$DISPLAY" QT_QUICK_BACKEND=software wine "$@"
+    DISPLAY="$DISPLAY" QMLSCENE_DEVICE=software wine "$@"
 }
 is_gone() { ! [ -e "$1" ]; }
 rm -rf "$windows_root$prefix"
