@@ -6,7 +6,8 @@ qt='Z:\opt\qtwin'
 export WINEPREFIX="${WINEPREFIX:-/build/wine}" WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES='mscoree,mshtml=' # Wine would offer to download them
 export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-/build/run}"
-export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" QT_QUICK_BACKEND=software
-export QT_PLUGIN_PATH="$qt\\plugins" QML_IMPORT_PATH="$qt\\qml"
+# The renderer. Wine removes the variables whose names begin with QT_, such as QT_QUICK_BACKEND.
+export QMLSCENE_DEVICE="${QMLSCENE_DEVICE-software}"
+export QML_IMPORT_PATH="$qt\\qml"
 export WINEPATH="$qt\\bin;Z:\\usr\\lib\\gcc\\x86_64-w64-mingw32\\14-posix;Z:\\usr\\x86_64-w64-mingw32\\lib"
 exec wine "$@"
