@@ -97,13 +97,10 @@ wine_plain "$folder_windows/VORNApp.exe" >"$program_log" 2>&1 &
 program=$!
 eventually grep -q 'RecvUdpDatagram\]thread start' "$program_log" ||
   { tail -20 "$program_log" >&2; fail "the program did not come up" "see $program_log"; }
-pages_say() { grep -q 'load error' "$program_log" || xdotool search --onlyvisible --name '^VORNApp$'; }
-eventually pages_say || { tail -5 "$program_log" >&2; fail "no window came up" "see $program_log"; }
+eventually xdotool search --onlyvisible --name '^VORNApp$' ||
+  { tail -5 "$program_log" >&2; fail "no window came up" "see $program_log"; }
+eventually is_painted root || { tail -5 "$program_log" >&2; fail "the window stays black" "see $program_log"; }
 import -window root "$windows_root/build/installed.png"
-if grep -q 'load error' "$program_log"; then
-  printf 'Its pages need more than this Windows Qt has: %s\n' \
-    "$(grep -o '\[main\]qrc:.*' "$program_log" | tail -n 1)"
-fi
 [ -f "$folder/userdata.db" ] || fail "the user's data are not beside the program" "see $program_log"
 wine_plain "Z:/$setup" /S && fail "it was replaced while it ran" "see packaging/windows/VORNApp.nsi"
 wine_plain taskkill /IM VORNApp.exe /F >/dev/null
