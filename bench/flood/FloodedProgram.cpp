@@ -1,5 +1,8 @@
 #include "bench/flood/FloodedProgram.h"
 
+#include "persistence/DBManager.h"
+#include "persistence/Keys.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QEventLoop>
@@ -21,9 +24,9 @@ constexpr qint64 MaxUnwritten = qint64{1} * 1024 * 1024;
 
 } // namespace
 
-FloodedProgram::FloodedProgram(const QString& program)
+FloodedProgram::FloodedProgram(const QString& program, const QString& service)
 {
-    install(program);
+    install(program, service);
     m_display.listen(m_home.filePath(u"portalhub"_s));
     QObject::connect(&m_display, &QLocalServer::newConnection, &m_display, [this] {
         m_channel = m_display.nextPendingConnection();
@@ -38,7 +41,7 @@ FloodedProgram::FloodedProgram(const QString& program)
 }
 
 // The program keeps its settings in its own folder, so it runs from a copy.
-void FloodedProgram::install(const QString& program)
+void FloodedProgram::install(const QString& program, const QString& service)
 {
     const QDir source = QFileInfo(program).dir();
     const QString folder = m_home.filePath(u"app"_s);
@@ -49,6 +52,12 @@ void FloodedProgram::install(const QString& program)
         QFile::copy(file.filePath(), folder + u'/' + file.fileName());
     QSettings config(folder + u"/config.ini"_s, QSettings::IniFormat);
     config.setValue(u"VORNApp/use_remote_device"_s, true);
+    if (service.isEmpty())
+        return;
+    config.setValue(keys::config::ServerUrl, service);
+    DBManager user(folder + u"/userdata.db"_s);
+    for (const auto key : {keys::user::Email, keys::user::Token, keys::user::UserId})
+        user.saveUserData(key, u"a@b.example"_s);
 }
 
 bool FloodedProgram::waitUntil(const std::function<bool()>& isDone,
@@ -151,6 +160,15 @@ bool FloodedProgram::hasLogged(const QByteArray& text) const
         QFile file(name);
         return file.open(QIODevice::ReadOnly) && file.readAll().contains(text);
     });
+}
+
+void FloodedProgram::askForWindow() const
+{
+    QLocalSocket socket;
+    socket.connectToServer(m_home.filePath(u"VORNAppLocalServer"_s));
+    if (socket.waitForConnected())
+        socket.write("activate");
+    socket.waitForBytesWritten();
 }
 
 bool FloodedProgram::quit()

@@ -25,8 +25,8 @@ public:
     };
 
     /// Starts the program, whose path is @p program, and waits until it is connected to the
-    /// display.
-    explicit FloodedProgram(const QString& program);
+    /// display. With an address of the account service, a user is signed in.
+    explicit FloodedProgram(const QString& program, const QString& service = {});
 
     /// Runs @p flood and measures meanwhile.
     Figures measure(const std::function<void()>& flood);
@@ -44,11 +44,13 @@ public:
     QByteArray registryValue() const;
     /// Whether a line of the log files contains @p text.
     bool hasLogged(const QByteArray& text) const;
+    /// Asks for the window as a second start does, without waiting for the answer.
+    void askForWindow() const;
     /// Ends the program as the tray's "Quit" does.
     bool quit();
 
 private:
-    void install(const QString& program);
+    void install(const QString& program, const QString& service);
     QStringList logFiles() const;
     double logMegabytes() const;
     void readReplies();

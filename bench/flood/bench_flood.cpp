@@ -2,6 +2,7 @@
 //
 // Floods the program on each of its inputs and compares it with the quiet program of the same run.
 // A scale below 1 shortens the floods. Exits with 1 if an aim is missed.
+#include "bench/flood/BadService.h"
 #include "bench/flood/FloodedProgram.h"
 
 #include <QCoreApplication>
@@ -158,6 +159,43 @@ void testMessages(FloodedProgram& program, const Figures& quiet, double scale)
     check(replies == expected, "each valid message is acknowledged");
 }
 
+// As 50 second starts a second ask.
+void testStarts(FloodedProgram& program, const Figures& quiet, double scale)
+{
+    const int count = int(500 * scale);
+    std::atomic_bool isDone = false;
+    const Figures figures = program.measure([&] {
+        const std::jthread starts([&] {
+            for (int i = 0; i < count; ++i) {
+                program.askForWindow();
+                std::this_thread::sleep_for(20ms);
+            }
+            isDone = true;
+        });
+        program.waitUntil([&] { return isDone.load(); });
+    });
+    std::printf("%d second starts, 50 a second", count);
+    printFigures("", figures, quiet);
+}
+
+// Each needs a start of its own, since the program asks for the profile when a user is signed in.
+void testService(const QString& path, BadService::Reply reply, const char* what, const char* line)
+{
+    BadService service(reply);
+    FloodedProgram program(path, service.url());
+    program.waitUntil([&] { return service.hasRequest(); });
+    const Figures quiet = program.measure([] { stayQuiet(3s); });
+    const Figures figures = program.measure([&] {
+        service.answer();
+        program.waitUntil([&] { return service.isDone(); });
+        stayQuiet(1s);
+    });
+    std::printf("%s, %.0f MB sent", what, service.sentMegabytes());
+    printFigures("", figures, quiet);
+    check(program.hasLogged(line), "the request has failed, with a line in the log");
+    check(program.quit(), "the program ends");
+}
+
 // The last state before the end is "available", for which the value is 0.
 void testQuit(FloodedProgram& program, double scale)
 {
@@ -175,8 +213,12 @@ int main(int argc, char** argv)
 {
     const QCoreApplication app(argc, argv);
     const double scale = argc > 1 ? QByteArray(argv[1]).toDouble() : 1;
-    FloodedProgram program(argc > 2 ? QString::fromLocal8Bit(argv[2])
-                                    : QStringLiteral(VORN_PROGRAM));
+    const QString path = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QStringLiteral(VORN_PROGRAM);
+    testService(path, BadService::Reply::LargeMessage, "A message of 60 MB from the service",
+                "response exceeds");
+    testService(path, BadService::Reply::EndlessHead, "Headers without an end from the service",
+                "Connection to server failed.");
+    FloodedProgram program(path);
     program.send(
         1, [](int) { return "0 {\"cmd\":0,\"isReady\":1,\"seq\":1,\"type\":2}\n"_ba; }, 1);
     const Figures quiet = program.measure([] { stayQuiet(10s); });
@@ -187,6 +229,7 @@ int main(int argc, char** argv)
     testUdp(program, quiet, scale);
     testSource(program, quiet, scale);
     testMessages(program, quiet, scale);
+    testStarts(program, quiet, scale);
     testQuit(program, scale);
     return g_failed ? 1 : 0;
 }
