@@ -71,13 +71,29 @@ double ProgramRun::residentMegabytes() const
     return pages * double(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
+QStringList ProgramRun::threads() const
+{
+    return QDir(u"/proc/%1/task"_s.arg(pid())).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
 // From schedstat, which is finer than the clock tick of /proc/<pid>/stat.
 double ProgramRun::processorSeconds() const
 {
     double nanoseconds = 0;
-    const QStringList threads =
-        QDir(u"/proc/%1/task"_s.arg(pid())).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString& thread : threads)
+    for (const QString& thread : threads())
         nanoseconds += procFile(thread.toLongLong(), "schedstat").split(' ').value(0).toDouble();
     return nanoseconds / 1e9;
+}
+
+double ProgramRun::waits() const
+{
+    constexpr QByteArrayView Field = "\nvoluntary_ctxt_switches:";
+    double count = 0;
+    for (const QString& thread : threads()) {
+        const QByteArray status = procFile(thread.toLongLong(), "status");
+        const qsizetype at = status.indexOf(Field);
+        if (at >= 0)
+            count += status.mid(at + Field.size()).split('\n').first().trimmed().toDouble();
+    }
+    return count;
 }

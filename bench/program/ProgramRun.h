@@ -17,10 +17,14 @@ public:
     double residentMegabytes() const;
     /// Processor time that all threads have used, in seconds.
     double processorSeconds() const;
+    /// How often any thread has waited for something so far.
+    double waits() const;
     /// Ends the program as the tray's "Quit" does. False if it is still running after a minute.
     bool quit();
 
 private:
+    QStringList threads() const;
+
     QProcess m_process;
     double m_firstFrame = 0;
 };

@@ -20,6 +20,7 @@ constexpr int StartRounds = 9;
 // Milliseconds.
 constexpr int SettleTime = 2000;
 constexpr int IdleTime = 40000;
+constexpr int RestTime = 20000;
 constexpr int StagingTime = 17000; // until the page has shown all devices
 
 void waitFor(int milliseconds)
@@ -60,6 +61,31 @@ QString plugAll(DeviceTree& tree, const QString& root)
     return error;
 }
 
+// A resting program wakes up twice a second at most.
+void printWakeUps(const char* state, const ProgramRun& program)
+{
+    constexpr double MostPerSecond = 2;
+    const double before = program.waits();
+    waitFor(RestTime);
+    bench::printRatio(state, (program.waits() - before) * 1000 / RestTime, MostPerSecond,
+                      "wake-ups a second", 1.0);
+}
+
+// Without a display, and with one whose devices never come, after the page has stopped waiting.
+void measureResting(const QTemporaryDir& home)
+{
+    const ProgramRun program(QStringLiteral(VORN_PROGRAM), home.path());
+    waitFor(SettleTime);
+    printWakeUps("resting, disconnected", program);
+    QLocalServer display;
+    display.listen(home.filePath(u"portalhub"_s));
+    QObject::connect(&display, &QLocalServer::newConnection, &display, [&display] {
+        display.nextPendingConnection()->write("0 {\"cmd\":0,\"type\":2,\"isReady\":1}\n");
+    });
+    waitFor(StagingTime);
+    printWakeUps("resting, waiting for devices", program);
+}
+
 // The connected program asks for the firmware version and checks the devices.
 void compareIdling(const QTemporaryDir& home)
 {
@@ -95,6 +121,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication app(argc, argv);
     const QTemporaryDir home;
+    measureResting(home);
     compareStarts(home);
     compareIdling(home);
 }
