@@ -75,7 +75,7 @@ bool isPlainPng(const QByteArray& head)
 /// Bytes a pixel that decoding takes at most beside a result of reduced size.
 int bytesPerPixel(QImageReader& reader)
 {
-    constexpr qint64 HeadSize = 262'144; // embedded thumbnails come first
+    constexpr qint64 HeadSize = 1 << 20; // embedded thumbnails and colour profiles come first
     if (reader.format() == "jpeg")
         return bytesUntilLastPass(reader.device()->peek(HeadSize));
     if (reader.format() == "png" && isPlainPng(reader.device()->peek(32)))
