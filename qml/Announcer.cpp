@@ -7,11 +7,15 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
+
+// A screen reader asks for the text after the event, when a later message would have replaced it.
+constexpr auto SameTime = std::chrono::milliseconds(50);
 
 /// The window of the program that is used, or else one that is visible; null when there is none.
 QWindow* shownWindow()
@@ -65,15 +69,30 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 Announcer::Announcer()
 {
     QAccessible::installFactory(makeInterface);
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(SameTime);
+    connect(&m_timer, &QTimer::timeout, this, &Announcer::speak);
 }
 
 void Announcer::announce(const QString& message)
 {
     if (!QAccessible::isActive() || !shownWindow())
         return;
-    m_message = message;
+    m_waiting += message;
+    if (!m_timer.isActive())
+        m_timer.start();
+}
+
+void Announcer::speak()
+{
+    if (!shownWindow()) {
+        m_waiting.clear();
+        return;
+    }
+    m_message = m_waiting.join(u'\n');
+    m_waiting.clear();
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent event(this, message);
+    QAccessibleAnnouncementEvent event(this, m_message);
     QAccessible::updateAccessibility(&event);
 #else
     QAccessibleEvent alert(this, QAccessible::Alert);

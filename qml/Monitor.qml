@@ -126,7 +126,6 @@ Window {
         visible: monitor.currentPage === monitor.page_id_waiting
         text: qsTr("Connecting, please wait.")
         font.pixelSize: Theme.monitorText
-        Accessible.role: Accessible.AlertMessage
 
         Announcement {}
     }

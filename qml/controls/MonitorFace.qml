@@ -21,7 +21,6 @@ Item {
         horizontalAlignment: Text.AlignHCenter
         font.weight: Font.Bold
         font.pixelSize: Theme.monitorText
-        Accessible.role: Accessible.AlertMessage
 
         Announcement {}
     }

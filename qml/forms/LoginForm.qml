@@ -93,7 +93,6 @@ Item {
         maximumLineCount: form.errorBelowFields ? 1 : 2
         font.pixelSize: Theme.noteText
         visible: text !== ""
-        Accessible.role: Accessible.AlertMessage
 
         Announcement {}
     }

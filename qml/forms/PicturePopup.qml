@@ -88,7 +88,6 @@ Popup {
         font.pixelSize: Theme.smallText
         color: Theme.errorRed
         visible: text !== ""
-        Accessible.role: Accessible.AlertMessage
 
         Announcement {}
     }

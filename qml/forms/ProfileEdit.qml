@@ -153,7 +153,6 @@ Item {
         maximumLineCount: 1
         font.pixelSize: Theme.noteText
         visible: text !== ""
-        Accessible.role: Accessible.AlertMessage
 
         Announcement {}
     }

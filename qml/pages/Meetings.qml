@@ -178,7 +178,6 @@ Item {
                 objectName: "connectionStatus"
                 y: 331
                 text: staging.status
-                Accessible.role: Accessible.AlertMessage
 
                 Announcement {}
             }
@@ -332,7 +331,7 @@ Item {
                 font.pixelSize: Theme.noteText
                 color: page.timeoutColor
                 visible: page.monitorFailed
-                Accessible.role: Accessible.AlertMessage
+                Accessible.role: Accessible.StaticText
 
                 Announcement {}
             }
