@@ -31,6 +31,21 @@ in_root() {
     CCACHE_DIR=/build/ccache CCACHE_BASEDIR=/src CCACHE_NOHASHDIR=1 QT_HASH_SEED=0 "$@"
 }
 
+# start_root_screen [<width>x<height>x<depth>]
+# Starts a virtual screen for programs in the root, and sets DISPLAY. The caller has to trap EXIT with
+# stop_root_screen.
+start_root_screen() {
+  start_screen "$@"
+  mkdir -p "$windows_root/tmp/.X11-unix"
+  mountpoint -q "$windows_root/tmp/.X11-unix" || mount --bind /tmp/.X11-unix "$windows_root/tmp/.X11-unix"
+}
+
+stop_root_screen() {
+  stop_screen
+  mountpoint -q "$windows_root/tmp/.X11-unix" && umount "$windows_root/tmp/.X11-unix"
+  return 0
+}
+
 has_windows_qt() { [ -d "$windows_root$windows_qt/lib/cmake/Qt6" ]; }
 
 # Sets `from` to the archive or folder of a Windows Qt: $VORN_WINDOWS_QT, or an archive in a folder beside

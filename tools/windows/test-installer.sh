@@ -40,14 +40,10 @@ in_root x86_64-w64-mingw32-nm "/${setup%-setup.exe}-symbols/VORNApp.exe.debug" |
 
 clean_up() {
   wine_plain wineboot -k >/dev/null 2>&1 || true
-  stop_screen
-  mountpoint -q "$windows_root/tmp/.X11-unix" && umount "$windows_root/tmp/.X11-unix"
-  return 0
+  stop_root_screen
 }
 trap clean_up EXIT
-start_screen 1280x900x24
-mkdir -p "$windows_root/tmp/.X11-unix"
-mountpoint -q "$windows_root/tmp/.X11-unix" || mount --bind /tmp/.X11-unix "$windows_root/tmp/.X11-unix"
+start_root_screen 1280x900x24
 
 # wine_plain <program> [argument]...   runs a program without the paths of the Qt in the root.
 prefix=/build/wine-installed

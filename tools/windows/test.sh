@@ -2,15 +2,16 @@
 # ./tools/windows/test.sh [--core] [ctest options]   builds the Windows program and runs its tests under Wine.
 #
 # Uses a Debian 13 root, which tools/windows/make-root.sh makes when it is missing. VORN_WINDOWS_QT names the
-# archive or folder of a Windows Qt; see docs/windows.md. With --core only the tests of the rooms without
-# a user interface are built and run, with -N tests are built and not run. Needs root.
+# archive or folder of a Windows Qt; see docs/windows.md. The pages are drawn with OpenGL on a virtual screen.
+# With --core only the tests of the rooms without a user interface are built and run, and there is no screen;
+# with -N tests are built and not run. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
 
 case "${1:-}" in
 -h | --help)
-  sed -n '2,6s/^# \{0,1\}//p' "$0"
+  sed -n '2,7s/^# \{0,1\}//p' "$0"
   exit 0
   ;;
 esac
@@ -46,6 +47,13 @@ if [ ! -d "$windows_root/build/wine" ]; then
   in_root /src/tools/windows/run-wine.sh reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d x11,null /f >/dev/null
   in_root /src/tools/windows/run-wine.sh wineboot -k >/dev/null 2>&1 || true
 fi
-in_root ctest --test-dir /build/windows --output-on-failure --no-tests=error -j 2 "$@" ||
+screen=()
+if [ ${#targets[@]} -eq 0 ]; then
+  need_packages "${screen_packages[@]}"
+  trap stop_root_screen EXIT
+  start_root_screen 1920x1200x24
+  screen=(env "DISPLAY=$DISPLAY" LIBGL_ALWAYS_SOFTWARE=1)
+fi
+in_root "${screen[@]}" ctest --test-dir /build/windows --output-on-failure --no-tests=error -j 2 "$@" ||
   fail "tests under Wine" "see the output above; to run one test again: $0 -R <name>"
 printf '\nBuilt in %d s, tested in %d s\n' "$((built - began))" "$((SECONDS - built))"

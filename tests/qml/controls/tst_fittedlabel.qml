@@ -30,7 +30,7 @@ TestCase {
         place("Camera Control", 100, 60);
         compare(label.lineCount, 2);
         compare(label.fontInfo.pixelSize, 20);
-        place("Camera Control", 100, 34);
+        place("Camera Control", 100, 39);
         compare(label.lineCount, 2);
         verify(label.fontInfo.pixelSize < 20 && label.fontInfo.pixelSize >= 16);
         verify(!label.truncated);
