@@ -54,7 +54,7 @@ int bytesUntilLastPass(const QByteArray& head)
             components = byte(at + 9);
             int samples = 0;
             int most = 1;
-            for (int i = 0; i < components; ++i) {
+            for (qsizetype i = 0; i < components; ++i) {
                 const int factors = byte(at + 11 + 3 * i);
                 samples += (factors >> 4) * (factors & 15);
                 most = qMax(most, (factors >> 4) * (factors & 15));

@@ -37,6 +37,11 @@ StatusNotifierHost::StatusNotifierHost()
 /// The main thread does not wait for the panel.
 void StatusNotifierHost::ask()
 {
+    if (!m_bus.isConnected()) { // no answer would come
+        QMetaObject::invokeMethod(
+            this, [this] { emit answered(false); }, Qt::QueuedConnection);
+        return;
+    }
     QDBusMessage question = QDBusMessage::createMethodCall(
         service(), path(), u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question.setArguments({service(), u"IsStatusNotifierHostRegistered"_s});
