@@ -63,7 +63,7 @@ public:
         // cannot name them. Runs off the screen do not use Mesa and still look for leaks.
         if (platform == QStringLiteral("offscreen"))
             environment.remove(QStringLiteral("DISPLAY"));
-        if (platform == QStringLiteral("xcb"))
+        else
             environment.insert(QStringLiteral("ASAN_OPTIONS"),
                                environment.value(QStringLiteral("ASAN_OPTIONS")) +
                                    QStringLiteral(":detect_leaks=0"));
