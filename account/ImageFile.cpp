@@ -78,7 +78,9 @@ int bytesPerPixel(QImageReader& reader)
     constexpr qint64 HeadSize = 1 << 20; // embedded thumbnails and colour profiles come first
     if (reader.format() == "jpeg")
         return bytesUntilLastPass(reader.device()->peek(HeadSize));
-    if (reader.format() == "png" && isPlainPng(reader.device()->peek(32)))
+    // Qt 6.8 scales PNG files only after it has read them.
+    if (reader.format() == "png" && reader.supportsOption(QImageIOHandler::ScaledSize) &&
+        isPlainPng(reader.device()->peek(32)))
         return 0;
     const QImage::Format format = reader.imageFormat();
     const int bytes = format == QImage::Format_Invalid

@@ -16,7 +16,7 @@ inline constexpr qint64 MaxPixels = 4'000'000;
 inline constexpr qint64 MaxSourcePixels = 256'000'000;
 /// Most memory that decoding a picture may take beside the result, in bytes. Large pictures stay
 /// below it if their format can be scaled down while it is read: JPEG files with the data in one
-/// pass, and PNG files with 8 bits a colour.
+/// pass, and, with a Qt that scales them, PNG files with 8 bits a colour.
 inline constexpr qint64 MaxDecodedSize = 48LL * 1024 * 1024;
 /// Largest file that is opened as a picture, in bytes.
 inline constexpr qint64 MaxFileSize = 128LL * 1024 * 1024;
