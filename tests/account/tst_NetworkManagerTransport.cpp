@@ -1,5 +1,6 @@
 #include "tests/account/AccountTestSupport.h"
 
+#include "rig/HelperProcess.h"
 #include "simulator/account/AccountService.h"
 #include "tests/support/LogCapture.h"
 
@@ -205,7 +206,7 @@ void tst_NetworkManagerTransport::redirectsOnlyOnTheSameServer()
     const bool isSafe = samePort && host == "127.0.0.1"_L1;
     QCOMPARE(signIn(address(u"http"_s, server)),
              QStringList{isSafe ? u"loginSuccess"_s : NoConnection});
-    QCOMPARE(reply.connections, isSafe ? 2 : 1);
+    QCOMPARE(reply.received.count(" HTTP/1.1\r\n"), isSafe ? 2 : 1);
     QCOMPARE(otherReply.connections, 0);
 }
 
@@ -308,6 +309,7 @@ void tst_NetworkManagerTransport::waitsForProxiesWithinTheTimeout()
 }
 
 /// A server that sends a head without an end occupies Qt's network thread.
+/// On Windows, Qt waits up to five seconds for the thread of the first request.
 void tst_NetworkManagerTransport::answersWhileAHeadDoesNotEnd()
 {
     std::promise<quint16> port;
@@ -341,7 +343,7 @@ void tst_NetworkManagerTransport::answersWhileAHeadDoesNotEnd()
         endless->abort();
     });
     NetworkManager network(u"http://127.0.0.1:%1"_s.arg(port.get_future().get()), m_identity,
-                           {.requestTimeout = 1000});
+                           {.requestTimeout = IsWindows ? 12'000 : 1000});
     SignalRecorder recorder(network);
     network.login(u"a"_s, u"b"_s);
     const bool timedOut = recorder.waitForEvents(2);
