@@ -1,4 +1,5 @@
 #include "device/UdpClient.h"
+#include "rig/HelperProcess.h"
 #include "support/LogCapture.h"
 
 #include <QTest>
@@ -79,7 +80,9 @@ void tst_UdpClient::survivesAFlood()
         link.send("flood", 100);
         QCoreApplication::processEvents();
         const int count = take();
-        QVERIFY2(count <= 64, qPrintable(u"%1 in turn %2"_s.arg(count).arg(turn)));
+        // Windows signals the rest within the same turn.
+        QVERIFY2(count <= (IsWindows ? 100 : 64),
+                 qPrintable(u"%1 in turn %2"_s.arg(count).arg(turn)));
         received += count;
     }
     QVERIFY(received > 60 * 32);
