@@ -6,6 +6,7 @@
 #include "platform/Processes.h"
 #include "platform/Registry.h"
 #include "platform/Shortcuts.h"
+#include "platform/StopRequest.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -48,11 +49,6 @@ bool isMainThread()
     return application && QThread::currentThread() == application->thread();
 }
 
-bool mustEnd(const std::stop_token& stop)
-{
-    return stop.stop_requested() || QThread::currentThread()->isInterruptionRequested();
-}
-
 } // namespace
 
 ProcessManager::ProcessManager(QString googleMeetingUrl)
@@ -65,7 +61,7 @@ bool ProcessManager::startProcess(const QString& path)
     constexpr auto Function = "ProcessManager::startProcess";
     Log::info(Function) << "path:" << path;
     if (!platform::startDetached(path, {})) {
-        if (mustEnd({}))
+        if (platform::mustEnd())
             return false; // nothing failed, the program ends
         Log::error(Function) << "started process failed:";
         return false;
@@ -83,7 +79,7 @@ bool ProcessManager::startProcess(const QString& name, const QStringList& argume
     const QString call = name + u' ' + arguments.value(0) + u' ' + arguments.value(1);
     if (started)
         Log::info(Function) << "started process success, " << call;
-    else if (mustEnd(stop))
+    else if (platform::mustEnd(stop))
         Log::info(Function) << "start " << name << " interrupted";
     else
         Log::error(Function) << "started process failed, " << call;
@@ -198,7 +194,7 @@ bool ProcessManager::getShortcutTarget(const QString& shortcut, QString& target)
     constexpr auto Function = "ProcessManager::getShortcutTarget";
     const auto result = platform::shortcutTarget(shortcut, ShortcutPatience);
     const bool succeeded = result.finished && result.exitCode == 0;
-    if (!succeeded && mustEnd({}))
+    if (!succeeded && platform::mustEnd())
         return false; // nothing failed, the program ends
     if (!result.finished) {
         Log::error(Function) << "Process failed or timeout:" << result.processError;

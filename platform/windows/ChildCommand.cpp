@@ -1,8 +1,9 @@
 #include "platform/windows/ChildCommand.h"
 
+#include "platform/StopRequest.h"
+
 #include <QDeadlineTimer>
 #include <QProcess>
-#include <QThread>
 
 #include <future>
 #include <thread>
@@ -12,11 +13,6 @@ namespace
 {
 
 constexpr int SliceMs = 50; // longest delay until a stop request is noticed
-
-bool mustEnd(const std::stop_token& stop)
-{
-    return stop.stop_requested() || QThread::currentThread()->isInterruptionRequested();
-}
 
 } // namespace
 
