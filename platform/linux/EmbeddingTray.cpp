@@ -46,6 +46,7 @@ int screenNumber()
 
 EmbeddingTray::EmbeddingTray(std::function<void()> appeared)
     : m_appeared(std::move(appeared))
+    , m_announcement(xServer() ? atom(xServer(), "MANAGER") : 0)
 {
     qGuiApp->installNativeEventFilter(this);
 }
@@ -70,12 +71,11 @@ bool EmbeddingTray::exists()
 /// A tray announces itself to all clients.
 bool EmbeddingTray::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*)
 {
-    xcb_connection_t* const server = xServer();
-    if (!server || eventType != "xcb_generic_event_t")
+    if (eventType != "xcb_generic_event_t")
         return false;
     const auto* const event = static_cast<const xcb_client_message_event_t*>(message);
     const bool isMessage = (event->response_type & 0x7f) == XCB_CLIENT_MESSAGE;
-    if (isMessage && event->type == atom(server, "MANAGER"))
+    if (isMessage && event->type == m_announcement)
         m_appeared();
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractNativeEventFilter>
 
+#include <cstdint>
 #include <functional>
 
 /// Looks for the tray of an X11 desktop that embeds the windows of icons (XEmbed). Main thread.
@@ -20,4 +21,5 @@ public:
 
 private:
     const std::function<void()> m_appeared;
+    const std::uint32_t m_announcement; // the X11 atom of a tray's announcement
 };
