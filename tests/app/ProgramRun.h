@@ -79,6 +79,32 @@ private:
     QProcessEnvironment m_environment;
 };
 
+/// A virtual screen, which ends with this object.
+class VirtualScreen : public QProcess
+{
+public:
+    explicit VirtualScreen(const QStringList& options = {})
+    {
+        start(QStringLiteral("Xvfb"),
+              QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"),
+                          QStringLiteral("-nolisten"), QStringLiteral("tcp")} +
+                  options);
+    }
+    ~VirtualScreen() override
+    {
+        kill();
+        waitForFinished();
+    }
+
+    /// Waits for the screen and returns its value for DISPLAY, ":" if it did not start.
+    QString display(int patience = 60000)
+    {
+        while (!canReadLine() && waitForReadyRead(patience)) {
+        }
+        return u':' + QString::fromLatin1(readLine().trimmed());
+    }
+};
+
 /// The end of the channel at the display. The program connects to it in the last step of its start.
 class DisplayEnd
 {

@@ -101,11 +101,9 @@ void tst_StartAndQuit::quitsCleanlyAHundredTimes()
 void tst_StartAndQuit::endsWithItsScreen()
 {
     for (int round = 0; round < 5; ++round) {
-        QProcess screen;
-        screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
-        QTRY_VERIFY_WITH_TIMEOUT(screen.canReadLine(), Patience);
+        VirtualScreen screen;
         ProgramHome home;
-        home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
+        home.set(u"DISPLAY"_s, screen.display());
         DisplayEnd display(home);
         QVERIFY(QFile::copy(u"/bin/sleep"_s, home.path() + "/BridgeAgent"_L1));
         QProcess companion;

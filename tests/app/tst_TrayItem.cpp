@@ -104,11 +104,9 @@ void tst_TrayItem::oneActivationOpensTheWindow_data()
 void tst_TrayItem::oneActivationOpensTheWindow()
 {
     QFETCH(bool, panelFirst);
-    QProcess screen;
-    screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(screen.canReadLine(), Patience);
+    VirtualScreen screen;
     ProgramHome home;
-    home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
+    home.set(u"DISPLAY"_s, screen.display());
     DisplayEnd display(home);
 
     std::optional<Panel> panel;

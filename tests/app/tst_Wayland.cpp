@@ -28,12 +28,9 @@ void tst_Wayland::compositorMovesTheWindow()
 {
     if (QStandardPaths::findExecutable(u"weston"_s).isEmpty())
         QSKIP("weston is not installed");
-    QProcess screen;
-    screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-                             u"0"_s, u"968x666x24"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(screen.canReadLine(), Patience);
+    VirtualScreen screen({u"-screen"_s, u"0"_s, u"968x666x24"_s});
     ProgramHome home;
-    home.set(u"DISPLAY"_s, u':' + QString::fromLatin1(screen.readLine().trimmed()));
+    home.set(u"DISPLAY"_s, screen.display());
     DisplayEnd display(home);
     QFile settings(home.path() + "/weston.ini"_L1);
     QVERIFY(settings.open(QIODevice::WriteOnly));
