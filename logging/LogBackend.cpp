@@ -60,8 +60,8 @@ char* putTime(char* to, const google::LogMessageTime& time)
     return put(to, time.usec(), 6);
 }
 
-// "[INFO] [05-19 10:11:12.123456] [ 4242] [Class::function]". Formatted in a buffer, because
-// formatted stream operations for every part would be slower.
+// "[INFO] [05-19 10:11:12.123456] [ 4242] [Class::function]". Formatted in a buffer, which
+// is faster than a stream.
 void writePrefix(std::ostream& out, const Origin& origin, const google::LogMessageTime& time)
 {
     constexpr std::size_t ThreadWidth = 5;

@@ -57,7 +57,7 @@ public:
     /// @param Key        a ManualDirection
     /// @param BtnStatus  a ButtonStatus
     Q_INVOKABLE void scale(int Key, int BtnStatus);
-    /// Sends Btn_Up for every movement that is held. Any thread.
+    /// Ends all movements whose button is still pressed, by sending Btn_Up. Any thread.
     void releaseMovements();
     /// @param PresetNum     a PresetNumber
     /// @param PresetStatus  a PresetAction

@@ -4,8 +4,8 @@ cmake_minimum_required(VERSION 3.25)
 # Installs the program into a folder and packs the folder into an installer, with a file of its SHA-256 sum
 # beside it. The uninstaller removes the files of this list one by one, and no others.
 #
-# SIGN is run for every program and library, the uninstaller and the installer, whose path is its last
-# argument. With OBJCOPY and STRIP the symbols of our own files move to SYMBOLS.
+# The command SIGN gets the path of a file as its last argument. It is run once for each program and library,
+# the uninstaller and the installer. With OBJCOPY and STRIP the symbols of our own files move to SYMBOLS.
 file(REMOVE_RECURSE "${STAGE}")
 set(config "")
 if(CONFIG)

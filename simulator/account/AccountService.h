@@ -38,7 +38,7 @@ public:
     [[nodiscard]] AccountStore& store() { return m_store; }
 
     void setFault(Endpoint endpoint, Kind kind);
-    void setFault(Kind kind); ///< for every endpoint
+    void setFault(Kind kind); ///< the same fault at all endpoints
     /// Answers every request with status 200 and this body.
     void setCannedReply(Endpoint endpoint, const QByteArray& body);
     [[nodiscard]] Kind fault(Endpoint endpoint) const;
