@@ -8,12 +8,9 @@
 set -euo pipefail
 source "$(dirname "$0")/tools/common.sh"
 
+print_help_if_asked "$@"
 headless=false
 case "${1:-}" in
--h | --help)
-  sed -n '2,7s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
 --headless) headless=true ;;
 "") ;;
 *) fail "unknown option '$1'" "./run.sh --help" ;;

@@ -4,13 +4,7 @@
 # A preset is dev (the default), asan, tsan or release. The tests run on a virtual screen.
 set -euo pipefail
 source "$(dirname "$0")/tools/common.sh"
-
-case "${1:-}" in
--h | --help)
-  sed -n '2,4s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 presets=("$@")
 [ ${#presets[@]} -gt 0 ] || presets=(dev)
 for preset in "${presets[@]}"; do

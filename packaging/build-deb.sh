@@ -6,12 +6,7 @@
 # display pass -DVORN_PORTALHUB_LIBRARY=<library of the display's maker>.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,6s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 folder=${1:-build/package}
 shift || true
 need_packages "${build_packages[@]}" dpkg-dev file gzip

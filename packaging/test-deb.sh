@@ -6,12 +6,7 @@
 # again in each run, in /var/tmp or in VORN_PACKAGE_ROOT. Needs root.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,6s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 [ "$(id -u)" -eq 0 ] || fail "a clean root needs root" "run it again as root or with sudo"
 release=${1:-bookworm}
 clean_root=${VORN_PACKAGE_ROOT:-/var/tmp/vorn-package-root}

@@ -5,12 +5,7 @@
 # compiler cache. Where the packages differ, diffoscope shows how.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,5s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 need_packages git
 cd "$root"
 work=$(mktemp -d -p /var/tmp)

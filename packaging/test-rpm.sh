@@ -6,12 +6,7 @@
 # unpacked into a temporary folder and started there on a virtual screen. It is left in build/rpm.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,6s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" rpm cpio desktop-file-utils git
 cd "$root"
 top=$root/build/rpm

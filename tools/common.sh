@@ -37,6 +37,13 @@ fail() {
   exit 1
 }
 
+# print_help_if_asked "$@"   prints the comment at the top of the running script for -h and --help, and ends it.
+print_help_if_asked() {
+  [[ ${1:-} =~ ^(-h|--help)$ ]] || return 0
+  sed -n '2,${/^#/!q; s/^# \{0,1\}//p}' "$0"
+  exit 0
+}
+
 # need_packages <package>...   installs those that are missing.
 need_packages() {
   local missing=() package

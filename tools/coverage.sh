@@ -4,12 +4,7 @@
 # A page for each file is left in build/coverage/report. Failing tests are named, and do not end the run.
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,4s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" "${test_packages[@]}" gcovr
 cd "$root"
 mkdir -p build

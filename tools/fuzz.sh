@@ -7,12 +7,7 @@
 # build/fuzz/findings, and the exit code is 1. Repeat it with: build/fuzz/bin/fuzz_<name> <file>
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,7s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 need_packages "${build_packages[@]}" clang libclang-rt-dev
 cd "$root"
 seconds=${1:-20}

@@ -4,11 +4,8 @@
 # The fast checks come first. With --fast, the checks that compile are left out.
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
+print_help_if_asked "$@"
 case "${1:-}" in
--h | --help)
-  sed -n '2,4s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
 --fast | "") ;;
 *) fail "unknown option '$1'" "./tools/lint.sh --help" ;;
 esac

@@ -5,12 +5,7 @@
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,4s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 mount_root
 step "Building the benchmark"
 in_root "$windows_qt/bin/qt-cmake" -S /src -B /build/windows -DVORN_BUILD_BENCH=ON >"$windows_root/build/configure.log" 2>&1 ||

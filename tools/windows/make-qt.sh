@@ -8,12 +8,7 @@
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,7s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 archive=${1:-$root/build/qt-mingw-w64.tar.xz}
 [ "$(id -u)" -eq 0 ] || fail "the Debian root needs root" "run it again as root or with sudo"
 

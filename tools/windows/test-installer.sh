@@ -7,12 +7,7 @@
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
-case "${1:-}" in
--h | --help)
-  sed -n '2,6s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 need_packages "${screen_packages[@]}"
 mount_root
 

@@ -9,12 +9,7 @@ set -euo pipefail
 source "$(dirname "$0")/../common.sh"
 source "$root/tools/windows/settings.sh"
 
-case "${1:-}" in
--h | --help)
-  sed -n '2,7s/^# \{0,1\}//p' "$0"
-  exit 0
-  ;;
-esac
+print_help_if_asked "$@"
 [ "$(id -u)" -eq 0 ] || fail "the Debian root needs root" "run it again as root or with sudo"
 
 targets=()
