@@ -8,10 +8,12 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -21,6 +23,19 @@ namespace
 
 constexpr auto PollInterval = 5ms;
 constexpr qint64 MaxUnwritten = qint64{1} * 1024 * 1024;
+
+QString runTool(const QStringList& arguments)
+{
+    QProcess tool;
+    tool.start(u"xdotool"_s, arguments);
+    tool.waitForFinished();
+    return QString::fromLocal8Bit(tool.readAllStandardOutput()).trimmed();
+}
+
+QString visibleWindow(const QString& title)
+{
+    return runTool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, title});
+}
 
 } // namespace
 
@@ -169,6 +184,17 @@ void FloodedProgram::askForWindow() const
     if (socket.waitForConnected())
         socket.write("activate");
     socket.waitForBytesWritten();
+}
+
+// Positions in the window: the entry of the meetings page, and the button on the page.
+bool FloodedProgram::startSetUp()
+{
+    const QString window = visibleWindow(u"^VORNApp$"_s);
+    for (const auto& [x, y] : {std::pair(129, 229), std::pair(563, 430)}) {
+        runTool({u"mousemove"_s, u"--sync"_s, u"--window"_s, window, QString::number(x),
+                 QString::number(y), u"click"_s, u"1"_s});
+    }
+    return waitUntil([] { return !visibleWindow(u"^VORN Bar$"_s).isEmpty(); });
 }
 
 bool FloodedProgram::quit()

@@ -46,6 +46,11 @@ public:
     bool hasLogged(const QByteArray& text) const;
     /// Asks for the window as a second start does, without waiting for the answer.
     void askForWindow() const;
+    /// Presses "Start Setup" on the page that shows a display waiting for its first set-up. False
+    /// if the monitor window does not open.
+    bool startSetUp();
+    /// The folder where the program finds the devices of this PC.
+    QString deviceRoot() const { return m_home.filePath(QStringLiteral("sys")); }
     /// Ends the program as the tray's "Quit" does.
     bool quit();
 
