@@ -23,6 +23,7 @@ private slots:
     void init();
 
     void keepsValuesAcrossARestart();
+    void syncsTheFolderWithEachChange();
     void leavesNoTraceOfClearedValues();
     void dropsWritesOfAnEndedSignIn();
     void logsAFileThatCannotBeOpened();
@@ -113,6 +114,16 @@ void tst_DBManager::keepsValuesAcrossARestart()
     DBManager db(m_path);
     QCOMPARE(db.getUserData(u"email"_s, {}), QVariant(text));
     QVERIFY(db.getUserData(u"nothing"_s, u"default"_s).isNull());
+}
+
+/// bench/powercut shows what a loss of power leaves otherwise.
+void tst_DBManager::syncsTheFolderWithEachChange()
+{
+    constexpr int Extra = 3;
+    const DBManager db(m_path);
+    QSqlQuery query(u"PRAGMA synchronous"_s);
+    QVERIFY(query.next());
+    QCOMPARE(query.value(0).toInt(), Extra);
 }
 
 void tst_DBManager::leavesNoTraceOfClearedValues()
