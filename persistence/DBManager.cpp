@@ -1,6 +1,7 @@
 #include "persistence/DBManager.h"
 
 #include "logging/Log.h"
+#include "platform/FileSync.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -206,6 +207,11 @@ void DBManager::noteClearing()
     if (m_dbPath.isEmpty())
         return;
     QFile note(clearingNote());
-    if (!note.open(QIODevice::WriteOnly))
+    if (!note.open(QIODevice::WriteOnly)) {
         Log::error("DBManager::clearUserData") << "Cannot note the sign-out:" << note.errorString();
+        return;
+    }
+    note.close();
+    if (!platform::syncFile(note.fileName()))
+        Log::error("DBManager::clearUserData") << "Cannot write the note through to the disk";
 }
