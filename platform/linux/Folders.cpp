@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <unistd.h>
@@ -28,13 +29,20 @@ bool canWrite(const QString& folder)
     return ::access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
 }
 
+/// Leaves no target that is incomplete, since it would never be copied again.
 void copyOnce(const QString& source, const QString& target)
 {
-    if (QFileInfo::exists(target) || !QFile::copy(source, target))
+    QFile original(source);
+    if (QFileInfo::exists(target) || !QFileInfo(source).isFile() ||
+        !original.open(QIODevice::ReadOnly))
         return;
-    // The installed file is usually read-only, and the copy inherits its permissions.
-    QFile::setPermissions(target,
-                          QFile::permissions(target) | QFile::ReadOwner | QFile::WriteOwner);
+    QSaveFile copy(target);
+    if (!copy.open(QIODevice::WriteOnly))
+        return;
+    // The installed file is usually read-only.
+    copy.setPermissions(original.permissions() | QFile::ReadOwner | QFile::WriteOwner);
+    copy.write(original.readAll());
+    copy.commit();
 }
 
 } // namespace
