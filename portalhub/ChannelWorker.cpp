@@ -3,6 +3,8 @@
 #include "portalhub/MessageLine.h"
 
 #include <QDebug>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QLocalSocket>
 #include <QThread>
 #include <QTimer>
@@ -58,22 +60,43 @@ void ChannelWorker::start()
     connect(m_socket, &QLocalSocket::bytesWritten, this,
             [this] { m_outgoing.setUnwritten(m_socket->bytesToWrite()); });
 
+    m_folder = new QFileSystemWatcher(this);
+    connect(m_folder, &QFileSystemWatcher::directoryChanged, this, &ChannelWorker::tryConnect);
     m_reconnectTimer = new QTimer(this);
     m_reconnectTimer->setInterval(m_reconnectInterval);
     connect(m_reconnectTimer, &QTimer::timeout, this, &ChannelWorker::tryConnect);
-    m_reconnectTimer->start();
     tryConnect();
 }
 
 void ChannelWorker::tryConnect()
 {
-    if (m_socket->state() == QLocalSocket::UnconnectedState)
+    if (m_socket->state() != QLocalSocket::UnconnectedState)
+        return;
+    const bool isAwaited = isServerAwaited();
+    if (isAwaited)
+        m_reconnectTimer->stop();
+    else if (!m_reconnectTimer->isActive())
+        m_reconnectTimer->start();
+    if (!isAwaited)
         m_socket->connectToServer(m_serverName);
+}
+
+// The folder is watched before the look at the file, so that no server is missed in between. A pipe
+// of Windows lies in no folder that could be watched.
+bool ChannelWorker::isServerAwaited()
+{
+    const QFileInfo file(m_serverName);
+    if (!file.isAbsolute())
+        return false;
+    const bool isWatched = !m_folder->directories().isEmpty() || m_folder->addPath(file.path());
+    return isWatched && !file.exists();
 }
 
 void ChannelWorker::onConnected()
 {
     m_reconnectTimer->stop();
+    if (const QStringList folders = m_folder->directories(); !folders.isEmpty())
+        m_folder->removePaths(folders);
     m_reader.reset();
     m_malformed = 0;
     m_outgoing.open();

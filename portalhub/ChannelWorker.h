@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 
+class QFileSystemWatcher;
 class QLocalSocket;
 class QTimer;
 
@@ -40,6 +41,8 @@ signals:
 
 private:
     void tryConnect();
+    /// Whether a server that starts to listen is noticed without further attempts.
+    bool isServerAwaited();
     void onConnected();
     void onDisconnected();
     void readLines();
@@ -56,6 +59,7 @@ private:
     // Used on the thread of the worker only.
     QLocalSocket* m_socket = nullptr;
     QTimer* m_reconnectTimer = nullptr;
+    QFileSystemWatcher* m_folder = nullptr; // of the socket
     LineReader m_reader;
     qsizetype m_malformed = 0; // number of lines without a valid id on this connection
 };

@@ -27,6 +27,9 @@ private slots:
     void cleanup();
     void messagesWithoutConnectionAreDropped();
     void clientReconnects();
+#ifdef Q_OS_LINUX
+    void waitsWithoutPollingForAServer();
+#endif
     void malformedLinesDoNotStopDelivery();
     void slowReaderFillsABoundedBuffer();
     void hundredStartsAndStopsUnderLoad();
@@ -119,6 +122,17 @@ void tst_ChannelClient::clientReconnects()
     m_link->dropClients();
     QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, Patience);
 }
+
+#ifdef Q_OS_LINUX
+void tst_ChannelClient::waitsWithoutPollingForAServer()
+{
+    m_client = std::make_unique<ChannelClient>(m_folder->name(), 1h);
+    QCOMPARE(m_client->initChannel(m_inbox->callback()), ErrorCode::Success);
+    QVERIFY(!QTest::qWaitFor([&] { return m_link->clientCount() > 0; }, 50));
+    QCOMPARE(m_link->listen(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(m_link->clientCount(), 1, Patience);
+}
+#endif
 
 // Lines with a valid id are delivered unchecked, others are skipped.
 void tst_ChannelClient::malformedLinesDoNotStopDelivery()
