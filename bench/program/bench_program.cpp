@@ -21,7 +21,8 @@ constexpr int StartRounds = 9;
 constexpr int SettleTime = 2000;
 constexpr int IdleTime = 40000;
 constexpr int RestTime = 20000;
-constexpr int StagingTime = 17000; // until the page has shown all devices
+constexpr int StagingTime = 17000;  // until the page has shown all devices
+constexpr int GivingUpTime = 33000; // until the page no longer waits for devices
 
 void waitFor(int milliseconds)
 {
@@ -82,8 +83,8 @@ void measureResting(const QTemporaryDir& home)
     QObject::connect(&display, &QLocalServer::newConnection, &display, [&display] {
         display.nextPendingConnection()->write("0 {\"cmd\":0,\"type\":2,\"isReady\":1}\n");
     });
-    waitFor(StagingTime);
-    printWakeUps("resting, waiting for devices", program);
+    waitFor(GivingUpTime);
+    printWakeUps("resting, without the devices", program);
 }
 
 // The connected program asks for the firmware version and checks the devices.

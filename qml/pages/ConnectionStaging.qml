@@ -33,9 +33,15 @@ Item {
     property int tickInterval: 500
 
     readonly property bool waiting: active && !connectComplete
-    // When nothing blinks, one timer event per second is enough.
+    // When nothing blinks, one timer event per second is enough, and none while there is nothing to count.
     readonly property bool slow: !watched || connectTimeout
     readonly property bool blinking: blinkTimer.running
+    readonly property bool micNext: micConnected && !showMicConnected
+    readonly property bool spkNext: showMicConnected && spkConnected && !showSpkConnected
+    readonly property bool camNext: showMicConnected && showSpkConnected && camConnected && !showCamConnected
+    // After the time-out, time counts only for a device that is shown next.
+    readonly property bool counting: !connectTimeout || micNext || spkNext || camNext
+                                     || (deviceWait >= 0 && deviceWait < deviceShowInterval + firstShowInterval)
     // Milliseconds waited for the next device and for all devices, -1 before the first tick. They are sums of timer
     // intervals, which follow a monotonic clock.
     property int deviceWait: -1
@@ -56,11 +62,7 @@ Item {
     function showNext(): void {
         if (staging.deviceWait >= 0)
             staging.deviceWait += staging.tickInterval;
-        const first = staging.micConnected && !staging.showMicConnected;
-        const second = staging.showMicConnected && staging.spkConnected && !staging.showSpkConnected;
-        const third = staging.showMicConnected && staging.showSpkConnected && staging.camConnected
-                      && !staging.showCamConnected;
-        if (!first && !second && !third)
+        if (!staging.micNext && !staging.spkNext && !staging.camNext)
             return;
         if (staging.deviceWait < 0)
             staging.deviceWait = 0;
@@ -68,9 +70,9 @@ Item {
             return;
         staging.firstShowInterval = 0;
         staging.deviceWait = -1;
-        if (first)
+        if (staging.micNext)
             staging.showMicConnected = true;
-        else if (second)
+        else if (staging.spkNext)
             staging.showSpkConnected = true;
         else
             staging.showCamConnected = true;
@@ -140,7 +142,7 @@ Item {
     Timer {
         interval: 2 * staging.tickInterval
         repeat: true
-        running: staging.waiting && staging.slow
+        running: staging.waiting && staging.slow && staging.counting
         onTriggered: {
             for (let i = 0; i < 2; ++i) {
                 staging.showNext();

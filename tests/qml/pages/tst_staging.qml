@@ -60,6 +60,8 @@ TestCase {
         test.cam = false;
         runFor(31000);
         verify(staging.connectTimeout);
+        compare(wakeUps(), []);
+        test.cam = true;
         compare(wakeUps(), [1000]);
     }
 
