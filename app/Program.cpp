@@ -67,6 +67,7 @@ void Program::publish(QQmlContext* context)
     context->setContextProperty(u"ptz"_s, &m_interface->camera());
     context->setContextProperty(u"announcer"_s, &m_announcer);
     context->setContextProperty(u"windowManager"_s, &*m_windowManager);
+    context->setContextProperty(u"windowPlace"_s, &m_windowPlace);
     context->setContextProperty(u"deviceControl"_s, &*m_deviceControl);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/Interface.h"
 #include "app/WindowManager.h"
+#include "app/WindowPlace.h"
 #include "device/DeviceControl.h"
 #include "device/PortalHubChannel.h"
 #include "launch/ProcessManager.h"
@@ -39,6 +40,7 @@ private:
     PortalHubChannel m_channel;
     UserProfile m_profile;
     Announcer m_announcer;
+    WindowPlace m_windowPlace;
     std::optional<FileInfo> m_fileInfo;
     std::optional<ProcessManager> m_programs;
     std::optional<WindowManager> m_windowManager;

@@ -3,11 +3,9 @@
 #include "logging/Log.h"
 #include "platform/InstanceObjects.h"
 #include "platform/TrayKeys.h"
-#include "platform/WindowMoves.h"
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QCursor>
 #include <QIcon>
 #include <QLocalSocket>
 #include <QTimer>
@@ -162,16 +160,6 @@ void WindowManager::explainClose()
                                 : tr("Double-click its icon in the tray to open the window again.");
     m_trayIcon->showMessage(title, wayBack, m_trayIcon->icon());
     emit closeExplained();
-}
-
-bool WindowManager::systemMovesWindows() const
-{
-    return platform::systemMovesWindows();
-}
-
-QPoint WindowManager::cursorPosition() const
-{
-    return QCursor::pos();
 }
 
 void WindowManager::askToShow(bool show)

@@ -6,7 +6,6 @@
 #include <QLocalServer>
 #include <QMenu>
 #include <QObject>
-#include <QPoint>
 #include <QSystemTrayIcon>
 
 #include <chrono>
@@ -34,10 +33,6 @@ public:
     Q_INVOKABLE void hideToTray();
     /// Whether an earlier run has said that the program continues when its window is closed.
     void setCloseExplained(bool explained) { m_closeExplained = explained; }
-    /// True where only the window system moves windows, as under Wayland.
-    Q_INVOKABLE bool systemMovesWindows() const;
-    /// Position of the pointer on the virtual desktop, in device-independent pixels.
-    Q_INVOKABLE QPoint cursorPosition() const;
 
     /// Releases the server's name, so that a new start can become the first instance.
     void closeServer();

@@ -15,6 +15,7 @@ Window {
 
     readonly property var device: deviceControl // qmllint disable unqualified
     readonly property var windows: windowManager // qmllint disable unqualified
+    readonly property var place: windowPlace // qmllint disable unqualified
 
     function showAndRaise(): void {
         if (monitorWindow !== null && monitorWindow.visibility !== Window.Minimized) {
@@ -22,9 +23,7 @@ Window {
             monitorWindow.requestActivate();
             return;
         }
-        // The system chooses the first place, unless the window does not fit.
-        if (mainWindow.shown || mainWindow.width > Screen.width || mainWindow.height > Screen.height)
-            mainWindow.keepReachable();
+        mainWindow.place.settle();
         mainWindow.visibility = Window.Windowed;
         mainWindow.visible = true;
         // Staying on top for one turn of the event loop forces the window in front of those of other
@@ -33,26 +32,6 @@ Window {
         mainWindow.raise();
         mainWindow.requestActivate();
         Qt.callLater(dropStayOnTop);
-    }
-
-    // Length of the part of a span that lies between two positions.
-    function partBetween(start: real, length: real, from: real, to: real): real {
-        return Math.max(0, Math.min(start + length, to) - Math.max(start, from));
-    }
-
-    // Moves the window onto a screen when less than half of it can be seen, as after its screen was unplugged. Of a
-    // window that is larger than the screen the title buttons stay visible.
-    function keepReachable(): void {
-        const areas = Array.from(Application.screens, screen => Qt.rect(screen.virtualX, screen.virtualY,
-                                                                        screen.width, screen.height));
-        const visiblePart = area => partBetween(mainWindow.x, mainWindow.width, area.left, area.right)
-                                    * partBetween(mainWindow.y, mainWindow.height, area.top, area.bottom);
-        const area = areas.reduce((best, next) => visiblePart(next) > visiblePart(best) ? next : best);
-        const fits = mainWindow.width <= area.width && mainWindow.height <= area.height;
-        if (fits && visiblePart(area) >= mainWindow.width * mainWindow.height / 2)
-            return;
-        mainWindow.x = Math.min(Math.max(mainWindow.x, area.left), area.right - mainWindow.width);
-        mainWindow.y = Math.max(Math.min(mainWindow.y, area.bottom - mainWindow.height), area.top);
     }
 
     function dropStayOnTop(): void {
@@ -70,6 +49,7 @@ Window {
     LayoutMirroring.childrenInherit: true
 
     Component.onCompleted: {
+        mainWindow.place.manage(mainWindow, Qt.size(mainWindow.width, mainWindow.height));
         placed = true; // before raising, which blocks until the system has created the window
         showAndRaise();
     }
@@ -92,29 +72,19 @@ Window {
 
     // Without a shadow and with a small radius: minimising would bring back the system's title bar otherwise.
     Rectangle {
-        anchors.fill: parent
+        width: 968
+        height: 666
+        transformOrigin: Item.TopLeft
+        scale: mainWindow.place.fit
         color: Theme.windowColor
         radius: Theme.windowRadius
 
         MouseArea {
-            property point pressPoint
-            property point windowPoint
-
             anchors.fill: parent
-            // Screen positions, since window positions lag behind while the window moves and make it jump.
-            onPressed: mouse => {
-                pressPoint = mapToGlobal(mouse.x, mouse.y);
-                windowPoint = Qt.point(mainWindow.x, mainWindow.y);
-            }
-            onPositionChanged: {
-                if (mainWindow.windows.systemMovesWindows()) {
-                    mainWindow.startSystemMove();
-                    return;
-                }
-                const cursor = mainWindow.windows.cursorPosition();
-                mainWindow.x = windowPoint.x + cursor.x - pressPoint.x;
-                mainWindow.y = windowPoint.y + cursor.y - pressPoint.y;
-            }
+            onPressed: mouse => mainWindow.place.grab(mapToItem(null, mouse.x, mouse.y))
+            onPositionChanged: mainWindow.place.drag()
+            onReleased: mainWindow.place.drop()
+            onCanceled: mainWindow.place.drop()
         }
 
         // Created while the system maps the window.

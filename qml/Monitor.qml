@@ -14,6 +14,8 @@ Window {
     property int currentPage: page_id_waiting
 
     readonly property var device: deviceControl // qmllint disable unqualified
+    // With room for the title bar.
+    readonly property real fit: windowPlace.fitOf(Qt.size(1440, 850)) // qmllint disable unqualified
     readonly property int connectMode: device.connectMode
     readonly property int frameIndex: device.frameIndex
     // At least one frame has arrived since the last failure.
@@ -42,8 +44,8 @@ Window {
         monitor.device.setVideoSink(null);
     }
 
-    minimumWidth: 1440
-    minimumHeight: 810
+    minimumWidth: 1440 * fit
+    minimumHeight: 810 * fit
     width: minimumWidth
     height: minimumHeight
     //: Title of the window: the name of a product.

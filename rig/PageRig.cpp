@@ -98,6 +98,7 @@ void PageRig::publish(QQmlContext* context)
     context->setContextProperty(u"network"_s, &*m_network);
     context->setContextProperty(u"announcer"_s, &m_announcer);
     context->setContextProperty(u"windowManager"_s, &m_windows);
+    context->setContextProperty(u"windowPlace"_s, &m_windowPlace);
     context->setContextProperty(u"rig"_s, this);
     context->setContextProperty(u"screen"_s, &m_screen);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/WindowPlace.h"
 #include "peripherals/CameraControl.h"
 #include "qml/Announcer.h"
 #include "rig/Fakes.h"
@@ -8,7 +9,6 @@
 #include "account/NetworkManager.h"
 #include "rig/ScreenRig.h"
 
-#include <QPoint>
 #include <QVariant>
 
 class QQmlContext;
@@ -24,12 +24,9 @@ class PageWindows : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(int hidden MEMBER m_hidden)
-    Q_PROPERTY(QPoint cursor MEMBER m_cursor)
 
 public:
     Q_INVOKABLE void hideToTray() { ++m_hidden; }
-    Q_INVOKABLE bool systemMovesWindows() const { return false; }
-    Q_INVOKABLE QPoint cursorPosition() const { return m_cursor; }
 
 signals:
     void requestShow(bool show);
@@ -37,7 +34,6 @@ signals:
 
 private:
     int m_hidden = 0;
-    QPoint m_cursor;
 };
 
 /// The objects behind the pages in a test: the program's DeviceControl, CameraControl and
@@ -97,4 +93,5 @@ private:
     std::optional<NetworkManager> m_network;
     Announcer m_announcer;
     PageWindows m_windows;
+    WindowPlace m_windowPlace;
 };

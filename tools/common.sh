@@ -24,7 +24,7 @@ run_packages=(
   qml6-module-qtmultimedia qml6-module-qt5compat-graphicaleffects
 )
 # A virtual screen. Minimising, stay-on-top and tray clicks need a window manager and a tray.
-screen_packages=(xvfb xauth xdotool x11-utils imagemagick openbox trayer weston qt6-wayland dbus)
+screen_packages=(xvfb xauth xdotool x11-utils x11-xserver-utils imagemagick openbox trayer weston qt6-wayland dbus)
 test_packages=(qml6-module-qttest sqlite3)
 lint_packages=(clang-format clang-tidy g++-mingw-w64-x86-64-posix git python3 reuse shellcheck)
 

@@ -12,6 +12,7 @@ ControlButton {
 
     Item {
         anchors.fill: parent
+        anchors.bottomMargin: 1 // empty; at a fractional scale the clip reaches into the next cell
         clip: true
 
         Image {

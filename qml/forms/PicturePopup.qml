@@ -7,6 +7,7 @@ import "../controls"
 Popup {
     id: popup
 
+    readonly property var place: windowPlace // qmllint disable unqualified
     readonly property string defaultPicture: "qrc:/images/user_84x84.png"
     property alias preview: picture.imageSource
     property alias error: errorLabel.text
@@ -20,6 +21,8 @@ Popup {
 
     width: 420
     height: 239
+    transformOrigin: Popup.TopLeft
+    scale: popup.place.fit // not a child of the page that opens it
     padding: 0
     modal: true
     focus: true

@@ -44,6 +44,7 @@ private slots:
 private:
     QString mainWindow() const;
     QString trayWindow() const;
+    QString geometry() const { return xdotool({u"getwindowgeometry"_s, m_window}); }
     void click(int x, int y) const;
     bool isViewable();
     bool hides();
@@ -205,8 +206,8 @@ void tst_Window::dragMovesIt()
              QString::number(20 * scale), u"mousedown"_s, u"1"_s, u"mousemove_relative"_s,
              u"--sync"_s, u"60"_s, u"30"_s, u"mousemove_relative"_s, u"--sync"_s, u"60"_s, u"30"_s,
              u"mouseup"_s, u"1"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(
-        xdotool({u"getwindowgeometry"_s, m_window}).contains(u"Position: 240,180"_s), Patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(geometry().contains(u"Position: 240,180"_s), qPrintable(geometry()),
+                              Patience);
 }
 
 QTEST_GUILESS_MAIN(tst_Window)
