@@ -11,6 +11,10 @@ Item {
     // The active movement, -1 when there is none.
     property int heldMovement: -1
 
+    readonly property HeldKey repeats: HeldKey {
+        onReleased: keys.end()
+    }
+
     signal started(movement: int)
     signal ended(movement: int)
 
@@ -41,6 +45,7 @@ Item {
             return;
         const movement = keys.heldMovement;
         keys.heldMovement = -1;
+        keys.repeats.ignoreRelease();
         keys.ended(movement);
     }
 
@@ -64,10 +69,13 @@ Item {
         if (!keys.enabled || !keys.visible || chord || movement < 0)
             return;
         event.accepted = true;
+        if (movement === keys.heldMovement)
+            keys.repeats.ignoreRelease();
         if (event.isAutoRepeat || movement === keys.heldMovement)
             return;
         keys.end();
         keys.heldMovement = movement;
+        keys.repeats.press();
         keys.started(movement);
     }
     Keys.onReleased: event => {
@@ -76,6 +84,6 @@ Item {
             return;
         event.accepted = true;
         if (!event.isAutoRepeat)
-            keys.end();
+            keys.repeats.release();
     }
 }

@@ -20,10 +20,9 @@ Item {
     readonly property bool pointerHeld: pointer.pressed
     // The key that holds the button, 0 when none does.
     property int heldKey: 0
-    // Milliseconds: the shortest delay before the keyboard repeats a held key, and the longest time between the release
-    // and the press of a repeat.
-    readonly property int shortestDelay: 150
-    readonly property int longestGap: 50
+    readonly property HeldKey repeats: HeldKey {
+        onReleased: area.endPress()
+    }
     readonly property bool focused: control.activeFocus
     // The text inside the button, used as accessible name when the page sets none.
     readonly property string contentText: textIn(control).replace(/\s+/g, " ")
@@ -63,7 +62,7 @@ Item {
         if (area.heldKey === 0)
             return;
         area.heldKey = 0;
-        repeatGap.stop();
+        area.repeats.ignoreRelease();
         area.released();
     }
 
@@ -99,24 +98,19 @@ Item {
             return;
         event.accepted = true;
         if (event.key === area.heldKey)
-            repeatGap.stop();
+            area.repeats.ignoreRelease();
         if (event.isAutoRepeat || area.heldKey !== 0 || pointer.pressed)
             return;
         area.heldKey = event.key;
-        repeatDelay.restart();
+        area.repeats.press();
         area.pressed();
     }
     Keys.onReleased: (event) => {
         if (event.key !== area.heldKey)
             return;
         event.accepted = true;
-        if (event.isAutoRepeat)
-            return;
-        // On X11 Qt does not recognise each repeat of a held key. Then a press follows this release.
-        if (repeatDelay.running)
-            area.endPress();
-        else
-            repeatGap.restart();
+        if (!event.isAutoRepeat)
+            area.repeats.release();
     }
 
     MouseArea {
@@ -134,19 +128,6 @@ Item {
         onReleased: area.released()
         onClicked: area.clicked()
         onCanceled: area.canceled()
-    }
-
-    Timer {
-        id: repeatDelay
-
-        interval: area.shortestDelay
-    }
-
-    Timer {
-        id: repeatGap
-
-        interval: area.longestGap
-        onTriggered: area.endPress()
     }
 
     Timer {

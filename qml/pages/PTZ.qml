@@ -93,6 +93,7 @@ FocusScope {
         MovementKeys {
             id: movementKeys
 
+            objectName: "movementKeys"
             focused: panel.activeFocus
             onStarted: movement => panel.camera.scale(movement, Vorn.CameraControl.Btn_Down)
             onEnded: movement => panel.camera.scale(movement, Vorn.CameraControl.Btn_Up)

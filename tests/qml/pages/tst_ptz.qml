@@ -100,6 +100,20 @@ DisplayTest {
         compare(test.sent(), []);
     }
 
+    // On X11 the repeats of a held key may look like new presses.
+    function test_repeatsOfAKeyDoNotInterruptItsMovement(): void {
+        const keys = test.control("movementKeys") as MovementKeys;
+        test.panel.forceActiveFocus();
+        keyPress(Qt.Key_Up);
+        tryVerify(() => !keys.repeats.delay.running);
+        keyRelease(Qt.Key_Up);
+        keyPress(Qt.Key_Up);
+        compare(test.sent(), [test.scale(2, 0)]);
+        keyRelease(Qt.Key_Up);
+        tryVerify(() => keys.heldMovement < 0);
+        compare(test.sent(), [test.scale(2, 1)]);
+    }
+
     function test_movementEndsWithTheFocusAndThePage(): void {
         test.panel.forceActiveFocus();
         keyPress(Qt.Key_Up);
