@@ -1,9 +1,11 @@
 #include "app/FirstFrame.h"
 
 #include "app/WindowManager.h"
+#include "platform/ReducedMotion.h"
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPointer>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickWindow>
@@ -40,20 +42,32 @@ bool FirstFrame::load(WindowManager& windows)
     m_pages.reset();
     if (m_engine.rootObjects().isEmpty())
         return false;
-    showIconsAfterwards(windows);
+    finishAfterwards(windows);
     return true;
 }
 
-void FirstFrame::showIconsAfterwards(WindowManager& windows) const
+void FirstFrame::finishAfterwards(WindowManager& windows)
 {
-    const auto showIcons = [&windows] {
+    const auto finish = [this, &windows] {
         if (QGuiApplication::windowIcon().isNull()) // for task bars that know no desktop entries
             QGuiApplication::setWindowIcon(QIcon(u":/images/VORNApp.ico"_s));
         windows.showTrayIcon();
+        followReducedMotion();
     };
     const auto* const window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, &windows, showIcons,
+        window, &QQuickWindow::frameSwapped, &windows, finish,
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QTimer::singleShot(LongestWait, &windows, showIcons);
+    QTimer::singleShot(LongestWait, &windows, finish);
+}
+
+void FirstFrame::followReducedMotion()
+{
+    if (m_motion)
+        return;
+    const QPointer window(m_engine.rootObjects().constFirst());
+    m_motion = std::make_unique<platform::ReducedMotion>([window](bool isWanted) {
+        if (window)
+            window->setProperty("reducedMotion", isWanted);
+    });
 }

@@ -7,6 +7,10 @@
 class QQmlApplicationEngine;
 class QQmlComponent;
 class WindowManager;
+namespace platform
+{
+class ReducedMotion;
+}
 
 /// Brings the main window's first frame onto the screen early. Main thread.
 ///
@@ -17,7 +21,7 @@ class WindowManager;
 /// - The main window is shown empty and creates its pages while the window system maps it: the two
 ///   Loader items in Main.qml, of which the one that is not needed first waits for the first frame.
 /// - The tray icon, a window of its own, and the icon of the window are created after the first
-///   frame.
+///   frame, and the system is asked then whether the user wants animations.
 class FirstFrame
 {
 public:
@@ -27,15 +31,17 @@ public:
 
     /// Handles the events of the engine's thread; no event loop runs yet.
     void serveLoader();
-    /// Creates the main window; false when that fails. The icons follow the first frame, or
-    /// come after two seconds: a window that is not visible, on another workspace for example,
+    /// Creates the main window; false when that fails. The rest follows the first frame, or
+    /// comes after two seconds: a window that is not visible, on another workspace for example,
     /// draws no frame.
     bool load(WindowManager& windows);
 
 private:
-    void showIconsAfterwards(WindowManager& windows) const;
+    void finishAfterwards(WindowManager& windows);
+    void followReducedMotion();
 
     QQmlApplicationEngine& m_engine;
     const QUrl m_mainWindow;
     std::unique_ptr<QQmlComponent> m_pages; // only read ahead; the engine creates the window
+    std::unique_ptr<platform::ReducedMotion> m_motion;
 };

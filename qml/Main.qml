@@ -8,6 +8,8 @@ Window {
 
     // The monitor window while one exists.
     property Window monitorWindow: null
+    // Set by the program when it knows the system's setting.
+    property bool reducedMotion: false
     // True once the window is complete and about to be mapped.
     property bool placed: false
     // True once the first frame was shown.
@@ -54,6 +56,7 @@ Window {
         showAndRaise();
     }
     onFrameSwapped: shown = true
+    onReducedMotionChanged: Theme.reducedMotion = reducedMotion
     onClosing: close => {
         close.accepted = false;
         mainWindow.windows.hideToTray();

@@ -40,6 +40,8 @@ Item {
         border.color: root.checked ? root.checkedColor : root.normalColor
 
         Behavior on border.color {
+            enabled: !Theme.reducedMotion
+
             ColorAnimation {
                 duration: 200
             }
@@ -55,6 +57,8 @@ Item {
             color: root.checkedColor
 
             Behavior on width {
+                enabled: !Theme.reducedMotion
+
                 NumberAnimation {
                     duration: 200
                     easing.type: Easing.OutBack

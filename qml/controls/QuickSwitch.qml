@@ -33,6 +33,8 @@ Rectangle {
     Keys.forwardTo: [area]
 
     Behavior on color {
+        enabled: !Theme.reducedMotion
+
         ColorAnimation {
             id: colorAnimation
 
@@ -51,6 +53,8 @@ Rectangle {
         color: root.handleColor
 
         Behavior on x {
+            enabled: !Theme.reducedMotion
+
             NumberAnimation {
                 id: slide
 

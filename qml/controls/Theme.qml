@@ -13,6 +13,9 @@ QtObject {
     property bool highContrast: Application.styleHints.accessibility?.contrastPreference === 1 // qmllint disable
                                 || theme.contrast(system.window, system.windowText) > 20
 
+    // The user has asked the system to do without animations. Set by the main window.
+    property bool reducedMotion: false
+
     // Contrast ratio of two opaque colours, from 1 to 21 (WCAG 2).
     function contrast(one: color, other: color): real {
         const linear = part => part <= 0.03928 ? part / 12.92 : Math.pow((part + 0.055) / 1.055, 2.4);

@@ -70,6 +70,15 @@ TestCase {
         compare(toggle["clicks"], 2);
     }
 
+    function test_reducedMotionMovesTheSwitchAtOnce(): void {
+        const toggle = createTemporaryObject(switchComponent, test) as QuickSwitch;
+        Theme.reducedMotion = true;
+        mouseClick(toggle);
+        Theme.reducedMotion = false;
+        verify(!toggle.isAnimating);
+        compare(toggle.children[0].x, 60);
+    }
+
     function test_ownerDecides_data(): var {
         return [
             { tag: "label", act: box => mouseClick(box, box.width - 2, box.height / 2) },
