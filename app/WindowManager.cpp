@@ -1,6 +1,7 @@
 #include "app/WindowManager.h"
 
 #include "logging/Log.h"
+#include "platform/DesktopNotification.h"
 #include "platform/InstanceObjects.h"
 #include "platform/TrayKeys.h"
 
@@ -147,19 +148,29 @@ void WindowManager::hideToTray()
     explainClose();
 }
 
-/// Shows how to come back, once. Without a tray, the first close that has one shows it.
+/// Shows how to come back, once. A desktop without a tray and without notifications shows nothing,
+/// and the next close tries again.
 void WindowManager::explainClose()
 {
-    if (m_closeExplained || !m_trayIcon)
+    if (m_closeExplained)
         return;
-    m_closeExplained = true;
     //: Title of a message of the tray, shown when the window is closed for the first time.
     const QString title = tr("VORNApp is still running");
+    const auto remember = [this] {
+        m_closeExplained = true;
+        emit closeExplained();
+    };
+    if (!m_trayIcon) {
+        //: Message shown when the window is closed for the first time, on a desktop without a tray.
+        platform::notifyDesktop(title, tr("Start VORNApp again to open the window."), this,
+                                remember);
+        return;
+    }
     const QString wayBack = m_opening == SystemTray::Opening::Activation
                                 ? tr("Click its icon in the tray to open the window again.")
                                 : tr("Double-click its icon in the tray to open the window again.");
     m_trayIcon->showMessage(title, wayBack, m_trayIcon->icon());
-    emit closeExplained();
+    remember();
 }
 
 void WindowManager::askToShow(bool show)

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>انقر نقرًا مزدوجًا فوق أيقونته في علبة النظام لفتح النافذة مرة أخرى.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>شغّل VORNApp مرة أخرى لفتح النافذة.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

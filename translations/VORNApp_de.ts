@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Doppelklicken Sie auf das Symbol im Infobereich, um das Fenster wieder zu öffnen.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Starten Sie VORNApp erneut, um das Fenster zu öffnen.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

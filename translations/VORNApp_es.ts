@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Haga doble clic en su icono de la bandeja para volver a abrir la ventana.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Vuelva a iniciar VORNApp para abrir la ventana.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Double-cliquez sur son icône dans la zone de notification pour rouvrir la fenêtre.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Relancez VORNApp pour ouvrir la fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Fai doppio clic sulla sua icona nell&apos;area di notifica per riaprire la finestra.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Avvia di nuovo VORNApp per aprire la finestra.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>창을 다시 열려면 트레이의 아이콘을 두 번 클릭하세요.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>창을 열려면 VORNApp을 다시 시작하세요.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

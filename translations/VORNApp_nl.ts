@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Dubbelklik op het pictogram in het systeemvak om het venster weer te openen.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Start VORNApp opnieuw om het venster te openen.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

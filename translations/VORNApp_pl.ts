@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Kliknij dwukrotnie ikonę w zasobniku, aby ponownie otworzyć okno.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Uruchom ponownie VORNApp, aby otworzyć okno.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Clique duas vezes no ícone na bandeja para abrir a janela novamente.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Inicie o VORNApp novamente para abrir a janela.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>Dubbelklicka på ikonen i systemfältet för att öppna fönstret igen.</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>Starta VORNApp igen för att öppna fönstret.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

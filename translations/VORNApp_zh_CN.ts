@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>双击托盘中的图标可重新打开窗口。</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>再次启动 VORNApp 即可打开窗口。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -827,6 +827,11 @@ reset your password.</source>
         <source>Double-click its icon in the tray to open the window again.</source>
         <translation>按兩下系統匣中的圖示即可重新開啟視窗。</translation>
     </message>
+    <message>
+        <source>Start VORNApp again to open the window.</source>
+        <extracomment>Message shown when the window is closed for the first time, on a desktop without a tray.</extracomment>
+        <translation>再次啟動 VORNApp 即可開啟視窗。</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

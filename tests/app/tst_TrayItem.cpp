@@ -84,6 +84,24 @@ private:
     QString m_item;
 };
 
+/// The side of a desktop that shows notifications.
+class Notifications : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QString text;
+
+public slots:
+    uint Notify(const QString&, uint, const QString&, const QString&, const QString& body,
+                const QStringList&, const QVariantMap&, int)
+    {
+        text = body;
+        return 1;
+    }
+};
+
 /// Uses the program from a panel that knows StatusNotifier items, on a screen without another tray.
 class tst_TrayItem : public QObject
 {
@@ -92,6 +110,7 @@ class tst_TrayItem : public QObject
 private slots:
     void oneActivationOpensTheWindow_data();
     void oneActivationOpensTheWindow();
+    void closeIsExplainedWithoutATray();
 };
 
 void tst_TrayItem::oneActivationOpensTheWindow_data()
@@ -127,6 +146,32 @@ void tst_TrayItem::oneActivationOpensTheWindow()
     ::kill(static_cast<pid_t>(program->processId()), SIGTERM);
     QVERIFY(program->waitForFinished(Patience));
     QCOMPARE(program->exitCode(), 0);
+}
+
+void tst_TrayItem::closeIsExplainedWithoutATray()
+{
+    Notifications notifications;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.registerService(u"org.freedesktop.Notifications"_s));
+    bus.registerObject(u"/org/freedesktop/Notifications"_s, &notifications,
+                       QDBusConnection::ExportAllSlots);
+    VirtualScreen screen;
+    ProgramHome home;
+    home.set(u"DISPLAY"_s, screen.display());
+    DisplayEnd display(home);
+    const auto program = home.start(u"xcb"_s);
+    QVERIFY(display.nextProgram());
+    QProcess click;
+    click.setProcessEnvironment(home.environment());
+    const auto isExplained = [&] {
+        click.start(u"xdotool"_s, {u"mousemove"_s, u"943"_s, u"21"_s, u"click"_s, u"1"_s});
+        click.waitForFinished(Patience);
+        return !notifications.text.isEmpty();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isExplained(), Patience);
+    QCOMPARE(notifications.text, u"Start VORNApp again to open the window."_s);
+    ::kill(static_cast<pid_t>(program->processId()), SIGTERM);
+    QVERIFY(program->waitForFinished(Patience));
 }
 
 QTEST_GUILESS_MAIN(tst_TrayItem)
