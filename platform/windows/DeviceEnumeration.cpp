@@ -1,5 +1,7 @@
 #include "platform/DeviceEnumeration.h"
 
+#include <QFile>
+
 #include <qt_windows.h>
 
 #include <devpropdef.h>
@@ -34,6 +36,19 @@ const GUID& classGuid(platform::DeviceClass deviceClass)
         break;
     }
     return MediaClass;
+}
+
+QByteArrayView className(platform::DeviceClass deviceClass)
+{
+    switch (deviceClass) {
+    case platform::DeviceClass::Camera:
+        return "Camera";
+    case platform::DeviceClass::AudioEndpoint:
+        return "AudioEndpoint";
+    case platform::DeviceClass::Media:
+        break;
+    }
+    return "Media";
 }
 
 /// The present devices of one setup class.
@@ -77,6 +92,26 @@ private:
     HDEVINFO m_set;
 };
 
+/// Reads the devices from a file in place of the system, for tests without hardware. Each line
+/// holds the class, the instance id and the friendly name, separated by tabs.
+bool readDeviceList(const QString& path, platform::DeviceClass deviceClass,
+                    QList<platform::DeviceRecord>& records, quint32& errorCode)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        errorCode = ERROR_FILE_NOT_FOUND;
+        return false;
+    }
+    while (!file.atEnd()) {
+        const QList<QByteArray> fields = file.readLine().trimmed().split('\t');
+        if (fields.size() == 3 && fields.first() == className(deviceClass))
+            records << platform::DeviceRecord{QString::fromUtf8(fields[1]),
+                                              QString::fromUtf8(fields[2])};
+    }
+    errorCode = 0;
+    return true;
+}
+
 } // namespace
 
 namespace platform
@@ -84,6 +119,8 @@ namespace platform
 
 bool scanDevices(DeviceClass deviceClass, QList<DeviceRecord>& records, quint32& errorCode)
 {
+    if (const QString list = qEnvironmentVariable("VORN_DEVICE_LIST"); !list.isEmpty())
+        return readDeviceList(list, deviceClass, records, errorCode);
     const DeviceInfoSet devices(classGuid(deviceClass));
     if (!devices.isValid()) {
         errorCode = GetLastError();

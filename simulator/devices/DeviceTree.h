@@ -5,12 +5,14 @@
 namespace simulator
 {
 
-/// A tree of device attributes, laid out as /sys on Linux, in which the display's devices can be
-/// plugged and unplugged. Other content of the folder is left alone. Main thread only.
+/// A folder in which the display's devices can be plugged and unplugged, for a program that finds
+/// its devices there. Other content of the folder is left alone. Main thread only.
 ///
-/// A device is built in another place and renamed into the tree, so that it appears complete. The
-/// entries in the class folders, by which readers find it, are added last and removed first. As
-/// with hardware, a device can vanish while it is being read.
+/// On Linux it is a tree of device attributes, laid out as /sys. A device is built in another place
+/// and renamed into the tree, so that it appears complete. The entries in the class folders, by
+/// which readers find it, are added last and removed first. As with hardware, a device can vanish
+/// while it is being read. On Windows it is the file devices.txt, with the lines that
+/// platform/windows/DeviceEnumeration.cpp reads; it is replaced as a whole.
 class DeviceTree
 {
 public:

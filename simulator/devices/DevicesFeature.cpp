@@ -45,7 +45,8 @@ void DevicesFeature::addCommands(CommandInterpreter& interpreter)
     interpreter.add(
         {u"devices root"_s, u"<folder>"_s,
          u"Keeps a device tree, laid out as /sys, in the folder for a program started with\n"
-         "VORN_SYSFS_ROOT set to it. The tree is removed when the simulator ends. Linux only."_s,
+         "VORN_SYSFS_ROOT set to it. On Windows keeps the file devices.txt there, which the\n"
+         "variable VORN_DEVICE_LIST has to name. Removed when the simulator ends."_s,
          [this](CommandArguments& arguments) {
              const QString folder = arguments.rest(u"the folder"_s);
              return simpleAction([this, folder] { return setRoot(folder); });

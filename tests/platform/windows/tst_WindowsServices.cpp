@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <qt_windows.h>
@@ -112,6 +113,17 @@ void tst_WindowsServices::listsDevices()
         for (qsizetype i = 1; i < records.size(); ++i)
             QVERIFY(records[i].instanceId.contains(u'\\'));
     }
+
+    QTemporaryFile list;
+    QVERIFY(list.open());
+    list.write("Media\tUSB\\M\tA card\r\nCamera\tUSB\\C\tA camera\nCamera\n");
+    list.close();
+    qputenv("VORN_DEVICE_LIST", list.fileName().toUtf8());
+    QList<platform::DeviceRecord> listed;
+    quint32 error = 1;
+    QVERIFY(platform::scanDevices(DeviceClass::Camera, listed, error));
+    qunsetenv("VORN_DEVICE_LIST");
+    QCOMPARE(listed, (QList<platform::DeviceRecord>{{u"USB\\C"_s, u"A camera"_s}}));
 }
 
 void tst_WindowsServices::resolvesShortcuts()

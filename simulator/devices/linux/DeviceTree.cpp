@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
-#include <QOperatingSystemVersion>
 
 using namespace simulator;
 using namespace Qt::StringLiterals;
@@ -108,8 +107,6 @@ void removeEmptyFolders(const QString& root, QString folder)
 QString DeviceTree::open(const QString& root)
 {
     close();
-    if (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
-        return u"on Windows a program asks the system for its devices and reads no tree"_s;
     m_madeRoot = !QFileInfo::exists(root);
     if (!QDir().mkpath(root) || !QFileInfo(root).isWritable())
         return u"cannot write in the folder \"%1\""_s.arg(root);
