@@ -13,8 +13,8 @@ namespace platform
 [[nodiscard]] QString logBackupFolder();
 
 /// Folder of config.ini, config.json and userdata.db, without a trailing separator: the folder of
-/// the executable. On Linux, if that folder is not writable, a folder of the user, which is created
-/// with copies of the two configuration files. Needs the application object.
+/// the executable. If that folder is not writable, a folder of the user, which is created with
+/// copies of the two configuration files. Needs the application object.
 [[nodiscard]] QString settingsFolder();
 
 /// The user's folder of program shortcuts (Windows: the Start menu's "Programs").

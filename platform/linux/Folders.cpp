@@ -1,10 +1,11 @@
 #include "platform/Folders.h"
 
+#include "platform/UserSettings.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <unistd.h>
@@ -29,22 +30,6 @@ bool canWrite(const QString& folder)
     return ::access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
 }
 
-/// Leaves no target that is incomplete, since it would never be copied again.
-void copyOnce(const QString& source, const QString& target)
-{
-    QFile original(source);
-    if (QFileInfo::exists(target) || !QFileInfo(source).isFile() ||
-        !original.open(QIODevice::ReadOnly))
-        return;
-    QSaveFile copy(target);
-    if (!copy.open(QIODevice::WriteOnly))
-        return;
-    // The installed file is usually read-only.
-    copy.setPermissions(original.permissions() | QFile::ReadOwner | QFile::WriteOwner);
-    copy.write(original.readAll());
-    copy.commit();
-}
-
 } // namespace
 
 namespace platform
@@ -65,14 +50,7 @@ QString logBackupFolder()
 QString settingsFolder()
 {
     QString besideExecutable = QCoreApplication::applicationDirPath();
-    if (canWrite(besideExecutable))
-        return besideExecutable;
-
-    QString folder = localDataFolder() + "/VORNApp"_L1;
-    QDir().mkpath(folder);
-    for (const auto name : {"/config.ini"_L1, "/config.json"_L1})
-        copyOnce(besideExecutable + name, folder + name);
-    return folder;
+    return canWrite(besideExecutable) ? besideExecutable : userSettingsFolder(besideExecutable);
 }
 
 QString startMenuFolder()

@@ -1,10 +1,34 @@
 #include "platform/Folders.h"
 
+#include "platform/UserSettings.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
+#include <qt_windows.h>
+
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+// Makes a file, which the system removes at once, because only an attempt shows whether the access
+// rights and the medium allow it.
+bool canWrite(const QString& folder)
+{
+    const QString path = u"%1/.vornapp-%2"_s.arg(folder).arg(GetCurrentProcessId());
+    const HANDLE file = CreateFileW(
+        QDir::toNativeSeparators(path).toStdWString().c_str(), GENERIC_WRITE, 0, nullptr,
+        CREATE_NEW, FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE,
+        nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    CloseHandle(file);
+    return true;
+}
+
+} // namespace
 
 namespace platform
 {
@@ -23,7 +47,8 @@ QString logBackupFolder()
 
 QString settingsFolder()
 {
-    return QCoreApplication::applicationDirPath();
+    QString besideExecutable = QCoreApplication::applicationDirPath();
+    return canWrite(besideExecutable) ? besideExecutable : userSettingsFolder(besideExecutable);
 }
 
 QString startMenuFolder()
