@@ -141,6 +141,9 @@ int main(int argc, char* argv[])
 {
     platform::ignoreBrokenPipes();
     SingleInstance instance(u"VORNAppUniqueKey"_s, WindowManager::serverName());
+    // For installers, which cannot replace the files of a running program.
+    if (argc == 2 && qstrcmp(argv[1], "--quit") == 0)
+        return instance.endRunning() ? EXIT_SUCCESS : EXIT_FAILURE;
     switch (instance.start()) {
     case SingleInstance::Outcome::First:
         break;

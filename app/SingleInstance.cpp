@@ -1,6 +1,7 @@
 #include "app/SingleInstance.h"
 
 #include "platform/InstanceObjects.h"
+#include "platform/Processes.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -17,6 +18,7 @@ constexpr int ConnectTimeout = 1000;
 constexpr int WriteTimeout = 30000;
 constexpr int AnswerTimeout = 1000;
 constexpr int EndTimeout = 2000;         // between an instance's closing its server and its end
+constexpr int QuitTimeout = 10000;       // twice the time that an instance takes to quit at most
 constexpr int PauseBetweenAttempts = 50; // a connection to a missing server fails at once
 
 } // namespace
@@ -113,20 +115,51 @@ QSharedMemory& SingleInstance::newSegment()
 
 SingleInstance::Reply SingleInstance::handOver() const
 {
+    return ask(QByteArray("activate"));
+}
+
+SingleInstance::Reply SingleInstance::ask(const QByteArray& request, QByteArray* answer) const
+{
     QLocalSocket socket;
     socket.connectToServer(m_serverName, QIODevice::ReadWrite);
     if (!socket.waitForConnected(ConnectTimeout))
         return Reply::Missing;
-    qDebug("send activate");
+    qDebug("send %s", request.constData());
     const QByteArray right = platform::passOnForegroundRight();
-    socket.write(right.isEmpty() ? QByteArray("activate") : "activate " + right);
+    socket.write(right.isEmpty() ? request : request + ' ' + right);
     socket.waitForBytesWritten(WriteTimeout);
     // An instance that is too busy to answer handles the request later.
     const bool isAnswered = socket.waitForReadyRead(AnswerTimeout);
     if (!isAnswered && socket.state() != QLocalSocket::ConnectedState)
         return Reply::Closed;
+    if (answer)
+        *answer = socket.readAll();
     socket.disconnectFromServer();
     return Reply::Accepted;
+}
+
+bool SingleInstance::isFree()
+{
+    const platform::InstanceLock lock(m_name);
+    return !isSegmentHeld();
+}
+
+bool SingleInstance::endRunning()
+{
+    for (const QDeadlineTimer deadline(QuitTimeout); !deadline.hasExpired();) {
+        QByteArray answer;
+        const Reply reply = ask(QByteArray("quit"), &answer);
+        if (answer.startsWith(QuitAnswer)) {
+            const qint64 process = answer.mid(qstrlen(QuitAnswer)).toLongLong();
+            return platform::waitForEnd(process,
+                                        std::chrono::milliseconds(deadline.remainingTime()));
+        }
+        // An instance that starts or ends holds the segment and has no server.
+        if (reply == Reply::Missing && isFree())
+            return true;
+        QThread::msleep(PauseBetweenAttempts);
+    }
+    return false;
 }
 
 void SingleInstance::release()

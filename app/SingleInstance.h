@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QSharedMemory>
 #include <QString>
 
@@ -11,6 +12,9 @@
 class SingleInstance
 {
 public:
+    /// Begins the answer to the request to quit; the number of the process follows.
+    static constexpr auto QuitAnswer = "quitting ";
+
     enum class Outcome {
         First,       ///< this start is the running instance
         HandedOver,  ///< the running instance was asked to show its window
@@ -27,6 +31,9 @@ public:
     /// Becomes the first instance or contacts the running one. Waits for an instance that is still
     /// starting, and becomes the first one if it ends meanwhile.
     Outcome start();
+    /// Asks the running instance to end as the entry "Quit" of its tray icon does, and waits until
+    /// its process has ended. True if no instance runs, or none any more.
+    [[nodiscard]] bool endRunning();
     /// Releases the segment, so that another start can become the first instance.
     void release();
 
@@ -48,6 +55,8 @@ private:
     bool createSegment();
     QSharedMemory& newSegment();
     Reply handOver() const;
+    Reply ask(const QByteArray& request, QByteArray* answer = nullptr) const;
+    bool isFree();
     Outcome succeed();
 
     const QString m_name;

@@ -1,5 +1,6 @@
 #include "app/WindowManager.h"
 
+#include "app/SingleInstance.h"
 #include "logging/Log.h"
 #include "platform/DesktopNotification.h"
 #include "platform/InstanceObjects.h"
@@ -18,6 +19,7 @@ namespace
 {
 
 constexpr int AnswerTimeout = 500;   // ms
+constexpr int WriteTimeout = 100;    // ms
 constexpr int LongestRequest = 1024; // bytes
 
 } // namespace
@@ -108,10 +110,15 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
 {
     const auto reopen = [this, socket] {
         socket->disconnect(this);
-        platform::takeForegroundRight(socket->read(LongestRequest).mid(qstrlen("activate ")));
+        socket->deleteLater();
+        const QByteArray request = socket->read(LongestRequest);
+        if (request.split(' ').constFirst() == "quit") {
+            quitFor(socket);
+            return;
+        }
+        platform::takeForegroundRight(request.mid(qstrlen("activate ")));
         socket->write("shown"); // tells the second start that its request is not lost
         socket->flush();
-        socket->deleteLater();
         Log::info("WindowManager::onNewConnection") << "VORNApp reopen!";
         emit requestShow(true);
     };
@@ -125,6 +132,15 @@ void WindowManager::reopenAfter(QLocalSocket* socket)
     connect(socket, &QLocalSocket::disconnected, this, reopen);
     connect(patience, &QTimer::timeout, socket, &QLocalSocket::disconnectFromServer);
     patience->start(m_peerWait);
+}
+
+void WindowManager::quitFor(QLocalSocket* socket)
+{
+    Log::info("WindowManager::quitFor") << "asked to quit";
+    socket->write(SingleInstance::QuitAnswer +
+                  QByteArray::number(QCoreApplication::applicationPid()));
+    socket->waitForBytesWritten(WriteTimeout); // the server is closed next
+    QCoreApplication::exit();
 }
 
 /// Some trays report no double click. There one activation opens the window, as is usual on them.

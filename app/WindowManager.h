@@ -14,8 +14,8 @@
 class QLocalSocket;
 
 /// Running instance's side of the single-instance mechanism, and owner of the tray icon. A second
-/// start connects to the local server, and the window is shown. Main thread, except for the
-/// requests of WindowRequests, which any thread may make.
+/// start connects to the local server, and the window is shown or the program ends. Main thread,
+/// except for the requests of WindowRequests, which any thread may make.
 class WindowManager : public QObject, public WindowRequests
 {
     Q_OBJECT
@@ -57,6 +57,7 @@ private:
     void createTrayIcon(platform::SystemTray::Opening opening);
     void explainClose();
     void reopenAfter(QLocalSocket* socket);
+    void quitFor(QLocalSocket* socket);
 
     const std::chrono::milliseconds m_peerWait;
     QLocalServer* m_localServer;

@@ -30,6 +30,9 @@ struct RunningOutcome {
 [[nodiscard]] RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds patience,
                                             const std::stop_token& stop = {});
 
+/// Waits until the process of this number has ended; true also if there is none.
+[[nodiscard]] bool waitForEnd(qint64 process, std::chrono::milliseconds patience);
+
 /// Starts a program that outlives this one; false if it did not start. Windows asks the user first
 /// when the program needs more rights, and there is no limit to that wait. A call that a stop
 /// request ends before the answer returns false, and the program starts if the user then agrees.

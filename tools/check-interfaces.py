@@ -42,7 +42,7 @@ CONSTANTS = (
     ("logging/LogFile.h", r"maxTotalBytes = qint64\{(\d+)\}", "have at most {} MiB"),
     ("launch/UpgradeControl.cpp", r'u"(PatchPilot\.exe)"', "`{}` beside the program"),
     ("app/Main.cpp", r'instance\(u"(\w+)"', "| mark | `{}` |"),
-    ("app/SingleInstance.cpp", r'QByteArray\("(\w+)"\)', "8 bytes `{}`"),
+    ("app/SingleInstance.cpp", r'QByteArray\("(\w+)"\)', "bytes `{}`"),
     ("app/WindowManager.cpp", r'write\("(\w+)"\)', "5 bytes `{}`"),
     ("app/WindowManager.h", r"peerWait = std::chrono::seconds\((\d+)\)", "at the latest after {} s"),
 )

@@ -186,14 +186,20 @@ std::optional<KilledProcess> killProcess(pid_t pid, const ImageName& name)
     return process;
 }
 
+// False if the process still runs at the end of the patience.
+bool waitForEnd(const FileDescriptor& process, std::chrono::milliseconds patience)
+{
+    pollfd poll{process.get(), POLLIN, 0};
+    return ::poll(&poll, 1, static_cast<int>(qMax<qint64>(patience.count(), 0))) == 1;
+}
+
 // Waits because the signal takes effect asynchronously, but not for a process stuck in the kernel.
 void waitForEnd(const KilledProcess& process, Clock::time_point deadline)
 {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now()).count();
-    pollfd poll{process.handle.get(), POLLIN, 0};
+    using std::chrono::milliseconds;
     if (process.error == 0 && process.handle.get() >= 0)
-        ::poll(&poll, 1, static_cast<int>(qMax<qint64>(left, 0)));
+        waitForEnd(process.handle,
+                   std::chrono::duration_cast<milliseconds>(deadline - Clock::now()));
 }
 
 } // namespace
@@ -235,6 +241,12 @@ RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds,
     const std::vector<pid_t> found = processesNamed(image);
     s_lastFound = found.empty() ? 0 : found.front();
     return {true, !found.empty()};
+}
+
+bool waitForEnd(qint64 process, std::chrono::milliseconds patience)
+{
+    const FileDescriptor handle(openProcess(static_cast<pid_t>(process)));
+    return handle.get() < 0 ? errno == ESRCH : ::waitForEnd(handle, patience);
 }
 
 bool startDetached(const QString& program, const QStringList& arguments, const std::stop_token&)

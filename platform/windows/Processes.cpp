@@ -5,6 +5,8 @@
 
 #include <QProcess>
 
+#include <qt_windows.h>
+
 #include <memory>
 #include <utility>
 
@@ -36,6 +38,16 @@ RunningOutcome isImageRunning(const QString& name, std::chrono::milliseconds pat
                     {u"/FI"_s, u"IMAGENAME eq %1"_s.arg(name)}, patience, stop))
         return {false, false};
     return {true, QString::fromUtf8(process.readAll()).contains(name)};
+}
+
+bool waitForEnd(qint64 process, std::chrono::milliseconds patience)
+{
+    const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+    if (!handle)
+        return GetLastError() == ERROR_INVALID_PARAMETER; // there is no such process
+    const DWORD result = WaitForSingleObject(handle, static_cast<DWORD>(patience.count()));
+    CloseHandle(handle);
+    return result == WAIT_OBJECT_0;
 }
 
 bool startDetached(const QString& program, const QStringList& arguments,
