@@ -6,6 +6,13 @@
 #include <malloc.h>
 #endif
 
+namespace
+{
+
+[[maybe_unused]] constexpr int LargestHeapCount = 2;
+
+} // namespace
+
 void platform::keepLargeBlocks([[maybe_unused]] std::size_t blockSize, [[maybe_unused]] int count)
 {
 #ifdef __GLIBC__
@@ -20,6 +27,9 @@ void platform::keepLargeBlocks([[maybe_unused]] std::size_t blockSize, [[maybe_u
     mallopt(M_MMAP_THRESHOLD, static_cast<int>(largest));
     mallopt(M_TRIM_THRESHOLD, kept);
     mallopt(M_TOP_PAD, kept);
+    // Each heap keeps that much, and by default there are eight for each processor: memory would
+    // grow with the number of threads that there have been.
+    mallopt(M_ARENA_MAX, LargestHeapCount);
     // NOLINTEND(concurrency-mt-unsafe)
 #endif
 }
