@@ -107,7 +107,8 @@ void ChannelWorker::onDisconnected()
     m_outgoing.close();
     readLines();
     reportSkipped();
-    m_reconnectTimer->start();
+    if (!isServerAwaited())
+        m_reconnectTimer->start();
 }
 
 void ChannelWorker::readLines()
