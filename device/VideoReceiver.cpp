@@ -7,6 +7,7 @@
 #include <QVideoFrameFormat>
 
 #include <algorithm>
+#include <new>
 
 namespace
 {
@@ -177,16 +178,29 @@ void VideoReceiver::processFrame()
         appendHeader(message, header);
     }
 
+    const QVideoFrame frame = copyFrame(header);
+    if (frame.isValid()) {
+        m_sink(frame);
+        m_delivered();
+    } else if (m_channel->isOpen() && m_flood.admits()) {
+        Log::error(Function) << "no memory for a frame";
+    }
+}
+
+/// An invalid frame when there is no memory for it, or when the writer has cut the shared memory
+/// short, which closes the channel.
+QVideoFrame VideoReceiver::copyFrame(const FrameHeader& header)
+{
     const std::size_t luma = FrameHeader::slotOffset(header.index) + FrameHeader::HeaderSize;
-    const QVideoFrame frame = m_frames.make(frameFormat(header), [&](const auto& planes) {
-        return copyRows(planes[0], luma, header.w, header.h) &&
-               copyRows(planes[1], luma + header.lumaSize(), header.chromaBytesPerRow(),
-                        header.chromaRows());
-    });
-    if (!frame.isValid())
-        return;
-    m_sink(frame);
-    m_delivered();
+    try {
+        return m_frames.make(frameFormat(header), [&](const auto& planes) {
+            return copyRows(planes[0], luma, header.w, header.h) &&
+                   copyRows(planes[1], luma + header.lumaSize(), header.chromaBytesPerRow(),
+                            header.chromaRows());
+        });
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }
 
 /// Rows of the frame can be padded, those in the shared memory are not. Without padding all rows

@@ -51,6 +51,7 @@ private:
     bool connectChannel();
     void waitForFrame(const std::stop_token& stop);
     void processFrame();
+    QVideoFrame copyFrame(const FrameHeader& header);
     bool read(std::size_t offset, void* target, std::size_t length);
     bool readHeader(FrameHeader& header);
     bool copyRows(const FrameFactory::Plane& target, std::size_t offset, int bytesPerRow, int rows);
