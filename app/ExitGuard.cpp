@@ -30,6 +30,11 @@ ExitGuard::ExitGuard(std::function<void()> work)
     std::atexit(onExit);
 }
 
+void ExitGuard::leaveNow()
+{
+    onExit();
+}
+
 ExitGuard::~ExitGuard()
 {
     const std::scoped_lock lock(g_mutex);

@@ -16,6 +16,9 @@ public:
     explicit ExitGuard(std::function<void()> work);
     /// Waits if the work is under way.
     ~ExitGuard();
+    /// Does the work of the guard and ends the process, as exit() would; returns if there is no
+    /// guard. Any thread.
+    static void leaveNow();
     ExitGuard(const ExitGuard&) = delete;
     ExitGuard& operator=(const ExitGuard&) = delete;
 

@@ -1,5 +1,6 @@
 #include "app/QtMessages.h"
 
+#include "app/ExitGuard.h"
 #include "logging/Log.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -33,6 +36,9 @@ void logQtMessage(QtMsgType type, const QMessageLogContext& context, const QStri
 {
     const bool hasCategory = context.category && std::strcmp(context.category, "default") != 0;
     Log::Message(severityOf(type), hasCategory ? context.category : "Qt", "Qt", 0) << text;
+    // Qt's next call is _exit(), which runs no exit handlers.
+    if (type == QtWarningMsg && text.startsWith("The Wayland connection "_L1))
+        ExitGuard::leaveNow();
     const bool isStarting = QCoreApplication::startingUp() && !QCoreApplication::closingDown();
     if (type != QtFatalMsg || !isStarting)
         return;
