@@ -39,7 +39,10 @@ QString userSettingsFolder(const QString& installed)
     QDir().mkpath(folder);
     for (const auto name : {"/config.ini"_L1, "/config.json"_L1})
         copyOnce(installed + name, folder + name);
-    return folder;
+    // Where nothing can be written, the installed configuration can still be read.
+    const auto config = "/config.ini"_L1;
+    return QFileInfo::exists(installed + config) && !QFileInfo::exists(folder + config) ? installed
+                                                                                        : folder;
 }
 
 } // namespace platform

@@ -109,6 +109,9 @@ void tst_Folders::keepsSettingsBesideTheExecutableIfItCanWrite()
     QCOMPARE(settingsFolderOf(folder), folder);
 
     QFile::setPermissions(folder, QFile::Permissions::fromInt(0x5555));
+    QFile::setPermissions(m_home->path(), QFile::Permissions::fromInt(0x5555));
+    QCOMPARE(settingsFolderOf(folder), folder); // nowhere else either
+    QFile::setPermissions(m_home->path(), writable);
     QCOMPARE(settingsFolderOf(folder), own);
     QCOMPARE(contentOf(own + "/config.ini"_L1), "[VORNApp]\n");
     QCOMPARE(contentOf(own + "/config.json"_L1), "{}\n");
