@@ -69,11 +69,14 @@ void RemoteDeviceSwitch::release()
     const std::scoped_lock order(m_saveOrderMutex);
     if (m_isDisablePosted)
         post(false);
+    m_isReleased = true;
 }
 
 /// With m_saveOrderMutex held.
 void RemoteDeviceSwitch::post(bool disable)
 {
+    if (m_isReleased)
+        return;
     m_isDisablePosted = disable;
     emit addTask(keys::task::SaveRegistry,
                  {keys::registry::Path, keys::registry::DisableLocalDevices, disable});

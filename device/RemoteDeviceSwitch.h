@@ -34,7 +34,8 @@ public:
     void applyUseRemoteDevice(bool force);
     /// Writes the registry value unless it is the one given, which an earlier run may have left.
     void reconcile(bool written);
-    /// Writes 0, so that no device stays switched off after the end of the program. Any thread.
+    /// Writes 0, so that no device stays switched off after the end of the program, and nothing
+    /// from then on: other threads may go on while a library ends the process. Any thread.
     void release();
 
 signals:
@@ -53,6 +54,7 @@ private:
     /// newest state. Recursive, since a slot connected directly to addTask() may set the source.
     std::recursive_mutex m_saveOrderMutex;
     bool m_isDisablePosted = false; // under m_saveOrderMutex
+    bool m_isReleased = false;      // under m_saveOrderMutex
 
     // Main thread only.
     bool m_useRemoteDeviceLast = true;

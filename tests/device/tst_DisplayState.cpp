@@ -135,10 +135,11 @@ void tst_DisplayState::everyChangeOfTheSourceIsWritten()
     QCOMPARE(tasks.count(), 4);
 
     // No device stays switched off after the end of the program, nor after a crash.
-    setting.release(); // is off already
     setting.setUseRemoteDevice(true, FromDisplay);
     display.setByodSwitch(Selected, FromDisplay);
     setting.release();
+    display.setByodSwitch(Unavailable, FromDisplay);
+    display.setByodSwitch(Selected, FromDisplay); // by a thread that has not ended yet
     setting.release();
     QCOMPARE(registryWrites(tasks).mid(4), (QList<bool>{true, false}));
     RemoteDeviceSwitch restarted(config, display);
