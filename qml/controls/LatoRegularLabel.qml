@@ -9,4 +9,7 @@ Text {
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     color: Theme.white
+    // Unlike a Label, a Text is unknown to screen readers.
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

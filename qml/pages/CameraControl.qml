@@ -43,8 +43,6 @@ Item {
             color: Theme.textGrey
             font.pixelSize: Theme.faceText
             horizontalAlignment: Text.AlignHCenter
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
 
         PTZ {

@@ -44,6 +44,8 @@ PageTest {
         const label = item as Text;
         if (control && label)
             verify(label.Accessible.ignored, label.text);
+        else if (label)
+            compare(label.Accessible.name, label.text);
         for (let i = 0; i < item.children.length; ++i)
             checkItems(item.children[i], item.activeFocusOnTab ? item : control);
     }
