@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # ./bench/run.sh   builds the release and prints each figure as a ratio to a baseline measured in the same run.
+# ENDURANCE_MINUTES=10 ./bench/run.sh   gives the working year of bench_endurance more than 2 minutes.
 set -euo pipefail
 source "$(dirname "$0")/../tools/common.sh"
 need_packages "${build_packages[@]}" "${run_packages[@]}" "${screen_packages[@]}" strace
@@ -29,6 +30,9 @@ dbus-run-session -- "$bin/bench_program"
 
 step "Floods"
 dbus-run-session -- "$bin/bench_flood"
+
+step "Endurance"
+dbus-run-session -- "$bin/bench_endurance" --minutes "${ENDURANCE_MINUTES:-2}"
 
 step "Processes spawned by the status loop"
 env HOME="$home" XDG_STATE_HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR="$home" TMPDIR="$home" \

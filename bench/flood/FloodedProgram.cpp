@@ -1,5 +1,6 @@
 #include "bench/flood/FloodedProgram.h"
 
+#include "bench/WaitUntil.h"
 #include "persistence/DBManager.h"
 #include "persistence/Keys.h"
 
@@ -16,12 +17,10 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace
 {
 
-constexpr auto PollInterval = 5ms;
 constexpr qint64 MaxUnwritten = qint64{1} * 1024 * 1024;
 
 QString runTool(const QStringList& arguments)
@@ -78,16 +77,7 @@ void FloodedProgram::install(const QString& program, const QString& service)
 bool FloodedProgram::waitUntil(const std::function<bool()>& isDone,
                                std::chrono::milliseconds patience)
 {
-    QEventLoop loop;
-    QTimer poll;
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (isDone())
-            loop.quit();
-    });
-    poll.start(PollInterval);
-    loop.exec();
-    return isDone();
+    return bench::waitUntil(isDone, patience);
 }
 
 FloodedProgram::Figures FloodedProgram::measure(const std::function<void()>& flood)

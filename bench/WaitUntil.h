@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+
+namespace bench
+{
+
+/// Runs the event loop until @p isDone returns true, for up to @p patience. Returns its last value.
+inline bool waitUntil(const std::function<bool()>& isDone,
+                      std::chrono::milliseconds patience = std::chrono::minutes(1))
+{
+    constexpr auto PollInterval = std::chrono::milliseconds(5);
+    if (isDone())
+        return true;
+    QEventLoop loop;
+    QTimer poll;
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (isDone())
+            loop.quit();
+    });
+    poll.start(PollInterval);
+    loop.exec();
+    return isDone();
+}
+
+} // namespace bench
