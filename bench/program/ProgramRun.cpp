@@ -6,8 +6,6 @@
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace
@@ -63,12 +61,6 @@ bool ProgramRun::quit()
 {
     m_process.terminate();
     return m_process.state() == QProcess::NotRunning || m_process.waitForFinished(Patience);
-}
-
-double ProgramRun::residentMegabytes() const
-{
-    const double pages = procFile(pid(), "statm").split(' ').value(1).toDouble();
-    return pages * double(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
 QStringList ProgramRun::threads() const

@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Runs a program on the screen with @p home as its home folder and waits for its first frame. The
-/// destructor ends the program. Linux only.
+/// destructor ends the program.
 class ProgramRun
 {
 public:
@@ -15,9 +15,9 @@ public:
     double firstFrameMilliseconds() const { return m_firstFrame; }
     qint64 pid() const { return m_process.processId(); }
     double residentMegabytes() const;
-    /// Processor time that all threads have used, in seconds.
+    /// Processor time that all threads have used, in seconds. Linux only.
     double processorSeconds() const;
-    /// How often any thread has waited for something so far.
+    /// How often any thread has waited for something so far. Linux only.
     double waits() const;
     /// Ends the program as the tray's "Quit" does. False if it is still running after a minute.
     bool quit();

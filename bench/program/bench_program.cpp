@@ -1,14 +1,13 @@
 // Compares the program with a bare window that has the same imports: start, memory and idling.
 #include "bench/Measure.h"
 #include "bench/program/ProgramRun.h"
+#include "bench/program/Starts.h"
 #include "simulator/devices/DeviceTree.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using simulator::DeviceTree;
@@ -16,39 +15,12 @@ using simulator::DeviceTree;
 namespace
 {
 
-constexpr int StartRounds = 9;
 // Milliseconds.
 constexpr int SettleTime = 2000;
 constexpr int IdleTime = 40000;
 constexpr int RestTime = 20000;
 constexpr int StagingTime = 17000;  // until the page has shown all devices
 constexpr int GivingUpTime = 33000; // until the page no longer waits for devices
-
-void waitFor(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-void compareStarts(const QTemporaryDir& home)
-{
-    bench::Values times[2];
-    bench::Values memory[2];
-    const QString programs[2] = {QStringLiteral(BARE_WINDOW), QStringLiteral(VORN_PROGRAM)};
-    for (int round = 0; round < StartRounds; ++round) {
-        for (int i = 0; i < 2; ++i) {
-            const ProgramRun run(programs[i], home.path());
-            times[i].push_back(run.firstFrameMilliseconds());
-            waitFor(SettleTime);
-            memory[i].push_back(run.residentMegabytes());
-        }
-    }
-    bench::printRatio("start to first frame", bench::median(times[1]), bench::median(times[0]),
-                      "ms", 1.25);
-    bench::printRatio("resident memory", bench::median(memory[1]), bench::median(memory[0]), "MB",
-                      1.35);
-}
 
 // Plugs in all devices. Returns the reason of a failure, otherwise an empty text.
 QString plugAll(DeviceTree& tree, const QString& root)
