@@ -18,7 +18,7 @@ namespace
 
 constexpr int LineCount = 2000;
 constexpr int RoundCount = 61;
-constexpr double Aim = 1.20;
+constexpr double Aim = 1.0;
 
 void startBareGlog(const QString& folder)
 {

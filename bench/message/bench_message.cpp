@@ -46,7 +46,7 @@ void compare(const char* what, Baseline baseline, Work work)
         baselines.push_back(microsecondsEach(baseline));
         times.push_back(microsecondsEach(work));
     }
-    bench::printRatio(what, bench::median(times), bench::median(baselines), "us", 2);
+    bench::printRatio(what, bench::median(times), bench::median(baselines), "us", 1.2);
 }
 
 } // namespace

@@ -68,15 +68,6 @@ QStringList ProgramRun::threads() const
     return QDir(u"/proc/%1/task"_s.arg(pid())).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
 }
 
-// From schedstat, which is finer than the clock tick of /proc/<pid>/stat.
-double ProgramRun::processorSeconds() const
-{
-    double nanoseconds = 0;
-    for (const QString& thread : threads())
-        nanoseconds += procFile(thread.toLongLong(), "schedstat").split(' ').value(0).toDouble();
-    return nanoseconds / 1e9;
-}
-
 double ProgramRun::waits() const
 {
     constexpr QByteArrayView Field = "\nvoluntary_ctxt_switches:";

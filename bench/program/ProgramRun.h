@@ -15,8 +15,6 @@ public:
     double firstFrameMilliseconds() const { return m_firstFrame; }
     qint64 pid() const { return m_process.processId(); }
     double residentMegabytes() const;
-    /// Processor time that all threads have used, in seconds. Linux only.
-    double processorSeconds() const;
     /// How often any thread has waited for something so far. Linux only.
     double waits() const;
     /// Ends the program as the tray's "Quit" does. False if it is still running after a minute.

@@ -36,7 +36,7 @@ void compareStarts(const QTemporaryDir& home)
         }
     }
     bench::printRatio("start to first frame", bench::median(times[1]), bench::median(times[0]),
-                      "ms", 1.25);
+                      "ms", 1.15);
     bench::printRatio("resident memory", bench::median(memory[1]), bench::median(memory[0]), "MB",
-                      1.35);
+                      1.25);
 }

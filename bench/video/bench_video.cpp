@@ -222,10 +222,10 @@ void compareCopies(const Names& names, FrameSource& source)
                                       [](qint64 count) { return count > 0; });
     std::printf(
         "frame buffer, map and copy, against two bare memmoves: ratio %.2f (%.0f us against "
-        "%.0f us; aim at most 1.10)\n",
+        "%.0f us; aim at most 1.0)\n",
         median(copies) / median(bare), median(copies), median(bare));
     std::printf("99th percentile of it, against its median: ratio %.2f (%.0f us; the bare copies' "
-                "own ratio is %.2f; aim at most 2.5)\n",
+                "own ratio is %.2f; aim at most 1.5)\n",
                 quantile(copies, 0.99) / median(copies), quantile(copies, 0.99),
                 quantile(bare, 0.99) / median(bare));
     std::printf("frames with page faults after the first %zu: %td of %zu (aim 0)\n", FirstFrames,
@@ -248,7 +248,7 @@ void compareLatencies(const Names& names, FrameSource& source)
         bare.insert(bare.end(), times.begin() + FirstFrames, times.end());
     }
     std::printf("from announcement to sink, against bare wake-up and copy: ratio %.2f (%.0f us "
-                "against %.0f us; aim at most 1.30)\n",
+                "against %.0f us; aim at most 1.2)\n",
                 median(path) / median(bare), median(path), median(bare));
 }
 
