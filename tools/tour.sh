@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # ./tools/tour.sh <folder of the built programs> <folder for the results>
 #
-# Operates the program with pointer and keyboard, from sign-in to the upgrade, with a simulated display,
-# account service, updater and meeting program. Needs a screen with a window manager. Leaves pictures with
-# an index (index.html), the log and the messages of the display. Exit code 0 means that every check
+# Operates the program with pointer and keyboard, from sign-in to the upgrade, then with the keyboard only
+# and on a Wayland compositor, with a simulated display, account service, updater and meeting program. Needs
+# a screen with a window manager. Leaves pictures with an index (index.html), the log and the messages of
+# the display. Exit code 0 means that every check
 # passed.
 set -euo pipefail
 here=$(dirname "$0")
@@ -13,6 +14,7 @@ source "$here/tour-account.sh"
 source "$here/tour-meeting.sh"
 source "$here/tour-settings.sh"
 source "$here/tour-states.sh"
+source "$here/tour-keyboard.sh"
 bin=$(realpath "$1")
 out=$2
 rm -rf "$out"
@@ -32,5 +34,7 @@ settings_chapters
 first_run_chapter
 upgrade_chapter
 states_chapter
+keyboard_chapters
+wayland_chapter
 
 step "$checks checks passed. See $out/index.html; log and messages are beside it"
