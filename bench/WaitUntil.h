@@ -18,7 +18,9 @@ inline bool waitUntil(const std::function<bool()>& isDone,
         return true;
     QEventLoop loop;
     QTimer poll;
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QTimer end; // ends with this function, unlike a single shot
+    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+    end.start(patience);
     QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
         if (isDone())
             loop.quit();

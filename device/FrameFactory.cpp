@@ -62,6 +62,11 @@ private:
 
 FrameFactory::FrameFactory() = default;
 
+void FrameFactory::freeUnused()
+{
+    m_memory.clear();
+}
+
 QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill)
 {
     const int width = format.frameWidth();
@@ -120,9 +125,12 @@ QVideoFrame FrameFactory::make(const QVideoFrameFormat& format, const Fill& fill
     return isFilled ? frame : QVideoFrame();
 }
 
-#endif
-
 void FrameFactory::freeUnused()
 {
-    m_memory.clear();
+    if (m_preparedPixels == 0)
+        return;
+    m_preparedPixels = 0;
+    platform::returnFreedBlocks();
 }
+
+#endif

@@ -12,4 +12,8 @@ namespace platform
 /// allocate. Does nothing on systems whose heap has no such setting.
 void keepLargeBlocks(std::size_t blockSize, int count);
 
+/// Returns freed blocks of all sizes to the system, as far as its heap can. Takes milliseconds. Any
+/// thread.
+void returnFreedBlocks();
+
 } // namespace platform

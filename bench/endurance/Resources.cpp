@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include <malloc.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,12 @@ double residentMegabytes()
     const double pages =
         file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() : 0;
     return pages * double(::sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+double heapMegabytes()
+{
+    const auto heap = ::mallinfo2();
+    return double(heap.uordblks + heap.hblkhd) / 1e6;
 }
 
 double entryCount(const QString& folder)
@@ -57,6 +64,7 @@ double logMegabytes(const QString& home)
 Resources Resources::measure(const QString& home)
 {
     return {.resident = residentMegabytes(),
+            .heap = heapMegabytes(),
             .handles = entryCount(u"/proc/self/fd"_s),
             .threads = entryCount(u"/proc/self/task"_s),
             .tempFiles = fileCount(home + u"/tmp"_s),
@@ -69,7 +77,8 @@ bool ResourceDiary::report() const
     const bool isLogBounded = log < LargestLog;
     std::printf("  [%c] log files: %.1f MB at the end (bound %.0f)\n", isLogBounded ? 'x' : ' ',
                 log, LargestLog);
-    const bool results[] = {reportOne("memory, MB", &Resources::resident, 1.1, 4),
+    const bool results[] = {reportOne("resident memory, MB", &Resources::resident, 1.2, 0),
+                            reportOne("heap in use, MB", &Resources::heap, 1.05, 1),
                             reportOne("handles", &Resources::handles, 1, 3),
                             reportOne("threads", &Resources::threads, 1, 3),
                             reportOne("temporary files", &Resources::tempFiles, 1, 3),

@@ -9,6 +9,7 @@
 /// What this process and its files occupy. Linux only.
 struct Resources {
     double resident = 0;  ///< memory, in MB
+    double heap = 0;      ///< blocks of the heap in use, in MB; 0 with a sanitizer
     double handles = 0;   ///< open files and sockets
     double threads = 0;   ///<
     double tempFiles = 0; ///< files in the folder for temporary files, at any depth

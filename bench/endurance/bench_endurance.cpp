@@ -59,13 +59,15 @@ int workInHome(const QString& home, double minutes)
         const Resources resources = Resources::measure(home);
         diary.add(resources);
         if (day % 10 == 0)
-            std::printf("day %d: %.1f MB, %.0f handles, %.0f threads, log %.2f MB\n", day,
-                        resources.resident, resources.handles, resources.threads, resources.log);
+            std::printf("day %d: %.1f MB, heap %.1f MB, %.0f handles, %.0f threads, log %.2f MB\n",
+                        day, resources.resident, resources.heap, resources.handles,
+                        resources.threads, resources.log);
         std::fflush(stdout);
     }
     std::printf("%d of %d days\n", day, WorkingYear::Days);
     const bool isFlat = diary.report();
     const bool isRight = year.close();
+    std::fflush(stdout); // before the report of a sanitizer, which drops what is not written
     return isFlat && isRight ? 0 : 1;
 }
 

@@ -33,3 +33,10 @@ void platform::keepLargeBlocks([[maybe_unused]] std::size_t blockSize, [[maybe_u
     // NOLINTEND(concurrency-mt-unsafe)
 #endif
 }
+
+void platform::returnFreedBlocks()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}

@@ -31,10 +31,10 @@ class tst_LargeBlocks : public QObject
     Q_OBJECT
 
 private slots:
-    void keepsLittleForThreadsThatHaveEnded();
+    void keepsLittleForManyThreads();
 };
 
-void tst_LargeBlocks::keepsLittleForThreadsThatHaveEnded()
+void tst_LargeBlocks::keepsLittleForManyThreads()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("Sanitizers have a heap of their own.");
