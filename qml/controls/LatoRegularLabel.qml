@@ -12,4 +12,5 @@ Text {
     // Unlike a Label, a Text is unknown to screen readers.
     Accessible.role: Accessible.StaticText
     Accessible.name: text
+    Accessible.ignored: text === ""
 }

@@ -62,6 +62,7 @@ Row {
     }
 
     LatoRegularLabel {
+        Accessible.ignored: true // the value of the progress bar
         id: label
 
         //: A percentage.

@@ -31,10 +31,9 @@ Popup {
         popup.error = "";
         popup.preview = popup.defaultPicture;
     }
-    contentItem: Item {
-        Accessible.role: Accessible.Dialog
-        Accessible.name: heading.text
-    }
+    contentItem: Item {}
+    // Qt makes the item around the content a dialog for screen readers, and gives it no name.
+    Component.onCompleted: popup.contentItem.parent.Accessible.name = Qt.binding(() => heading.text)
     background: Rectangle {
         color: "#383838"
         radius: 8
