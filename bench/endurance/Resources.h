@@ -11,7 +11,7 @@ struct Resources {
     double resident = 0;  ///< memory, in MB
     double heap = 0;      ///< blocks of the heap in use, in MB; 0 with a sanitizer
     double handles = 0;   ///< open files and sockets
-    double threads = 0;   ///<
+    double threads = 0;   ///< of the process
     double tempFiles = 0; ///< files in the folder for temporary files, at any depth
     double log = 0;       ///< size of all log files together, in MB
 

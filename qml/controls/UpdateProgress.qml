@@ -62,13 +62,13 @@ Row {
     }
 
     LatoRegularLabel {
-        Accessible.ignored: true // the value of the progress bar
         id: label
 
         //: A percentage.
         text: qsTr("%1%").arg(root.value)
         font.pixelSize: Theme.bodyText
         color: Theme.panelText
+        Accessible.ignored: true // the value of the progress bar
 
         Announcement {
             text: root.value === 100 ? root.Accessible.name + " " + label.text : ""
