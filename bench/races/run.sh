@@ -74,9 +74,13 @@ traffic() {
   done 2>/dev/null
 }
 
+# is_shown   finds and moves the window. Takes no picture of it, as place_window does: a picture that is
+# being taken when the window goes can keep the X server grabbed.
+is_shown() { find_window '^VORNApp$' && window=$found && timeout 20 xdotool windowmove "$window" 150 100; }
+
 # use_window   what the user does: signs in once, opens the monitor, moves the pointer there.
 use_window() {
-  eventually place_window || return
+  eventually is_shown || return
   if ! grep -qs 'newEmail:ada' "$log"; then
     click 600 212
     type_text "$account"
@@ -107,7 +111,7 @@ run_once() {
   local person=$!
   eventually grep -q 'main\]filepath' "$log"
   # Every third one within the start, the others once there is something to end.
-  [ $((RANDOM % 3)) -eq 0 ] || eventually place_window
+  [ $((RANDOM % 3)) -eq 0 ] || eventually is_shown
   sleep "$((RANDOM % 8)).$((RANDOM % 10))"
   started=$SECONDS
   kill -TERM "$program"
