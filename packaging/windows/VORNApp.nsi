@@ -1,5 +1,5 @@
-; Installer of VORNApp for one user. It needs no administrator rights and does not start the program.
-; Silent: setup.exe /S [/D=<folder>], Uninstall.exe /S [/PURGE]
+; Installer of VORNApp for one user. It needs no administrator rights. Silent: setup.exe /S [/D=<folder>],
+; Uninstall.exe /S [/PURGE]. A silent run ends the running program, and an update starts it again.
 Unicode true
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -38,17 +38,42 @@ VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
 !insertmacro MUI_UNPAGE_INSTFILES
 !include /CHARSET=UTF8 "${LANGUAGES}"
 
-; The files of a running program cannot be replaced.
-!macro REFUSE_WHILE_RUNNING
+Var WasRunning
+
+; Sets $0 to 1 if the program's file can be replaced, to 0 while it runs. Uses $1.
+!macro CHECK_PROGRAM
+  StrCpy $0 1
   ${If} ${FileExists} "$INSTDIR\VORNApp.exe"
     ClearErrors
-    FileOpen $0 "$INSTDIR\VORNApp.exe" a
+    FileOpen $1 "$INSTDIR\VORNApp.exe" a
     ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONEXCLAMATION "$(RUNNING)" /SD IDOK
-      SetErrorLevel 3
-      Abort
+      StrCpy $0 0
+    ${Else}
+      FileClose $1
     ${EndIf}
-    FileClose $0
+  ${EndIf}
+!macroend
+
+; The files of a running program cannot be replaced. A silent run ends it as the entry "Quit" of its tray icon does,
+; and gives up after 10 s. Uses $0 to $2.
+!macro END_PROGRAM
+  !insertmacro CHECK_PROGRAM
+  ${If} $0 == 0
+  ${AndIf} ${Silent}
+    ExecWait '"$INSTDIR\VORNApp.exe" --quit'
+    ${For} $2 1 100
+      !insertmacro CHECK_PROGRAM
+      ${If} $0 == 1
+        StrCpy $WasRunning 1
+        ${ExitFor}
+      ${EndIf}
+      Sleep 100
+    ${Next}
+  ${EndIf}
+  ${If} $0 == 0
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$(RUNNING)" /SD IDOK
+    SetErrorLevel 3
+    Abort
   ${EndIf}
 !macroend
 
@@ -75,7 +100,7 @@ VIAddVersionKey "LegalCopyright" "2026 the VORNApp authors"
 !macroend
 
 Section "VORNApp"
-  !insertmacro REFUSE_WHILE_RUNNING
+  !insertmacro END_PROGRAM
   ; Remove an earlier version first, because it may have files that this version lacks.
   ${If} ${FileExists} "$INSTDIR\Uninstall.exe"
     ExecWait '"$INSTDIR\Uninstall.exe" /S _?=$INSTDIR'
@@ -105,9 +130,25 @@ Section "VORNApp"
   WriteRegDWORD HKCU "${KEY}" "EstimatedSize" $0
 SectionEnd
 
+; The user goes on with the program also after an update that has failed.
+Function StartAgain
+  ${If} $WasRunning == 1
+    SetOutPath "$INSTDIR" ; the working folder
+    Exec '"$INSTDIR\VORNApp.exe"'
+  ${EndIf}
+FunctionEnd
+
+Function .onInstSuccess
+  Call StartAgain
+FunctionEnd
+
+Function .onInstFailed
+  Call StartAgain
+FunctionEnd
+
 Section "un.VORNApp"
   SectionIn RO
-  !insertmacro REFUSE_WHILE_RUNNING
+  !insertmacro END_PROGRAM
   !insertmacro COMPARE_FILES "$INSTDIR\config.json" "$INSTDIR\config.default.json"
   ${If} $0 == 1
     Delete "$INSTDIR\config.json"
