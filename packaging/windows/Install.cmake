@@ -41,8 +41,17 @@ else()
   install(FILES $<TARGET_RUNTIME_DLLS:VORNApp> DESTINATION .)
 endif()
 
-# `ninja installer` makes the installer from the installed files.
+# `ninja installer` makes the installer from the installed files, and a package for Windows Installer where the tools
+# for it are there.
 find_program(VORN_MAKENSIS makensis PATHS "$ENV{ProgramFiles\(x86\)}/NSIS")
+find_program(VORN_WIXL wixl)
+find_program(VORN_MSIINFO msiinfo)
+find_program(VORN_MSIBUILD msibuild)
+set(msi "")
+if(VORN_WIXL AND VORN_MSIINFO AND VORN_MSIBUILD)
+  set(msi "-DMSI=${CMAKE_BINARY_DIR}/VORNApp-${PROJECT_VERSION}.msi" "-DWIXL=${VORN_WIXL}"
+    "-DMSIINFO=${VORN_MSIINFO}" "-DMSIBUILD=${VORN_MSIBUILD}")
+endif()
 set(VORN_SIGN_COMMAND "" CACHE STRING
     "Command that signs the file which is its last argument; run for everything in the installer and for itself")
 if(VORN_MAKENSIS)
@@ -59,6 +68,7 @@ if(VORN_MAKENSIS)
       "-DSTAND_IN=${stand_in}" "-DSIGN=${VORN_SIGN_COMMAND}"
       "-DSYMBOLS=${CMAKE_BINARY_DIR}/VORNApp-${PROJECT_VERSION}-symbols"
       "$<$<BOOL:${MINGW}>:-DOBJCOPY=${CMAKE_OBJCOPY}>" "$<$<BOOL:${MINGW}>:-DSTRIP=${CMAKE_STRIP}>"
+      ${msi}
       -P "${CMAKE_CURRENT_LIST_DIR}/MakeInstaller.cmake"
     DEPENDS VORNApp
     VERBATIM)

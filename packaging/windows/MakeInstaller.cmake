@@ -1,8 +1,10 @@
 cmake_minimum_required(VERSION 3.25)
 # cmake -DBUILD= -DSTAGE= -DMAKENSIS= -DVERSION= -DCONFIG= -DOUTPUT= [-DSTAND_IN=ON] [-DSIGN=<command>]
-#       [-DSYMBOLS=<folder>] [-DOBJCOPY=] [-DSTRIP=] -P MakeInstaller.cmake
+#       [-DSYMBOLS=<folder>] [-DOBJCOPY=] [-DSTRIP=]
+#       [-DMSI=<file>.msi -DWIXL= -DMSIINFO= -DMSIBUILD=] -P MakeInstaller.cmake
 # Installs the program into a folder and packs the folder into an installer, with a file of its SHA-256 sum
-# beside it. The uninstaller removes the files of this list one by one, and no others.
+# beside it. The uninstaller removes the files of a list one by one, and no others. With MSI the same files are
+# packed for Windows Installer too.
 #
 # The command SIGN gets the path of a file as its last argument. It is run once for each program and library,
 # the uninstaller and the installer. With OBJCOPY and STRIP the symbols of our own files move to SYMBOLS.
@@ -57,8 +59,8 @@ if(CMAKE_HOST_UNIX)
   set(target "-XTarget amd64-unicode")
 endif()
 # NSIS on Windows accepts only backslashes in paths.
-cmake_path(SET icon NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico")
-cmake_path(NATIVE_PATH icon icon)
+cmake_path(SET icon_file NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../../qml/images/VORNApp.ico")
+cmake_path(NATIVE_PATH icon_file icon)
 cmake_path(APPEND languages "${CMAKE_CURRENT_LIST_DIR}" Languages.nsh)
 cmake_path(NATIVE_PATH languages languages)
 cmake_path(NATIVE_PATH STAGE stage)
@@ -79,3 +81,11 @@ execute_process(
 file(SHA256 "${OUTPUT}" sum)
 cmake_path(GET OUTPUT FILENAME name)
 file(WRITE "${OUTPUT}.sha256" "${sum}  ${name}\n")
+
+if(MSI)
+  execute_process(
+    COMMAND "${CMAKE_COMMAND}" "-DSTAGE=${STAGE}" "-DWIXL=${WIXL}" "-DMSIINFO=${MSIINFO}" "-DMSIBUILD=${MSIBUILD}"
+      "-DVERSION=${VERSION}" "-DICON=${icon_file}" "-DOUTPUT=${MSI}" "-DSTAND_IN=${STAND_IN}" "-DSIGN=${SIGN}"
+      -P "${CMAKE_CURRENT_LIST_DIR}/MakeMsi.cmake"
+    COMMAND_ERROR_IS_FATAL ANY)
+endif()

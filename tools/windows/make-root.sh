@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # ./tools/windows/make-root.sh [folder]   makes a Debian 13 root that builds and runs Windows programs.
 #
-# The root holds MinGW-w64 (GCC 14, posix threads), Qt's host tools, Wine and NSIS. It takes about five
+# The root holds MinGW-w64 (GCC 14, posix threads), Qt's host tools, Wine, NSIS and msitools. It takes five
 # minutes; a second run installs only missing packages. Needs root and uses the package source of this
 # machine. The default folder is $VORN_WINDOWS_ROOT, or /var/tmp/vorn-windows-root.
 set -euo pipefail

@@ -7,7 +7,7 @@ windows_root=${VORN_WINDOWS_ROOT:-/var/tmp/vorn-windows-root}
 windows_qt=/opt/qtwin
 
 windows_packages=(
-  cmake ninja-build ccache g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis
+  cmake ninja-build ccache g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 nsis wixl msitools
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev
   qt6-multimedia-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools fonts-lato
 )
