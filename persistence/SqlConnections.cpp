@@ -110,8 +110,9 @@ bool SqlConnections::open()
         Log::error(LogFunction) << "Database open error:" << db.lastError().text();
         return false;
     }
-    // FULL does not sync the folder after the journal is removed. A loss of power can then bring
-    // the journal back, which undoes the change or, after VACUUM, damages the file.
+    applySetting(u"PRAGMA synchronous = FULL"_s, "Failed to set synchronous mode:");
+    // FULL alone does not sync the folder after the journal is removed. A loss of power can then
+    // bring the journal back, which undoes the change or, after VACUUM, damages the file.
     applySetting(u"PRAGMA synchronous = EXTRA"_s, "Failed to set synchronous mode:");
     // Overwrites what is deleted, so that nothing of an account stays readable in the file.
     applySetting(u"PRAGMA secure_delete = ON"_s, "Failed to set secure delete:");
