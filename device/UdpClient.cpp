@@ -2,6 +2,8 @@
 
 #include "logging/Log.h"
 
+#include <QNetworkProxy>
+
 #include <utility>
 
 namespace
@@ -18,6 +20,8 @@ UdpClient::UdpClient(QObject* parent)
     , m_socket(new QUdpSocket(this))
 {
     Log::info("UdpClient::UdpClient") << "UdpClient";
+    m_socket->setProxy(
+        QNetworkProxy::NoProxy); // binding would ask the system for one, which can take long
     connect(m_socket, &QUdpSocket::readyRead, this, &UdpClient::readPendingDatagrams);
 }
 
