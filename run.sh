@@ -37,6 +37,7 @@ if $headless; then
 fi
 
 source "$root/tools/tour-support.sh"
+source "$root/tools/tour-linux.sh"
 # The simulated updater, which the program starts, ends when its folder is removed.
 clean_up() {
   [ -s "$home/program.pid" ] && kill "$(cat "$home/program.pid")" 2>/dev/null

@@ -7,10 +7,12 @@ readonly user=ada@example.com password=Engine1843
 start_display() {
   chapter "The simulated display and account service"
   mkfifo "$home/commands"
-  "$bin/VORNSimulator" <"$home/commands" >"$out/display.jsonl" 2>"$out/display.err" &
+  launch "$bin/VORNSimulator" <"$home/commands" >"$out/display.jsonl" 2>"$out/display.err" &
   display=$!
   pids+=("$display")
   exec {display_input}>"$home/commands"
+  # What arrives while Wine starts is lost.
+  check "the display listens" appears '"listening"' "$out/display.jsonl"
   display account listen
   check "the account service listens" appears '"account-listening"' "$out/display.jsonl"
   use_account_service "$out/display.jsonl"
@@ -18,18 +20,18 @@ start_display() {
     -pointsize 90 -annotate 0 A "$home/ada.png"
   convert -size 160x120 plasma:tomato-gold "$home/new picture 100%.png"
   display account add "$user" "$password" firstName=Ada lastName=Byron \
-    'company="Analytical Engines"' title=Countess "picture=$home/ada.png"
-  display devices root "$VORN_SYSFS_ROOT"
-  printf 'installed=1.0.0.0\nseconds=3\n' >"$XDG_CONFIG_HOME/VORNApp/patchpilot.ini"
-  "$home/app/apps/zoom" --install >/dev/null
+    'company="Analytical Engines"' title=Countess "picture=$(native "$home/ada.png")"
+  display devices root "$(native "$devices")"
+  printf 'installed=1.0.0.0\nseconds=3\n' >"$config_folder/patchpilot.ini"
+  install_zoom
   # Without an updater of this run the program would accept any other on this machine.
-  "$home/app/PatchPilot" &
+  launch "$home/app/PatchPilot" &
   pids+=($!)
 }
 
 start_program() {
   chapter "The program starts"
-  "$home/app/VORNApp" >>"$out/program.log" 2>&1 &
+  launch "$home/app/VORNApp" >>"$out/program.log" 2>&1 &
   program=$!
   pids+=("$program")
   check "its window is on the screen" eventually place_window

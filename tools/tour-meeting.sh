@@ -18,7 +18,7 @@ meeting_chapters() {
   # The microphone is shown after 6 s, the speaker at 9.5 s, the camera at 13 s, Go at 15 s.
   sleep 8
   shot microphone-up "The devices appear one after another"
-  sleep 8
+  check "Go is there" eventually is_green 520 476
   shot ready "Ready"
 
   chapter "The meeting"
@@ -29,7 +29,7 @@ meeting_chapters() {
   point 900 40
   shot launcher "The launcher"
   click 377 352
-  check "Zoom was started" eventually grep -q started "$XDG_DATA_HOME/zoom/started.log"
+  check "Zoom was started" eventually grep -q started "$data_folder/zoom/started.log"
   check "its window is visible" eventually find_window '^Zoom$'
   shot zoom "The meeting program beside the program" root
   xdotool windowkill "$found"
@@ -65,14 +65,18 @@ camera_chapter() {
   click 563 474
   check "the position was recalled" appears '"camera-command"' "$out/display.jsonl"
   mark "$out/display.jsonl"
+  mark "$out/program.log"
   display autoframing on
+  check "the state of auto framing arrived" appears '"autoframestatus": ?1' "$out/program.log"
   sleep 0.5
   check "the state reported by the display was shown and not sent back" test "$(framing_commands)" = ""
   shot auto-framing "Auto framing"
   click 715 230
   check "the program requested smart framing" appears '"cmd":15,' "$out/display.jsonl"
   shot smart-framing "Smart framing"
+  mark "$out/display.jsonl"
   click 473 172
+  check "the program ended auto framing" appears '"event":"message".*"autoframestatus":0' "$out/display.jsonl"
   mark "$out/display.jsonl"
   click 653 172
   check "auto framing sends the smart-framing command too" appears '"event":"message".*"cmd":15,' "$out/display.jsonl"

@@ -45,10 +45,7 @@ settings_chapters() {
   click 503 332
   sleep 1.5
   shot file-dialog "The file dialog" root
-  key ctrl+l
-  key ctrl+a
-  type_text "$home/new picture 100%.png"
-  key Return
+  choose_file "$home/new picture 100%.png"
   sleep 1
   shot picture-chosen "The chosen picture"
   key Escape
@@ -62,7 +59,7 @@ settings_chapters() {
 
 upgrade_chapter() {
   chapter "Upgrade"
-  printf 'installed=1.0.0.0\nseconds=3\noffer=1.1.0.0\n' >"$XDG_CONFIG_HOME/VORNApp/patchpilot.ini"
+  printf 'installed=1.0.0.0\nseconds=3\noffer=1.1.0.0\n' >"$config_folder/patchpilot.ini"
   check "a newer version was found" appears 'newver:1\.1\.0\.0' "$out/program.log"
   click 129 611
   click 350 129
@@ -88,9 +85,9 @@ upgrade_chapter() {
   click 774 198
   point 900 40
   shot upgraded "Up to date"
-  kill -TERM "$program"
+  quit_program
   check "it ended with exit code 0" ends_with_0 "$program"
-  display quit 0
+  quit_display
   check "the display ended with exit code 0" ends_with_0 "$display"
   pids=()
 }

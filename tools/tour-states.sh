@@ -10,8 +10,8 @@ state() {
   local picture=$1 caption=$2 page=$3 size=$4 scripts=()
   shift 4
   for script in "$@"; do scripts+=(--run "$script"); done
-  check "$caption" timeout 60 "$bin/vorn-item-tree" "$page" --size "$size" --quiet --settle 2500 \
-    --png "$out/$picture.png" "${scripts[@]}" 2>>"$out/states.log"
+  check "$caption" run_tool "$bin/vorn-item-tree" "$page" --size "$size" --quiet --settle 2500 \
+    --png "$(native "$out/$picture.png")" "${scripts[@]}" 2>>"$out/states.log"
   show "$picture" "$caption"
 }
 

@@ -1,26 +1,6 @@
-# Functions of the tour: the temporary home folder, checks, pictures, pointer and keyboard. Source this
-# file after common.sh.
+# Functions of the tour: checks, pictures, pointer and keyboard. Source this file after common.sh.
 # shellcheck shell=bash
 # shellcheck disable=SC2154 # tour.sh sets the folders `bin` and `out`
-
-# make_home <folder of the built programs>
-# Makes a temporary home folder. It keeps the programs away from the user's files and from an instance of
-# the user's, but lets them use the user's screen.
-make_home() {
-  home=$(mktemp -d)
-  export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
-  case ${WAYLAND_DISPLAY:-/} in
-  /*) ;;
-  *) export WAYLAND_DISPLAY=${XDG_RUNTIME_DIR:-}/$WAYLAND_DISPLAY ;;
-  esac
-  export HOME=$home XDG_STATE_HOME=$home/state XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
-  export XDG_CACHE_HOME=$home/cache XDG_RUNTIME_DIR=$home/run TMPDIR=$home/tmp
-  export VORN_PORTALHUB_SOCKET=$home/run/portalhub VORN_SYSFS_ROOT=$home/sys
-  mkdir -m 700 "$XDG_RUNTIME_DIR" "$TMPDIR"
-  mkdir -p "$home/app" "$XDG_CONFIG_HOME/VORNApp" "$VORN_SYSFS_ROOT"
-  # The program keeps its settings in its own folder.
-  cp -a "$1"/{VORNApp,PatchPilot,config.json} "$1"/apps "$1"/libPortalHub.so* "$home/app"
-}
 
 # use_account_service <file of the simulator's events>
 # Makes the program use the simulated account service: writes the address that the service has reported
@@ -32,8 +12,8 @@ use_account_service() {
 
 clean_up() {
   if [ ${#pids[@]} -gt 0 ]; then kill -KILL "${pids[@]}" 2>/dev/null || true; fi
-  cp -r "$XDG_STATE_HOME" "$out/state" 2>/dev/null || true
-  rm -rf "$home"
+  cp -r "$log_folder" "$out/state" 2>/dev/null || true
+  remove_home
   write_index
 }
 
@@ -75,17 +55,16 @@ since_mark() { tail -n "+$((${marks[$2]:-0} + 1))" "$2" | grep -qE -- "$1"; }
 # appears <pattern> <file>   waits for a line that matches.
 appears() { eventually since_mark "$1" "$2"; }
 count_since_mark() { tail -n "+$((${marks[$2]:-0} + 1))" "$2" | grep -cE -- "$1" || true; }
-# appears_times <number> <pattern> <file>   waits for a line that matches and compares the number of them.
-appears_times() {
-  appears "$2" "$3" && [ "$(count_since_mark "$2" "$3")" = "$1" ]
-}
+count_is() { [ "$(count_since_mark "$2" "$3")" = "$1" ]; }
+# appears_times <number> <pattern> <file>   waits until so many lines match.
+appears_times() { eventually count_is "$@"; }
 
 # ends_with_0 <process>   waits up to 60 s for a child process and compares its exit code.
 ends_with_0() { timeout 60 tail --pid="$1" -s 0.05 -f /dev/null && wait "$1"; }
 
 # shot <name> <caption> [<window>]
 # Takes a picture of a window, by default the main window. Waits until two pictures in a row are equal,
-# so that animations have ended, but no longer than 12 pictures.
+# so that animations have ended, but no longer than 12 pictures. `pace` is the time between them in seconds.
 shot() {
   local target=${3:-$window} tries=0 before="" now
   while [ $tries -lt 12 ]; do
@@ -93,7 +72,7 @@ shot() {
     [ "$now" = "$before" ] && break
     before=$now
     tries=$((tries + 1))
-    sleep 0.15
+    sleep "$pace"
   done
   import -window "$target" "$out/$1.png"
   show "$1" "$2"
@@ -102,6 +81,12 @@ shot() {
 # show <name> <caption>   adds a picture of the folder to the index.
 show() {
   printf '<figure><img src="%s.png" alt=""><figcaption>%s</figcaption></figure>\n' "$1" "$2" >>"$out/index.body"
+}
+
+# is_green <x> <y>   whether the main window shows the green of its buttons there.
+is_green() {
+  [ "$(import -window "$window" -crop "1x1+$1+$2" +repage png:- 2>/dev/null |
+    identify -format '%[fx:p.g>0.5 && p.g>1.5*p.r && p.g>1.5*p.b]' - 2>/dev/null)" = 1 ]
 }
 
 # find_window <name>   sets `found` to the first visible window whose name matches.
@@ -116,11 +101,11 @@ place_window() {
   find_window '^VORNApp$' && window=$found && xdotool windowmove --sync "$window" 150 100 && is_painted "$window"
 }
 
-# Positions are relative to the main window.
-click() { xdotool mousemove --window "$window" "$1" "$2" sleep 0.05 click 1; }
+# Positions are relative to the main window. `pause` is the time in seconds that the program is given to react.
+click() { xdotool mousemove --window "$window" "$1" "$2" sleep 0.05 click 1 sleep "$pause"; }
 point() { xdotool mousemove --window "$window" "$1" "$2"; }
 type_text() { xdotool type --delay 15 "$1"; }
-key() { xdotool key --delay 20 "$@"; }
+key() { xdotool key --delay 20 "$@" sleep "$pause"; }
 
 # Sends a command to the simulated display.
 display() { printf '%s\n' "$*" >&"$display_input"; }

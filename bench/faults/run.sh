@@ -33,6 +33,7 @@ mount -t tmpfs -o size=64M tmpfs /dev/shm
 mkdir -m 1777 /tmp/.X11-unix
 ip link set lo up
 source "$root/tools/tour-support.sh"
+source "$root/tools/tour-linux.sh"
 source "$root/tools/tour-meeting.sh"
 source "$here/support.sh"
 source "$here/system.sh"

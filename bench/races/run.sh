@@ -35,6 +35,7 @@ mount -t tmpfs tmpfs /dev/shm
 mkdir -m 1777 /tmp/.X11-unix
 ip link set lo up
 source "$root/tools/tour-support.sh"
+source "$root/tools/tour-linux.sh"
 bin=$root/build/tsan/bin pids=()
 readonly account=ada@example.com password=Engine1843 patience=40
 export TSAN_OPTIONS="ignore_noninstrumented_modules=1:second_deadlock_stack=1:die_after_fork=0:suppressions=$root/cmake/tsan.supp"
