@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
@@ -33,6 +34,7 @@ public:
         folder("XDG_RUNTIME_DIR", QStringLiteral("run"));
         folder("TMPDIR", QStringLiteral("tmp"));
         m_environment.insert(QStringLiteral("VORN_PORTALHUB_SOCKET"), socketPath());
+        copyProgram();
     }
 
     /// Sets a variable for later runs.
@@ -44,6 +46,8 @@ public:
     const QProcessEnvironment& environment() const { return m_environment; }
     QString socketPath() const { return m_folder.filePath(QStringLiteral("run/portalhub")); }
     QString path() const { return m_folder.path(); }
+    /// Folder of the program, in which it keeps its settings.
+    QString programFolder() const { return m_folder.filePath(QStringLiteral("app")); }
 
     /// Content of the file that stands in for the registry.
     QByteArray registry() const
@@ -53,8 +57,7 @@ public:
     }
 
     /// Starts the program. It writes its log to standard error as well.
-    std::unique_ptr<QProcess> start(const QString& platform,
-                                    const QString& program = QStringLiteral(VORN_PROGRAM)) const
+    std::unique_ptr<QProcess> start(const QString& platform) const
     {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = m_environment;
@@ -70,11 +73,22 @@ public:
         process->setProcessEnvironment(environment);
         process->setWorkingDirectory(m_folder.path());
         process->setProcessChannelMode(QProcess::MergedChannels);
-        process->start(program, QStringList());
+        process->start(programFolder() + QStringLiteral("/VORNApp"), QStringList());
         return process;
     }
 
 private:
+    void copyProgram() const
+    {
+        const QDir source = QFileInfo(QStringLiteral(VORN_PROGRAM)).dir();
+        QDir().mkpath(programFolder());
+        for (const QString& name :
+             source.entryList({QStringLiteral("VORNApp"), QStringLiteral("PatchPilot"),
+                               QStringLiteral("config.json"), QStringLiteral("libPortalHub.so*")},
+                              QDir::Files))
+            QFile::copy(source.filePath(name), programFolder() + QLatin1Char('/') + name);
+    }
+
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment;
 };
