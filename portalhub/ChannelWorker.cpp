@@ -72,13 +72,13 @@ void ChannelWorker::tryConnect()
 {
     if (m_socket->state() != QLocalSocket::UnconnectedState)
         return;
-    const bool isAwaited = isServerAwaited();
-    if (isAwaited)
+    if (isServerAwaited()) {
         m_reconnectTimer->stop();
-    else if (!m_reconnectTimer->isActive())
+        return;
+    }
+    if (!m_reconnectTimer->isActive())
         m_reconnectTimer->start();
-    if (!isAwaited)
-        m_socket->connectToServer(m_serverName);
+    m_socket->connectToServer(m_serverName);
 }
 
 // The folder is watched before the look at the file, so that no server is missed in between. A pipe

@@ -25,8 +25,6 @@ find_compositor() {
   [ -n "$window" ]
 }
 
-main_window_is_gone() { ! find_window '^VORNApp$'; }
-
 keyboard_chapters() {
   start_again
   chapter "With the keyboard only: the meeting"

@@ -95,6 +95,8 @@ find_window() {
   [ -n "$found" ]
 }
 
+main_window_is_gone() { ! find_window '^VORNApp$'; }
+
 # Moves the main window to a known position and sets `window`. A window that was hidden has a new
 # identifier when it is shown again.
 place_window() {

@@ -5,10 +5,8 @@
 # colour differs by more than a tenth.
 set -euo pipefail
 source "$(dirname "$0")/../common.sh"
-[ $# -eq 3 ] || {
-  sed -n '2,5s/^# \{0,1\}//p' "$0"
-  exit 2
-}
+print_help_if_asked "$@"
+[ $# -eq 3 ] || fail "three folders are needed" "$0 --help"
 need_packages imagemagick
 windows=$1 linux=$2 out=$3
 rm -rf "$out"

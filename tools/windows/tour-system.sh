@@ -115,8 +115,6 @@ quit_display() {
   display help
 }
 
-main_window_is_gone() { ! find_window '^VORNApp$'; }
-
 # Chapters that only this system has.
 system_chapters() {
   chapter "The tray, and a second start"
