@@ -32,7 +32,9 @@ std::array<SignalHandler, Signals.size()> g_previous{};
 SignalHandler g_previousAbort = SIG_DFL;
 std::terminate_handler g_previousTerminate = nullptr;
 
-std::atomic<DWORD> g_reporter{0}; // the thread that crashed first
+std::atomic<DWORD> g_reporter{0};     // the thread that crashed first
+std::atomic<DWORD> g_exitCode{0};     // code of the first crash
+DWORD g_endSlot = FLS_OUT_OF_INDEXES; // has a value on a crashed thread
 
 // The crashed thread may hold the lock of the heap, so the dump is named, written and reported
 // without memory from it.
@@ -118,6 +120,7 @@ LONG GenerateDump(EXCEPTION_POINTERS* exceptionPointers)
     DWORD reporter = 0;
     const DWORD thread = GetCurrentThreadId();
     if (g_reporter.compare_exchange_strong(reporter, thread)) {
+        g_exitCode = exceptionPointers->ExceptionRecord->ExceptionCode;
         g_report.thread = thread;
         g_report.exceptionPointers = exceptionPointers;
         SetEvent(g_report.wake);
@@ -126,6 +129,7 @@ LONG GenerateDump(EXCEPTION_POINTERS* exceptionPointers)
     }
     WaitForSingleObject(g_report.written, DumpPatienceMs);
     WaitForSingleObject(g_report.logged, LogPatienceMs);
+    FlsSetValue(g_endSlot, &g_exitCode); // last, because it may need memory from the heap
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
@@ -192,6 +196,14 @@ void onAbort(int signal)
     passOn(signal, g_previousAbort);
 }
 
+// An earlier handler may end the process through the C library, which makes the exit code 3. The
+// system calls this at the end of the thread or of the process, if the thread has a value.
+void NTAPI endWithCodeOfCrash(void* value)
+{
+    if (value)
+        TerminateProcess(GetCurrentProcess(), g_exitCode);
+}
+
 void startReporter(platform::CrashLine writeLine)
 {
     g_report.writeLine = writeLine;
@@ -211,6 +223,7 @@ void installCrashHandler(CrashLine writeLine)
 {
     storeProgramName();
     startReporter(writeLine);
+    g_endSlot = FlsAlloc(endWithCodeOfCrash);
     reserveStackForCrash();
     SetUnhandledExceptionFilter(onUnhandledException);
     for (std::size_t i = 0; i < Signals.size(); ++i)

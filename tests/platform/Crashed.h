@@ -9,9 +9,10 @@
 
 /// A crash of platform_helper and the dump that it left.
 struct Crashed {
-    bool ended = false; ///< by the crash, and in time
-    QStringList lines;  ///< on standard error
-    QString fileName;   ///< of the dump; empty unless there is exactly one
+    bool ended = false;   ///< by the crash, and in time
+    quint32 exitCode = 0; ///< on Windows that of the exception
+    QStringList lines;    ///< on standard error
+    QString fileName;     ///< of the dump; empty unless there is exactly one
     QByteArray dump;
     bool isNamedCorrectly = false; ///< after the time of the crash and the process
     qint64 thread = 0;             ///< in the dump's name
@@ -29,9 +30,10 @@ struct Crashed {
         helper.start(HelperProcess::path(u"platform_helper"_s), QStringList{u"crash"_s} + how);
         helper.waitForStarted();
         const qint64 process = helper.processId();
-        // On Windows the C library ends some crashed programs with an exit code.
+        // Qt takes some of the codes that a crash has on Windows for those of a normal end.
         ended = helper.waitForFinished(60'000) &&
                 (helper.exitStatus() == QProcess::CrashExit || helper.exitCode() != 0);
+        exitCode = quint32(helper.exitCode());
         lines = QString::fromUtf8(helper.readAllStandardError().replace('\r', "")).split(u'\n');
 
         const QStringList files = QDir(folder).entryList({u"*.dmp"_s}, QDir::Files);

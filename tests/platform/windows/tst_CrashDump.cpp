@@ -84,6 +84,7 @@ void tst_CrashDump::writesAMinidump()
         QVERIFY(exception.has_value());
         QCOMPARE(qint64(exception->thread), crashed.thread);
         QCOMPARE(exception->code, code);
+        QCOMPARE(crashed.exitCode, code);
 
         QCOMPARE(crashed.lines.value(0), u"Creating dump file..."_s);
         QCOMPARE(crashed.lines.value(1),
