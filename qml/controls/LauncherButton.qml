@@ -17,6 +17,7 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
+        maximumWidth: button.width - 16
         font.pixelSize: Theme.headingText
         color: Theme.textGrey
     }

@@ -25,5 +25,6 @@ QuickButton {
         // Centred in its own width, a single line would stand a part of a pixel beside its place.
         horizontalAlignment: Text.AlignLeft
         font.pixelSize: 18
+        minimumPixelSize: 14 // "Launcher App List" in Japanese has no room for more
     }
 }

@@ -25,6 +25,7 @@ QString LongEnglish::translate(const char* context, const char* sourceText,
     QString text = QString::fromUtf8(sourceText);
     if (text == "hh:mm AP"_L1 || text == "ddd, MMM dd, yyyy"_L1)
         return text;
+    text.replace(u'\n', u' '); // a translator breaks the lines elsewhere
     static const QRegularExpression s_word(u"[^\\s%]{2,}"_s);
     qsizetype offset = 0;
     for (QRegularExpressionMatch word = s_word.match(text); word.hasMatch();
