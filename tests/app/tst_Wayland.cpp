@@ -71,7 +71,7 @@ void tst_Wayland::compositorMovesTheWindow()
                                   u"9"_s, u"9"_s, u"mouseup"_s, u"1"_s});
         drag.waitForFinished(Patience);
         log += QString::fromLocal8Bit(program->readAll());
-        static const QRegularExpression s_request(u"xdg_toplevel@\\d+\\.move\\("_s);
+        static const QRegularExpression s_request(u"xdg_toplevel[@#]\\d+\\.move\\("_s);
         return log.contains(s_request);
     };
     QTRY_VERIFY_WITH_TIMEOUT(isMoved(), Patience);
