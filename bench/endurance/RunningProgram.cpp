@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int KeptLogFiles = 5;
-
 template <typename Object>
 Object* published(const QQmlEngine& engine, const QString& name)
 {

@@ -12,6 +12,8 @@
 class RunningProgram
 {
 public:
+    static constexpr int KeptLogFiles = 5; ///< of earlier runs
+
     RunningProgram();
     /// Ends the program as the tray's "Quit" does.
     ~RunningProgram();

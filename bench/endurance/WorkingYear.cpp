@@ -4,13 +4,13 @@
 #include "persistence/DBManager.h"
 #include "persistence/InstalledVersions.h"
 #include "persistence/Keys.h"
+#include "platform/Folders.h"
 #include "platform/Registry.h"
 
 #include <QColor>
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QSettings>
 
 #include <array>
@@ -27,6 +27,7 @@ constexpr int Meetings = 5;
 constexpr int SetUps = 3;
 constexpr int CameraMoves = 20;
 constexpr int FramesOfASetUp = 3;
+constexpr auto LengthOfASleep = std::chrono::hours(14); // from the evening to the next morning
 
 const QString Email = u"ada@acme.example"_s;
 const QString Password = u"Engine1843"_s;
@@ -41,10 +42,15 @@ QByteArray contentOf(const QString& name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+bool check(const char* what, bool isMet)
+{
+    std::printf("  [%c] %s\n", isMet ? 'x' : ' ', what);
+    return isMet;
+}
+
 bool check(const char* what, const QString& value, const QString& expected)
 {
-    const bool isMet = value == expected;
-    std::printf("  [%c] %s\n", isMet ? 'x' : ' ', what);
+    const bool isMet = check(what, value == expected);
     if (!isMet)
         std::printf("      is \"%s\" instead of \"%s\"\n", qPrintable(value.left(80)),
                     qPrintable(expected.left(80)));
@@ -273,12 +279,9 @@ void WorkingYear::press(const QJsonObject& button)
                                float(button[u"y"_s].toDouble()));
 }
 
-/// The process stands still, while the clock and the other processes go on.
 void WorkingYear::sleepAndWake()
 {
-    QProcess shell;
-    shell.start(u"sh"_s, {u"-c"_s, u"kill -STOP $PPID; sleep 0.2; kill -CONT $PPID"_s});
-    shell.waitForFinished();
+    m_sleep.pass(LengthOfASleep);
     connectDisplay();
     disconnectDisplay();
 }
@@ -323,5 +326,7 @@ bool WorkingYear::close()
                    expected);
     holds &= check("config.ini: launcher", config.value(keys::config::LaunchGoogle).toString(),
                    expected);
+    const qsizetype kept = QDir(platform::logBackupFolder()).entryList({u"*.log"_s}).size();
+    holds &= check("log: files of earlier runs are removed", kept <= RunningProgram::KeptLogFiles);
     return holds;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bench/endurance/ComputerSleep.h"
 #include "bench/endurance/RunningProgram.h"
 #include "bench/endurance/SimulatedRoom.h"
 
@@ -21,6 +22,9 @@ public:
     /// Signs in once more, quits the program, and compares what it has stored. Prints each
     /// comparison; true if all hold.
     [[nodiscard]] bool close();
+
+    /// By how much the clocks are ahead, because the computer has slept.
+    std::chrono::hours slept() const { return m_sleep.total(); }
 
 private:
     using Signal = void (NetworkManager::*)(const QJsonObject&);
@@ -49,6 +53,7 @@ private:
 
     const QString m_home;
     SimulatedRoom& m_room;
+    ComputerSleep m_sleep;
     std::optional<RunningProgram> m_program;
     int m_requests = 0;
 

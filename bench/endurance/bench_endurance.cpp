@@ -3,10 +3,10 @@
 // An accelerated working year: the program's own objects and windows in this process, driven as the
 // pages drive them, against the simulator in another one. Each of its 250 days has a sign-in, eight
 // connections with five meetings and three first set-ups with video, camera moves, a change of the
-// profile and of the picture, settings, a sleep of the computer, and a display that vanishes in the
-// middle; every tenth request meets a service that fails, and the program is upgraded and started
-// again once a month. Covers what leaks or is mixed up over time in all rooms but the single
-// instance and the tray.
+// profile and of the picture, settings, a night's sleep of the computer, and a display that
+// vanishes in the middle; every tenth request meets a service that fails, and the program is
+// upgraded and started again once a month. Covers what leaks or is mixed up over time in all rooms
+// but the single instance and the tray.
 //
 // Does as many days as fit into the minutes (10). Exits with 1 if memory, handles, threads,
 // temporary files or the log grow after the first tenth, or if another state comes out than the one
@@ -16,9 +16,9 @@
 // OpenGL and of Qt's own queues: ASAN_OPTIONS=detect_leaks=0.
 #include "bench/endurance/Resources.h"
 #include "bench/endurance/WorkingYear.h"
+#include "bench/faults/Faults.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -54,9 +54,11 @@ int workInHome(const QString& home, double minutes)
     SimulatedRoom room(QStringLiteral(VORN_SIMULATOR));
     WorkingYear year(home, room);
     ResourceDiary diary;
-    const QDeadlineTimer deadline(std::chrono::milliseconds(qint64(minutes * 60'000)));
+    const std::chrono::milliseconds length(qint64(minutes * 60'000));
+    const auto begin = std::chrono::steady_clock::now();
     int day = 0;
-    while (day < WorkingYear::Days && !deadline.hasExpired()) {
+    while (day < WorkingYear::Days &&
+           std::chrono::steady_clock::now() - begin - year.slept() < length) {
         year.work(++day);
         settle();
         const Resources resources = Resources::measure(home);
@@ -84,6 +86,27 @@ void printEnd(const QString& fileName)
     std::fputs(file.readAll().constData(), stderr);
 }
 
+QProcessEnvironment environmentIn(const QTemporaryDir& home)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1StringView(HomeVariable), home.path());
+    environment.insert(u"TMPDIR"_s, home.filePath(u"tmp"_s));
+    for (const auto variable : {"HOME"_L1, "XDG_STATE_HOME"_L1, "XDG_CONFIG_HOME"_L1,
+                                "XDG_DATA_HOME"_L1, "XDG_CACHE_HOME"_L1, "XDG_RUNTIME_DIR"_L1})
+        environment.insert(variable, home.path());
+    environment.insert(u"VORN_PORTALHUB_SOCKET"_s, home.filePath(u"portalhub"_s));
+    environment.insert(u"VORN_SYSFS_ROOT"_s, home.filePath(u"sys"_s));
+    const QString shim = QStringLiteral(VORN_FAULT_SHIM);
+    if (shim.isEmpty())
+        return environment;
+    QFile faults(home.filePath(u"faults"_s));
+    if (!faults.open(QIODevice::WriteOnly) || !faults.resize(sizeof(Faults)))
+        qFatal("The file of the clocks cannot be written.");
+    environment.insert(u"VORN_FAULTS"_s, faults.fileName());
+    environment.insert(u"LD_PRELOAD"_s, shim);
+    return environment;
+}
+
 /// The program keeps its settings beside its executable, so this one runs from a copy.
 int runCopy(const QStringList& arguments)
 {
@@ -96,16 +119,8 @@ int runCopy(const QStringList& arguments)
              {self, u"PatchPilot"_s, u"UpdateInstaller"_s, u"config.json"_s, u"libPortalHub.so*"_s},
              QDir::Files))
         QFile::copy(file.filePath(), home.filePath(u"app/"_s + file.fileName()));
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1StringView(HomeVariable), home.path());
-    environment.insert(u"TMPDIR"_s, home.filePath(u"tmp"_s));
-    for (const auto variable : {"HOME"_L1, "XDG_STATE_HOME"_L1, "XDG_CONFIG_HOME"_L1,
-                                "XDG_DATA_HOME"_L1, "XDG_CACHE_HOME"_L1, "XDG_RUNTIME_DIR"_L1})
-        environment.insert(variable, home.path());
-    environment.insert(u"VORN_PORTALHUB_SOCKET"_s, home.filePath(u"portalhub"_s));
-    environment.insert(u"VORN_SYSFS_ROOT"_s, home.filePath(u"sys"_s));
     QProcess process;
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(environmentIn(home));
     process.setProcessChannelMode(QProcess::ForwardedOutputChannel);
     const QString errors = home.filePath(u"errors"_s); // the log goes there, too
     process.setStandardErrorFile(errors);

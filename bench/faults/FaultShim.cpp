@@ -3,8 +3,8 @@
 //
 //     VORN_FAULTS=<file> LD_PRELOAD=<this library> <program>
 //
-// The file holds three 64-bit numbers: seconds to add to the time of day, seconds to add to the
-// monotonic clock, and the size in bytes from which an allocation fails (0: none).
+// Faults.h describes the file.
+#include "bench/faults/Faults.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -31,14 +31,8 @@ void* __libc_memalign(std::size_t, std::size_t); // NOLINT
 namespace
 {
 
-struct Faults {
-    volatile std::int64_t timeOfDay;
-    volatile std::int64_t monotonic;
-    volatile std::int64_t failingSize;
-};
-
-Faults g_none{};
-Faults* g_faults = &g_none;
+const Faults g_none;
+const volatile Faults* g_faults = &g_none; // changed by other processes
 
 // The file is mapped before main(), and never unmapped.
 const bool g_isMapped = [] {
@@ -48,7 +42,7 @@ const bool g_isMapped = [] {
         return false;
     void* const place = ::mmap(nullptr, sizeof(Faults), PROT_READ, MAP_SHARED, fd, 0);
     if (place != MAP_FAILED)
-        g_faults = static_cast<Faults*>(place);
+        g_faults = static_cast<const Faults*>(place);
     return place != MAP_FAILED;
 }();
 
