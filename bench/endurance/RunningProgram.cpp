@@ -6,6 +6,7 @@
 #include "platform/Folders.h"
 
 #include <QCoreApplication>
+#include <QFontDatabase>
 #include <QQmlContext>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +43,7 @@ RunningProgram::~RunningProgram()
     m_program->closeChannel();
     m_program->windowManager().closeServer();
     m_engine.reset();
+    QFontDatabase::removeAllApplicationFonts(); // which the next program loads again
 }
 
 void RunningProgram::startSetup() const
