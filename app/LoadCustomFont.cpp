@@ -3,6 +3,7 @@
 #include "logging/Log.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QQmlContext>
 
 bool LoadCustomFont(QQmlContext* context, const QString& path, const QString& name)
@@ -24,4 +25,14 @@ bool LoadCustomFont(QQmlContext* context, const QString& path, const QString& na
     Log::info(Function) << "Loaded font family:" << families.first() << " as " << name;
     context->setContextProperty(name, families.first());
     return true;
+}
+
+void preferTypographicLineHeight()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QFont font = QGuiApplication::font();
+    font.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(font.styleStrategy() | QFont::PreferTypoLineMetrics));
+    QGuiApplication::setFont(font);
+#endif
 }

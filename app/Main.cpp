@@ -106,6 +106,7 @@ int run(int& argc, char** argv, SingleInstance& instance)
     auto engine = std::make_unique<QQmlApplicationEngine>();
     FirstFrame firstFrame(*engine, QUrl(u"qrc:/Main.qml"_s));
     LoadCustomFont(engine->rootContext(), u":/fonts/LatoRegular.ttf"_s, u"LatoRegular"_s);
+    preferTypographicLineHeight();
     firstFrame.serveLoader();
     Program program(QCoreApplication::applicationFilePath());
     program.publish(engine->rootContext());

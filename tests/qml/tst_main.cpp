@@ -1,3 +1,4 @@
+#include "app/LoadCustomFont.h"
 #include "rig/PageRig.h"
 
 #include <QAccessible>
@@ -25,9 +26,10 @@ class Setup : public QObject
     Q_OBJECT
 
 public slots:
-    // Switches accessibility on, as a screen reader does.
+    // Switches accessibility on, as a screen reader does, and sets the font up as the program does.
     void applicationAvailable()
     {
+        preferTypographicLineHeight();
 #ifdef QT_DBUS_LIB
         QDBusConnection bus = QDBusConnection::sessionBus();
         bus.registerObject(u"/org/a11y/bus"_s, &m_accessibility, QDBusConnection::ExportAllSlots);

@@ -1,6 +1,7 @@
 #include "PageTexts.h"
 #include "TestLanguage.h"
 
+#include "app/LoadCustomFont.h"
 #include "rig/PageRig.h"
 
 #include <QDir>
@@ -89,6 +90,7 @@ private:
 
 void tst_TextFit::initTestCase()
 {
+    preferTypographicLineHeight();
     const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
     m_family = QFontDatabase::applicationFontFamilies(font).value(0);
     qmlRegisterUncreatableType<CameraControl>("VORNApp", 1, 0, "CameraControl", QString());
