@@ -26,8 +26,7 @@ Window {
             return;
         }
         mainWindow.place.settle();
-        mainWindow.visibility = Window.Windowed;
-        mainWindow.visible = true;
+        mainWindow.showNormal();
         // Staying on top for one turn of the event loop forces the window in front of those of other
         // programs.
         mainWindow.flags |= Qt.WindowStaysOnTopHint;
