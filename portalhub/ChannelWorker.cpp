@@ -1,6 +1,7 @@
 #include "portalhub/ChannelWorker.h"
 
 #include "portalhub/MessageLine.h"
+#include "portalhub/SocketName.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -81,15 +82,14 @@ void ChannelWorker::tryConnect()
     m_socket->connectToServer(m_serverName);
 }
 
-// The folder is watched before the look at the file, so that no server is missed in between. A pipe
-// of Windows lies in no folder that could be watched.
+// The folder is watched before the look at the file, so that no server is missed in between.
 bool ChannelWorker::isServerAwaited()
 {
-    const QFileInfo file(m_serverName);
-    if (!file.isAbsolute())
+    const QString folder = folderOfSocket(m_serverName);
+    if (folder.isEmpty())
         return false;
-    const bool isWatched = !m_folder->directories().isEmpty() || m_folder->addPath(file.path());
-    return isWatched && !file.exists();
+    const bool isWatched = !m_folder->directories().isEmpty() || m_folder->addPath(folder);
+    return isWatched && !QFileInfo::exists(m_serverName);
 }
 
 void ChannelWorker::onConnected()

@@ -10,4 +10,8 @@ namespace channel
 /// the default.
 QString socketName();
 
+/// The folder in which the file of that socket appears, for watching it; empty for a pipe of
+/// Windows, which has none.
+QString folderOfSocket(const QString& name);
+
 } // namespace channel

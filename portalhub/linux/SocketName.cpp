@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 QString channel::socketName()
 {
@@ -13,4 +14,10 @@ QString channel::socketName()
     }
     // Qt would resolve a relative name in the folder for temporary files.
     return QDir::current().absoluteFilePath(QFile::decodeName(name));
+}
+
+QString channel::folderOfSocket(const QString& name)
+{
+    const QFileInfo file(name);
+    return file.isAbsolute() ? file.path() : QString();
 }

@@ -7,3 +7,8 @@ QString channel::socketName()
     const QString name = qEnvironmentVariable("VORN_PORTALHUB_SOCKET");
     return name.isEmpty() ? u"vorn-portalhub"_s : name;
 }
+
+QString channel::folderOfSocket(const QString& /*name*/)
+{
+    return {};
+}
