@@ -1,6 +1,7 @@
 #include "portalhub/PortalHub.h"
 
 #include "portalhub/ChannelClient.h"
+#include "portalhub/LastThread.h"
 #include "portalhub/SocketName.h"
 
 #include <QCoreApplication>
@@ -40,6 +41,8 @@ struct ProcessEnd {
     ~ProcessEnd()
     {
         g_processEnding = true;
+        if (channel::isLastThread())
+            return;
         qRemovePostRoutine(endWithApplication);
         client().stop(QDeadlineTimer(EndTimeout));
     }

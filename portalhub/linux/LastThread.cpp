@@ -1,0 +1,6 @@
+#include "portalhub/LastThread.h"
+
+bool channel::isLastThread()
+{
+    return false;
+}
