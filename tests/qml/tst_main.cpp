@@ -1,3 +1,5 @@
+#include "ScreenReader.h"
+
 #include "app/LoadCustomFont.h"
 #include "rig/PageRig.h"
 
@@ -6,19 +8,6 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QtQuickTest>
-#ifdef QT_DBUS_LIB
-#include <QDBusConnection>
-#endif
-
-// The service that leads Qt to the bus of screen readers, here the session bus.
-class AccessibilityBus : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.a11y.Bus")
-
-public slots:
-    QString GetAddress() const { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
-};
 
 // Publishes to each test file what the program publishes to its pages. Each file gets new objects.
 class Setup : public QObject
@@ -26,17 +15,11 @@ class Setup : public QObject
     Q_OBJECT
 
 public slots:
-    // Switches accessibility on, as a screen reader does, and sets the font up as the program does.
+    // With a screen reader, and with texts as the program draws them.
     void applicationAvailable()
     {
         preferTypographicLineHeight();
-#ifdef QT_DBUS_LIB
-        QDBusConnection bus = QDBusConnection::sessionBus();
-        bus.registerObject(u"/org/a11y/bus"_s, &m_accessibility, QDBusConnection::ExportAllSlots);
-        bus.registerService(u"org.a11y.Bus"_s);
-#else
-        QAccessible::setActive(true);
-#endif
+        actAsScreenReader(this);
         if (!QTest::qWaitFor(&QAccessible::isActive))
             qFatal("Accessibility could not be switched on: the tests need a session bus");
     }
@@ -54,13 +37,9 @@ public slots:
         m_rig->publish(engine->rootContext());
     }
 
-    void cleanupTestCase()
-    {
-        m_rig.reset();
-    }
+    void cleanupTestCase() { m_rig.reset(); }
 
 private:
-    AccessibilityBus m_accessibility;
     std::optional<PageRig> m_rig;
 };
 
