@@ -17,7 +17,6 @@ QuickButton {
         id: label
 
         anchors.centerIn: parent
-        maximumWidth: button.width - 16
         font.pixelSize: Theme.headingText
         color: Theme.textGrey
     }

@@ -7,5 +7,6 @@ FittedLabel {
     maximumHeight: 2.5 * font.pixelSize
     horizontalAlignment: Text.AlignHCenter
     font.pixelSize: Theme.bodyText
+    lineHeight: Theme.lineSpacing
     color: Theme.panelText
 }

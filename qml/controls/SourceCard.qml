@@ -48,6 +48,7 @@ ControlButton {
         maximumHeight: 66
         text: card.text
         font.pixelSize: Theme.bodyText
+        lineHeight: Theme.lineSpacing
         color: Theme.mutedText
         horizontalAlignment: Text.AlignHCenter
     }

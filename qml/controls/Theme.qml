@@ -73,5 +73,7 @@ QtObject {
     readonly property int bodyText: 16
     readonly property int headingText: 21
     readonly property int faceText: 24
+    // Of texts with more than one line, whose lines would touch otherwise.
+    readonly property real lineSpacing: 1.2
     readonly property int monitorText: 32
 }

@@ -58,6 +58,7 @@ Item {
         wrapMode: Text.Wrap
         color: Theme.textGrey
         font.pixelSize: Theme.noteText
+        lineHeight: Theme.lineSpacing
 
         Announcement {
             visible: form.tellsSubline

@@ -75,6 +75,7 @@ Popup {
         maximumHeight: 54
         text: qsTr("Please select a jpg, jpeg or png image file with\nsize smaller than 2M to upload and crop an\nimage to be your profile picture.")
         font.pixelSize: Theme.smallText
+        lineHeight: Theme.lineSpacing
         color: Theme.textGrey
     }
 

@@ -75,6 +75,7 @@ Item {
             maximumHeight: picture.height
             text: qsTr("JPG, JPEG or PNG.\nMax size of 2M")
             font.pixelSize: Theme.smallText
+            lineHeight: Theme.lineSpacing
             color: Theme.hintText
         }
     }

@@ -29,6 +29,7 @@ Item {
         maximumWidth: byodSwitch.anchors.leftMargin - anchors.leftMargin - 16
         text: qsTr("The VORN device’s microphone, camera, and speakers will automatically activate \nwhen start a BYOD meeting.")
         font.pixelSize: Theme.smallText
+        lineHeight: Theme.lineSpacing
     }
 
     PanelSwitch {

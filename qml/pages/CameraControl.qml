@@ -42,6 +42,7 @@ Item {
             text: qsTr("Please turn on your camera in any app\nto make adjustments")
             color: Theme.textGrey
             font.pixelSize: Theme.faceText
+            lineHeight: Theme.lineSpacing
             horizontalAlignment: Text.AlignHCenter
         }
 

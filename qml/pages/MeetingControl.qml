@@ -50,6 +50,7 @@ Item {
         font.weight: Font.Bold
         text: qsTr("Hello!\nWelcome to VORN!")
         font.pixelSize: 30
+        lineHeight: Theme.lineSpacing
     }
 
     LatoBoldLabel {
@@ -128,6 +129,7 @@ Item {
         maximumHeight: 60
         text: qsTr("VORN K4V\nVolume")
         font.pixelSize: Theme.bodyText
+        lineHeight: Theme.lineSpacing
     }
 
     VolumeSlider {

@@ -129,6 +129,7 @@ FocusScope {
             maximumWidth: smartFramingSwitch.anchors.leftMargin - anchors.leftMargin - 8
             text: qsTr("Auto focus on multiple individuals and combine \nin a frame (up to 6 individuals)")
             font.pixelSize: Theme.smallText
+            lineHeight: Theme.lineSpacing
         }
 
         PanelSwitch {
