@@ -16,7 +16,7 @@ targets=()
 if [ "${1:-}" = --core ]; then
   shift
   targets=(core_tests)
-  set -- -L '^(logging|platform|launch|persistence|account|device|peripherals)$' "$@"
+  set -- -L '^(logging|platform|launch|persistence|account|portalhub|simulator|device|peripherals)$' "$@"
 fi
 
 began=$SECONDS
