@@ -1,5 +1,6 @@
 #include "ItemTree.h"
 
+#include "app/LoadCustomFont.h"
 #include "app/Translations.h"
 #include "rig/PageRig.h"
 
@@ -80,6 +81,7 @@ int main(int argc, char* argv[])
     Translations translations;
     translations.install(QLocale::system().uiLanguages());
     const int font = QFontDatabase::addApplicationFont(QStringLiteral(VORN_LATO_FONT));
+    preferTypographicLineHeight();
     PageRig rig;
     QQuickView view;
     view.rootContext()->setContextProperty(u"LatoRegular"_s,

@@ -25,7 +25,8 @@ QString LongEnglish::translate(const char* context, const char* sourceText,
     QString text = QString::fromUtf8(sourceText);
     if (text == "hh:mm AP"_L1 || text == "ddd, MMM dd, yyyy"_L1)
         return text;
-    text.replace(u'\n', u' '); // a translator breaks the lines elsewhere
+    if (text.contains(u'.')) // the translator of a sentence breaks its lines elsewhere
+        text.replace(u'\n', u' ');
     static const QRegularExpression s_word(u"[^\\s%]{2,}"_s);
     qsizetype offset = 0;
     for (QRegularExpressionMatch word = s_word.match(text); word.hasMatch();
