@@ -24,6 +24,8 @@ constexpr DWORD Aborted = 0xE0564F53;
 
 constexpr DWORD DumpPatienceMs = 10'000;
 constexpr DWORD LogPatienceMs = 1'000;
+constexpr const char* StuckOutcome = "Failed to write dump file:1460";
+static_assert(ERROR_TIMEOUT == 1460);
 
 using SignalHandler = void (*)(int);
 // If a handler for one of these is set, the C library does not pass the exception to the filter.
@@ -92,43 +94,62 @@ void writeDump(DWORD thread, EXCEPTION_POINTERS* exceptionPointers)
         std::snprintf(g_outcome.data(), g_outcome.size(), "Failed to write dump file:%lu", error);
 }
 
-/// Writes the dump and the log lines on a thread of its own, because the crashed thread may have no
-/// stack left and may hold the lock of the logger. For that reason the log lines follow the dump.
-struct Reporter {
-    platform::CrashLine writeLine = nullptr;
-    HANDLE wake = nullptr;
-    HANDLE written = nullptr;
+/// What the threads of a crash wait for. The dump and the log lines have a thread each, because the
+/// crashed one may have no stack left and may hold the lock of the logger.
+struct CrashEvents {
+    HANDLE crashed = nullptr;
+    HANDLE announced = nullptr; // in the log
+    HANDLE mayWrite = nullptr;
+    HANDLE written = nullptr; // with g_outcome
     HANDLE logged = nullptr;
+};
+CrashEvents g_events;
+
+struct Crash {
     DWORD thread = 0;
     EXCEPTION_POINTERS* exceptionPointers = nullptr;
-
-    void run()
-    {
-        WaitForSingleObject(wake, INFINITE);
-        writeDump(thread, exceptionPointers);
-        SetEvent(written);
-        writeLine("Creating dump file...");
-        writeLine(g_outcome.data());
-        SetEvent(logged);
-    }
 };
-Reporter g_report;
+Crash g_crash;
 
-// Only the first crash is dumped; later ones are probably consequences of it.
+bool waitFor(HANDLE event, DWORD patienceMs)
+{
+    return WaitForSingleObject(event, patienceMs) == WAIT_OBJECT_0;
+}
+
+void writeDumpOnRequest()
+{
+    WaitForSingleObject(g_events.mayWrite, INFINITE);
+    writeDump(g_crash.thread, g_crash.exceptionPointers);
+    SetEvent(g_events.written);
+}
+
+void logOnCrash(platform::CrashLine writeLine)
+{
+    WaitForSingleObject(g_events.crashed, INFINITE);
+    writeLine("Creating dump file...");
+    SetEvent(g_events.announced);
+    writeLine(waitFor(g_events.written, DumpPatienceMs) ? g_outcome.data() : StuckOutcome);
+    SetEvent(g_events.logged);
+}
+
+// Only the first crash is dumped; later ones are probably consequences of it. The log line comes
+// before the dump, which stops all threads: one that is stopped in the logger could hold a lock
+// that the dump needs.
 LONG GenerateDump(EXCEPTION_POINTERS* exceptionPointers)
 {
     DWORD reporter = 0;
     const DWORD thread = GetCurrentThreadId();
     if (g_reporter.compare_exchange_strong(reporter, thread)) {
         g_exitCode = exceptionPointers->ExceptionRecord->ExceptionCode;
-        g_report.thread = thread;
-        g_report.exceptionPointers = exceptionPointers;
-        SetEvent(g_report.wake);
+        g_crash = {thread, exceptionPointers};
+        SetEvent(g_events.crashed);
+        waitFor(g_events.announced, LogPatienceMs);
+        SetEvent(g_events.mayWrite);
     } else if (reporter == thread) { // the abort() after a reported crash
         return EXCEPTION_EXECUTE_HANDLER;
     }
-    WaitForSingleObject(g_report.written, DumpPatienceMs);
-    WaitForSingleObject(g_report.logged, LogPatienceMs);
+    waitFor(g_events.written, DumpPatienceMs);
+    waitFor(g_events.logged, LogPatienceMs);
     FlsSetValue(g_endSlot, &g_exitCode); // last, because it may need memory from the heap
     return EXCEPTION_EXECUTE_HANDLER;
 }
@@ -204,14 +225,14 @@ void NTAPI endWithCodeOfCrash(void* value)
         TerminateProcess(GetCurrentProcess(), g_exitCode);
 }
 
-void startReporter(platform::CrashLine writeLine)
+// Detached: the threads wait until a crash and use only objects that are never destroyed.
+void startReporters(platform::CrashLine writeLine)
 {
-    g_report.writeLine = writeLine;
-    g_report.wake = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    g_report.written = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    g_report.logged = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    // Detached: it waits until a crash and uses only objects that are never destroyed.
-    std::thread([] { g_report.run(); }).detach();
+    for (HANDLE* const event : {&g_events.crashed, &g_events.announced, &g_events.mayWrite,
+                                &g_events.written, &g_events.logged})
+        *event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    std::thread(writeDumpOnRequest).detach();
+    std::thread(logOnCrash, writeLine).detach();
 }
 
 } // namespace
@@ -222,7 +243,7 @@ namespace platform
 void installCrashHandler(CrashLine writeLine)
 {
     storeProgramName();
-    startReporter(writeLine);
+    startReporters(writeLine);
     g_endSlot = FlsAlloc(endWithCodeOfCrash);
     reserveStackForCrash();
     SetUnhandledExceptionFilter(onUnhandledException);
