@@ -8,11 +8,13 @@
 
 /// The task queue on a thread of its own. Main thread; tasks are posted by a queued connection to
 /// queue().
-class TaskThread
+class TaskThread : public QObject
 {
+    Q_OBJECT
+
 public:
     TaskThread();
-    ~TaskThread();
+    ~TaskThread() override;
     Q_DISABLE_COPY_MOVE(TaskThread)
 
     TaskQueue& queue() { return m_queue; }
@@ -23,6 +25,9 @@ public:
     void requestStop();
     /// Asks the thread to end and waits for it. Any thread but the queue's.
     void end();
+
+signals:
+    void stopRequested(QPrivateSignal);
 
 private:
     TaskQueue m_queue; // the queue's thread, once it runs
